@@ -1,0 +1,57 @@
+# What every target is compiled with, and how a room becomes a library and a test program.
+
+add_library(tensarix_flags INTERFACE)
+target_compile_options(tensarix_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(TENSARIX_SANITIZE)
+  target_compile_options(tensarix_flags INTERFACE
+    -O1 -g1 -fno-omit-frame-pointer -fsanitize=address,undefined -fno-sanitize-recover=all)
+  target_link_options(tensarix_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# A room's headers are included as "room/Header.h". Each room gets an include folder that holds
+# nothing but a link to the room itself, so that an include of a room that was not declared under
+# USES does not build.
+function(tensarix_room_includes room target scope)
+  set(floor ${CMAKE_BINARY_DIR}/floors/${room})
+  file(MAKE_DIRECTORY ${floor})
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${room} ${floor}/${room} SYMBOLIC RESULT failed)
+  if(failed)
+    set(floor ${CMAKE_SOURCE_DIR}/src)
+  endif()
+  target_include_directories(${target} ${scope} ${floor})
+endfunction()
+
+# tensarix_room(name [USES rooms...] [LIBRARIES targets...])
+# builds src/name/*.cpp into the library of that name, and tests/name/*.cpp into name_tests.
+function(tensarix_room name)
+  cmake_parse_arguments(ROOM "" "" "USES;LIBRARIES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    tensarix_room_includes(${name} ${name} PUBLIC)
+    target_link_libraries(${name} PUBLIC ${ROOM_USES} PRIVATE ${ROOM_LIBRARIES} tensarix_flags)
+  else()
+    add_library(${name} INTERFACE)
+    tensarix_room_includes(${name} ${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${ROOM_USES})
+  endif()
+  if(TENSARIX_TESTS)
+    tensarix_tests(${name})
+  endif()
+endfunction()
+
+# tensarix_tests(name [targets...]): tests/name/*.cpp as one program, run by CTest.
+function(tensarix_tests name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${name}_tests ${sources})
+  target_include_directories(${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name}_tests PRIVATE
+    TENSARIX_SOURCE_DIR="${CMAKE_SOURCE_DIR}" TENSARIX_PROGRAM_DIR="${CMAKE_BINARY_DIR}/program")
+  target_link_libraries(${name}_tests PRIVATE ${name} ${ARGN} GTest::gtest GTest::gtest_main
+    tensarix_flags)
+  add_test(NAME ${name} COMMAND ${name}_tests)
+endfunction()
