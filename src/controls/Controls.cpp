@@ -57,11 +57,13 @@ void ComboBox::Clear() {
     items_.clear();
     text_.clear();
     listIndex_ = -1;
+    ++itemsVersion_;
     Shown.Changed();
 }
 
 void ComboBox::Add(std::string item) {
     items_.push_back(std::move(item));
+    ++itemsVersion_;
     Shown.Changed();
 }
 

@@ -92,6 +92,8 @@ class ComboBox {
     int Count() const { return static_cast<int>(items_.size()); }
     // Fails outside 0 .. Count - 1.
     const std::string& Item(int position) const;
+    // Counts the changes of the items, so that a view knows when to list them again.
+    unsigned ItemsVersion() const { return itemsVersion_; }
     int ListIndex() const { return listIndex_; }
     // Runs OnChange if the position or the text differs. -1: none. Fails outside -1 .. Count - 1,
     // and then nothing has changed.
@@ -112,6 +114,7 @@ class ComboBox {
     std::string text_;
     Placement place_;
     int listIndex_ = -1;
+    unsigned itemsVersion_ = 0;
     bool enabled_ = true;
     bool visible_ = true;
 };

@@ -43,6 +43,7 @@ class FlexGrid {
     Handler OnSelChange; // after the current cell has changed
     Handler OnMouseDown; // left button, after the cell under it has become current
     Handler OnPopup;     // right button up, or the keyboard's menu key
+    Handler OnCopy;      // Ctrl+C
     Handler OnDblClick;
     Handler OnScroll;
     std::function<void(double xTwips)> OnMouseMove; // from the grid's left edge

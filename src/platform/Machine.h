@@ -64,6 +64,14 @@ class MainWindow {
     virtual void Close() = 0;
 };
 
+// One program a user: a second start raises the first one's window and ends.
+class Instance {
+  public:
+    virtual ~Instance() = default;
+    virtual bool Other_Runs() = 0;
+    virtual void Raise_Other() = 0;
+};
+
 // The store lies in the program's folder. The data files lie there too, or in the user's data
 // folder where the program's can't be written.
 struct Folders {
@@ -79,6 +87,7 @@ struct Machine {
     Clock& Time;
     EventLoop& Events;
     MainWindow& Window;
+    Instance& Guard;
     Folders Places;
 };
 
