@@ -72,12 +72,9 @@ struct Amount {
 };
 
 Amount Split_Amount(double value, bool hundredthsOnly) {
-    if (hundredthsOnly) {
-        const std::string hundredths = General_Text(std::trunc(value * 100));
-        return {hundredths, hundredths};
-    }
-    const std::string fixed = Format_Number(value, "#0.00");
-    return {General_Text(std::trunc(value)), fixed.substr(fixed.find('.') + 1)};
+    const std::string whole = General_Text(std::trunc(hundredthsOnly ? value * 100 : value));
+    const std::string fixed = hundredthsOnly ? whole : Format_Number(value, "#0.00");
+    return {whole, fixed.substr(fixed.find('.') + 1)}; // without a point: all of it
 }
 
 // A blank, the unit's name, and the plural s where the number is above 1.
