@@ -204,8 +204,8 @@ Placement FlexGrid::Cell_Place() const {
 }
 
 std::string FlexGrid::Clip() const {
-    const auto [firstRow, lastRow] = std::minmax(row_, rowSel_);
-    const auto [firstCol, lastCol] = std::minmax(col_, colSel_);
+    const auto [firstRow, lastRow] = std::minmax({row_, rowSel_});
+    const auto [firstCol, lastCol] = std::minmax({col_, colSel_});
     std::string clip;
     for (int row = firstRow; row <= lastRow; ++row) {
         for (int col = firstCol; col <= lastCol; ++col)

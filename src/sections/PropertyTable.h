@@ -28,7 +28,7 @@ struct Property {
     std::string_view Meaning;
     std::string_view USColumn, SIColumn;
     PropertyKind Kind = PropertyKind::Number;
-    std::string_view USUnit, SIUnit;
+    std::string_view USUnit = {}, SIUnit = {};
     // Columns that are taken off twice: the depth between the fillets has no column of its own.
     std::string_view USLessTwice = {}, SILessTwice = {};
     bool WritesUnit = true;

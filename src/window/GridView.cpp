@@ -37,6 +37,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent), frozen_(new QTableView
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    horizontalHeader()->setStretchLastSection(true);
 
     frozen_->setFocusPolicy(Qt::NoFocus);
     frozen_->setFrameShape(QFrame::NoFrame);
@@ -178,8 +179,8 @@ void GridView::Pull_Scroll() {
 }
 
 void GridView::Pull_Selection() {
-    const auto [top, bottom] = std::minmax(grid_->Row(), grid_->RowSel());
-    const auto [left, right] = std::minmax(grid_->Col(), grid_->ColSel());
+    const auto [top, bottom] = std::minmax({grid_->Row(), grid_->RowSel()});
+    const auto [left, right] = std::minmax({grid_->Col(), grid_->ColSel()});
     if (!model_->hasIndex(0, 0))
         return;
     selectionModel()->setCurrentIndex(Index(grid_->Row(), grid_->Col()),
@@ -309,7 +310,8 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 QRect GridView::Cell_Rect(int row, int col) const {
-    const QTableView& pane = col < grid_->FixedCols() ? *frozen_ : *this;
+    const QTableView& self = *this;
+    const QTableView& pane = col < grid_->FixedCols() ? *frozen_ : self;
     const QRect cell = pane.visualRect(Index(row, col));
     return {pane.viewport()->mapTo(this, cell.topLeft()), cell.size()};
 }
