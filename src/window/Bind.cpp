@@ -147,7 +147,8 @@ class TextKeys final : public QObject {
 void Bind(QComboBox* widget, ComboBox& control) {
     auto* model = new ItemModel(control, widget);
     widget->setModel(model);
-    widget->setCompleter(nullptr);
+    if (widget->isEditable())
+        widget->setCompleter(nullptr);
     new ComboKeys(widget, control);
     const auto pull = [widget, model, &control] {
         const QSignalBlocker quiet(widget);
