@@ -17,10 +17,12 @@ class QStatusBar;
 namespace Tensarix {
 
 class GridView;
+class Link;
 class PictureView;
 
-void Bind(QComboBox* widget, ComboBox& control);
-void Bind(QLineEdit* widget, TextBox& control);
+// The link, for what else the widget takes over from its control.
+Link* Bind(QComboBox* widget, ComboBox& control);
+Link* Bind(QLineEdit* widget, TextBox& control);
 void Bind(QPushButton* widget, Button& control);
 void Bind(QAbstractButton* widget, OptionButton& control);
 void Bind(QLabel* widget, Label& control);

@@ -18,6 +18,7 @@ class GridView : public QTableView {
 
   public:
     explicit GridView(QWidget* parent = nullptr);
+    ~GridView() override;
 
     // Once, by Bind.
     void Show_Grid(FlexGrid& grid);
@@ -30,7 +31,9 @@ class GridView : public QTableView {
     double Twip_Scale() const;
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -54,6 +57,8 @@ class GridView : public QTableView {
     void Scrolled();
     void Reveal_Current();
     bool Move_Key(QKeyEvent* event);
+    bool Tab_Key(const QKeyEvent& event);
+    void Edit_Key(QKeyEvent* event);
     bool Go_To(int row, int col, bool extend);
     void Press(QTableView& pane, QMouseEvent* event);
     void Drag(QTableView& pane, QMouseEvent* event);
