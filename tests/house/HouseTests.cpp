@@ -78,8 +78,8 @@ TEST(House, ARoomIncludesOnlyRoomsBelowIt) {
 TEST(House, EveryRoomIsDeclaredWithItsFloor) {
     std::ifstream file(fs::path(TENSARIX_SOURCE_DIR) / "CMakeLists.txt");
     const std::string text{std::istreambuf_iterator<char>(file), {}};
-    for (const auto& [room, floor] : floors)
-        if (room != "window")
-            EXPECT_TRUE(std::regex_search(text, std::regex("tensarix_room\\(" + room + "\\b")))
-                << room;
+    for (const auto& [room, floor] : floors) {
+        const std::regex declared("tensarix_room\\(" + room + "\\b");
+        EXPECT_TRUE(room == "window" || std::regex_search(text, declared)) << room;
+    }
 }

@@ -193,7 +193,7 @@ TEST_F(BrowseTest, TheFamilyAndTheSelectionAreSpoken) {
     page.ShapeFlex.Move_To(Row_Of("Ix"), 1);
     EXPECT_EQ(machine.Speech.Spoken,
               (std::vector<std::string>{
-                  "W = 56.9 POUNDS PER FOOT :: Nominal Weight", "I X = 408 :: TIMES 10 TO THE POWER 5 MM TO THE POWER 4 :: Moment of "
+                  "W = 56.9 POUNDS PER FOOT :: Nominal Weight", "I X = 41 :: TIMES 10 TO THE POWER 6 MM TO THE POWER 4 :: Moment of "
                             "Inertia about the x-axis"}));
 }
 

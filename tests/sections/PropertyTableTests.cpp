@@ -50,7 +50,7 @@ TEST(FormatSiProperty, ShortensToTheDigitsThatFit) {
         {1030, "1x10^3"},
         {1230, "1230.00  "}, // no whole triple behind the first zero
         {1234, "0.00"},      // no zero at all
-        {20000, "20x10^3"},
+        {20000, "2x10^4"},
         {108000, "108x10^3"},
         {6070000, "6x10^6"},
     };
