@@ -55,6 +55,21 @@ TEST(ComboBox, TwoListsKeepInStep) {
     EXPECT_EQ(work, 2);
 }
 
+TEST(ComboBox, ATypedBeginningFindsTheNearestDesignation) {
+    ComboBox combo;
+    for (const char* item : {"W18x311", "W18x55", "W18x50", "W12x305", "W12x30", "W12x26"})
+        combo.Add(item);
+    const auto found = [&](const char* typed) {
+        const int position = Find_By_Typing(combo, typed);
+        return position < 0 ? std::string{} : combo.Item(position);
+    };
+    EXPECT_EQ(found("w18x5"), "W18x50");
+    EXPECT_EQ(found("W12X30"), "W12x30");
+    EXPECT_EQ(found("w12x305"), "W12x305");
+    EXPECT_EQ(found("w12"), "W12x26");
+    EXPECT_EQ(found("w13"), "");
+}
+
 TEST(OptionButton, OneOfAGroupIsChosen) {
     OptionButton first, second;
     OptionButton::Group({&first, &second});
