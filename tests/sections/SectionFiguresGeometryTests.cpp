@@ -70,6 +70,17 @@ double Plastic(std::vector<Plate> plates, double at, bool vertical = false) {
     return sum;
 }
 
+// The area on the low side of the axis; an axis of equal areas has half of it there.
+double Area_Below(const std::vector<Plate>& plates, double at, bool vertical = false) {
+    double sum = 0;
+    for (const Plate& q : plates) {
+        const double size = vertical ? q.Width : q.Height;
+        const double low = (vertical ? q.X : q.Y) - size / 2;
+        sum += q.Sign * q.Width * q.Height * std::clamp((at - low) / size, 0.0, 1.0);
+    }
+    return sum;
+}
+
 // A fillet between web and flange is taken as a square of its area, with its own centre.
 Plate Fillet(double size, double x, double y, double signX, double signY) {
     const double side = size * std::sqrt(1 - pi / 4);
@@ -224,6 +235,9 @@ double Channel_Iy(const Row& r) {
 }
 double Channel_Zy(const Row& r) {
     return Plastic(Channel(r), r("XP"), true);
+}
+double Twice_Below_Yp(const Row& r) {
+    return 2 * Area_Below(Tee(r), r("YP"));
 }
 double Web_Ratio(const Row& r) {
     return (r("D") - 2 * r("KDES")) / r("TW");
@@ -398,6 +412,15 @@ const Check checks[] = {
     {"MT ST", "IX", 0.04, [](R r) { return Of(Tee(r)).Ix; }},
     {"WT", "ZX", 0.01, [](R r) { return Plastic(Tee(r), r("YP")); }},
     {"MT ST", "ZX", 0.04, [](R r) { return Plastic(Tee(r), r("YP")); }},
+    // The plastic axes halve the area.
+    {"WT", "A", 0.011, Twice_Below_Yp},
+    {"MT", "A", 0.1, Twice_Below_Yp},
+    {"ST", "A", 0.044, Twice_Below_Yp},
+    {"L-Eq", "A", 0.017, [](R r) { return 2 * Area_Below(Angle(r), r("YP")); }},
+    {"L-UnEq", "A", 0.042, [](R r) { return 2 * Area_Below(Angle(r), r("YP")); }},
+    {angles, "A", 0.018, [](R r) { return 2 * Area_Below(Angle(r), r("XP"), true); }},
+    {"C MC", "A", 0.06, [](R r) { return 2 * Area_Below(Channel(r), r("XP"), true); }},
+
     {"WT MT ST L-Eq L-UnEq 2L-Eq 2L-UnEq", "SX", 0.012,
      [](R r) { return r("IX") / (r("D") - r("Y")); }},
     {tees, "D", 0.005, [](R r) { return Parent(r)("D") / 2; }},
