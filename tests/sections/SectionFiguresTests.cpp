@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstdint>
 #include <fstream>
-#include <regex>
 #include <set>
 
 using namespace Tensarix;
@@ -31,72 +30,57 @@ std::vector<Fields> Read_Csv(const std::string& name) {
     return lines;
 }
 
-// "8x6x7/8" or "2-1/2x3/16" in inches or millimetres.
-std::vector<double> Sizes(std::string text) {
-    std::vector<double> sizes;
-    for (text += 'x'; !text.empty(); text.erase(0, text.find('x') + 1)) {
-        static const std::regex form{R"((?:(\d+)-)?(\d+)/(\d+)|(\d+(?:\.\d+)?))"};
-        const std::string piece = text.substr(0, text.find('x'));
-        std::smatch m;
-        if (!std::regex_match(piece, m, form)) {
-            ADD_FAILURE() << "no size: " << piece;
-            return sizes;
-        }
-        sizes.push_back(m[4].matched ? Text_Number(m[4].str())
-                                     : Leading_Value(m[1].str()) +
-                                           Text_Number(m[2].str()) / Text_Number(m[3].str()));
-    }
-    return sizes;
+// "7/8", "2-1/2" or a decimal number.
+double Size(const std::string& text) {
+    EXPECT_EQ(text.find_first_not_of("0123456789./-"), std::string::npos) << text;
+    const std::size_t slash = text.find('/');
+    if (slash == std::string::npos)
+        return Text_Number(text);
+    const std::size_t dash = text.find('-');
+    const std::size_t start = dash == std::string::npos ? 0 : dash + 1;
+    return (start == 0 ? 0 : Text_Number(text.substr(0, dash))) +
+           Text_Number(text.substr(start, slash - start)) / Text_Number(text.substr(slash + 1));
 }
 
-// The form of a designation, and its parts: sizes (US or SI) and what stands behind them.
+// A designation is a prefix, sizes with an x between them, and a tail.
 struct Form {
-    const char* Us;
-    const char* Si;
+    std::string Prefix;
+    std::size_t Sizes;
+    std::vector<std::string> Tails;
 };
 
-#define INCH R"((?:\d+-)?\d+(?:/\d+)?)"
-#define NUMBER R"(\d+(?:\.\d+)?)"
-
 const std::map<std::string, Form> forms{
-    {"HSS-Rec", {"HSS(" INCH "(?:x" INCH "){2})()", "HSS(" NUMBER "(?:x" NUMBER "){2})()"}},
-    {"HSS-Sqr", {"HSS(" INCH "(?:x" INCH "){2})()", "HSS(" NUMBER "(?:x" NUMBER "){2})()"}},
-    {"HSS-Rnd", {R"(HSS(\d+\.\d{3}x0\.\d{3})())", "HSS(" NUMBER "x" NUMBER ")()"}},
-    {"Pipe", {"Pipe(" INCH ")(STD|XS|XXS)", R"(Pipe(\d+)(STD|XS|XXS))"}},
-    {"L-Eq", {"L(" INCH "(?:x" INCH "){2})()", R"(L(\d+x\d+x)" NUMBER ")()"}},
-    {"L-UnEq", {"L(" INCH "(?:x" INCH "){2})()", R"(L(\d+x\d+x)" NUMBER ")()"}},
-    {"2L-Eq", {"2L(" INCH "(?:x" INCH "){2,3})()", R"(2L(\d+x\d+x)" NUMBER R"((?:x\d+)?)())"}},
-    {"2L-UnEq",
-     {"2L(" INCH "(?:x" INCH "){2,3})(LLBB|SLBB)",
-      R"(2L(\d+x\d+x)" NUMBER R"((?:x\d+)?)(LLBB|SLBB))"}},
+    {"HSS-Rec", {"HSS", 3, {}}}, {"HSS-Sqr", {"HSS", 3, {}}},
+    {"HSS-Rnd", {"HSS", 2, {}}}, {"Pipe", {"Pipe", 1, {"STD", "XXS", "XS"}}},
+    {"L-Eq", {"L", 3, {}}},      {"L-UnEq", {"L", 3, {}}},
+    {"2L-Eq", {"2L", 3, {}}},    {"2L-UnEq", {"2L", 3, {"LLBB", "SLBB"}}},
 };
 
 struct Designation {
-    std::vector<double> Sizes;
+    std::vector<double> Sizes; // US or SI
     std::string Tail;
 };
 
-const std::regex& Pattern(const std::string& family, bool si) {
-    static std::map<std::pair<std::string, bool>, std::regex> patterns; // slow to compile
-    auto known = patterns.find({family, si});
-    if (known == patterns.end()) {
-        const auto form = forms.find(family);
-        const std::string text = form == forms.end() ? family + "(" NUMBER "x" NUMBER ")()"
-                                 : si                ? form->second.Si
-                                                     : form->second.Us;
-        known = patterns.emplace(std::pair{family, si}, text).first;
-    }
-    return known->second;
-}
-
 Designation Read_Designation(const FigureRow& row, bool si) {
-    const std::string& name = si ? row.Si : row.Us;
-    std::smatch m;
-    if (!std::regex_match(name, m, Pattern(row.Family, si))) {
-        ADD_FAILURE() << name << " is no designation of " << row.Family;
-        return {};
-    }
-    return {Sizes(m[1].str()), m[2].str()};
+    std::string name = si ? row.Si : row.Us;
+    const auto found = forms.find(row.Family);
+    const Form form = found == forms.end() ? Form{row.Family, 2, {}} : found->second;
+    EXPECT_TRUE(name.starts_with(form.Prefix)) << name;
+    // Fractions of an inch, but for the decimals of rolled shapes and round HSS.
+    const bool decimals = si || found == forms.end() || row.Family == "HSS-Rnd";
+    EXPECT_EQ(name.find(decimals ? '/' : '.'), std::string::npos) << name;
+    Designation result;
+    for (const std::string& tail : form.Tails)
+        if (result.Tail.empty() && name.ends_with(tail))
+            result.Tail = tail;
+    EXPECT_EQ(result.Tail.empty(), form.Tails.empty()) << name;
+    name = name.substr(form.Prefix.size(), name.size() - form.Prefix.size() - result.Tail.size()) +
+           "x";
+    for (std::size_t at = 0; at < name.size(); at = name.find('x', at) + 1)
+        result.Sizes.push_back(Size(name.substr(at, name.find('x', at) - at)));
+    const std::size_t gap = form.Prefix == "2L" && result.Sizes.size() == 4 ? 1 : 0;
+    EXPECT_EQ(result.Sizes.size(), form.Sizes + gap) << name;
+    return result;
 }
 
 // What every size of a designation has to be in the row: column names in the order of the sizes.

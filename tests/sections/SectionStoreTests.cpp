@@ -52,6 +52,11 @@ class SectionStoreTest : public testing::Test {
             sql);
     }
 
+    void Put(const Bytes& bytes) const {
+        std::ofstream{store, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()),
+                                                     static_cast<std::streamsize>(bytes.size()));
+    }
+
     SectionRead Read(const std::string& sql) const { return {folder, sql}; }
 
     fs::path folder, store;
@@ -201,7 +206,7 @@ TEST_F(SectionStoreTest, WhatIsNoStoreDoesNotOpen) {
     fails();
     for (const std::string& content :
          {std::string{}, std::string{"TYPE,SEQ\n"}, std::string(5000, '\0')}) {
-        ASSERT_TRUE(Replace_File(store, Bytes(content.begin(), content.end())));
+        Put(Bytes(content.begin(), content.end()));
         fails();
     }
     fs::remove(store);
@@ -252,12 +257,11 @@ TEST_F(SectionStoreTest, DamagedFilesNeverCrash) {
             for (std::size_t i = 0; i < (round % 3 == 1 ? 400u : 40u) && !bytes.empty(); ++i)
                 bytes[100 + any(round % 3 == 1 ? bytes.size() - 100 : 12000)] =
                     static_cast<std::uint8_t>(random());
-        std::ofstream{store, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()),
-                                                     static_cast<std::streamsize>(bytes.size()));
+        Put(bytes);
         readable += Read_Everything(folder) ? 1 : 0;
     }
     EXPECT_LT(readable, 150);
-    ASSERT_TRUE(Replace_File(store, good)); // replaced while the program runs
+    Put(good); // replaced while the program runs
     EXPECT_TRUE(Read_Everything(folder));
     fs::remove(store); // and deleted
     EXPECT_FALSE(Read_Everything(folder));
