@@ -1,0 +1,132 @@
+// One pass of each search against the plain loops. The counter ratio_to_plain is the engine's time
+// over the plain loop's, measured in turn in the same run.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+
+#include "PlainSearches.h"
+#include "connections/WeldConfigurations.h"
+#include "connections/WeldPass.h"
+
+namespace Tensarix {
+namespace {
+
+template <typename Work>
+double Seconds_Of(Work&& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// The best of each in turns, so that another process on the machine weighs on neither.
+template <typename Engine, typename Reference>
+void Compare(benchmark::State& state, Engine&& engine, Reference&& reference) {
+    double best = 1e9;
+    double bestReference = 1e9;
+    for (auto _ : state) {
+        const double seconds = Seconds_Of(engine);
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds);
+        bestReference = std::min(bestReference, Seconds_Of(reference));
+    }
+    state.counters["ratio_to_plain"] = best / bestReference;
+}
+
+constexpr long Passes = 2000;
+
+// A search that overshoots, so that it has passes enough.
+constexpr double Eccentricity = 8;
+constexpr double SteepAngle = 75;
+
+double Angle_For(const BoltGroup& group) {
+    return group.m > 3 ? SteepAngle : 0;
+}
+
+double Some_Bolt_Passes(const BoltGroup& group, int stride) {
+    long left = Passes / stride;
+    const auto turn = [&] { return --left > 0; };
+    SearchYield yield(turn, stride);
+    try {
+        return BoltCoefficientC(group, Eccentricity, Angle_For(group), yield);
+    } catch (const SearchAbandoned&) {
+        return 0;
+    }
+}
+
+BoltGroup Group_Of(const benchmark::State& state) {
+    return {std::int16_t(state.range(0)), std::int16_t(state.range(1)), 3, 3};
+}
+
+void BM_BoltPass(benchmark::State& state) {
+    const BoltGroup group = Group_Of(state);
+    Compare(
+        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(group, 1)); },
+        [&] {
+            benchmark::DoNotOptimize(Plain::BoltC(group, Eccentricity, Angle_For(group), Passes));
+        });
+}
+BENCHMARK(BM_BoltPass)->Args({3, 1})->Args({6, 2})->Args({12, 4})->Args({40, 10})->UseManualTime();
+
+// Every yield asked against the stride of the program: the cost of yielding.
+void BM_BoltYield(benchmark::State& state) {
+    const BoltGroup group = Group_Of(state);
+    Compare(
+        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(group, BoltYieldStride)); },
+        [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(group, Passes)); });
+}
+BENCHMARK(BM_BoltYield)->Args({3, 1})->Args({6, 2})->UseManualTime();
+
+std::vector<WeldLine> Turned_Box(double angle) {
+    std::vector<WeldLine> lines = WeldConfigurationLines(4, 100, 50);
+    const double theta = angle * Plain::TruncatedPi / 180;
+    for (WeldLine& line : lines) {
+        const WeldLine old = line;
+        line.x1 = old.x1 * std::cos(theta) - old.y1 * std::sin(theta);
+        line.y1 = old.x1 * std::sin(theta) + old.y1 * std::cos(theta);
+        line.x2 = old.x2 * std::cos(theta) - old.y2 * std::sin(theta);
+        line.y2 = old.x2 * std::sin(theta) + old.y2 * std::cos(theta);
+        line.lineAngle = WeldLineAngle(line);
+    }
+    return lines;
+}
+
+using Clock = std::chrono::steady_clock;
+
+double Weld_Pass(const std::vector<WeldLine>& lines, std::int16_t strips, int stride) {
+    WeldState state;
+    state.StripsPerUnit = strips;
+    WeldPass pass;
+    Clock::time_point seen;
+    const auto turn = [&] {
+        seen = Clock::now();
+        return true;
+    };
+    SearchYield yield(turn, stride);
+    Take_Weld_Pass(lines, 123.4, state, pass, yield);
+    benchmark::DoNotOptimize(seen);
+    return pass.SM;
+}
+
+void BM_WeldPass(benchmark::State& state) {
+    const std::vector<WeldLine> lines = Turned_Box(double(state.range(0)));
+    const auto strips = std::int16_t(state.range(1));
+    Compare(
+        state, [&] { benchmark::DoNotOptimize(Weld_Pass(lines, strips, WeldYieldStride)); },
+        [&] { benchmark::DoNotOptimize(Plain::WeldPassSums(lines, 123.4, strips)); });
+}
+BENCHMARK(BM_WeldPass)->Args({0, 4})->Args({30, 4})->Args({0, 32})->Args({30, 32})->UseManualTime();
+
+// The clock looked at in the program's stride against never.
+void BM_WeldYield(benchmark::State& state) {
+    const std::vector<WeldLine> lines = Turned_Box(double(state.range(0)));
+    Compare(
+        state, [&] { benchmark::DoNotOptimize(Weld_Pass(lines, 4, WeldYieldStride)); },
+        [&] { benchmark::DoNotOptimize(Weld_Pass(lines, 4, 1 << 30)); });
+}
+BENCHMARK(BM_WeldYield)->Arg(0)->Arg(30)->UseManualTime();
+
+} // namespace
+} // namespace Tensarix
+
+BENCHMARK_MAIN();
