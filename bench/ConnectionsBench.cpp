@@ -33,49 +33,61 @@ void Compare(benchmark::State& state, Engine&& engine, Reference&& reference) {
     state.counters["ratio_to_plain"] = best / bestReference;
 }
 
+using Clock = std::chrono::steady_clock;
+
 constexpr long Passes = 2000;
 
-// A search that overshoots, so that it has passes enough.
-constexpr double Eccentricity = 8;
-constexpr double SteepAngle = 75;
+// Searches that overshoot, so that they have passes enough.
+struct BoltCase {
+    BoltGroup group;
+    double ex, angle;
+};
 
-double Angle_For(const BoltGroup& group) {
-    return group.m > 3 ? SteepAngle : 0;
+BoltCase Case_Of(const benchmark::State& state) {
+    return {{std::int16_t(state.range(0)), std::int16_t(state.range(1)), 3, 3},
+            double(state.range(2)),
+            double(state.range(3))};
 }
 
-double Some_Bolt_Passes(const BoltGroup& group, int stride) {
+double Some_Bolt_Passes(const BoltCase& bolts, int stride) {
     long left = Passes / stride;
-    const auto turn = [&] { return --left > 0; };
+    Clock::time_point seen;
+    const auto turn = [&] {
+        seen = Clock::now();
+        benchmark::DoNotOptimize(seen);
+        return --left > 0;
+    };
     SearchYield yield(turn, stride);
     try {
-        return BoltCoefficientC(group, Eccentricity, Angle_For(group), yield);
+        return BoltCoefficientC(bolts.group, bolts.ex, bolts.angle, yield);
     } catch (const SearchAbandoned&) {
         return 0;
     }
 }
 
-BoltGroup Group_Of(const benchmark::State& state) {
-    return {std::int16_t(state.range(0)), std::int16_t(state.range(1)), 3, 3};
-}
-
 void BM_BoltPass(benchmark::State& state) {
-    const BoltGroup group = Group_Of(state);
+    const BoltCase bolts = Case_Of(state);
     Compare(
-        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(group, 1)); },
+        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, BoltYieldStride)); },
         [&] {
-            benchmark::DoNotOptimize(Plain::BoltC(group, Eccentricity, Angle_For(group), Passes));
+            benchmark::DoNotOptimize(Plain::BoltC(bolts.group, bolts.ex, bolts.angle, Passes));
         });
 }
-BENCHMARK(BM_BoltPass)->Args({3, 1})->Args({6, 2})->Args({12, 4})->Args({40, 10})->UseManualTime();
+BENCHMARK(BM_BoltPass)
+    ->Args({3, 1, 8, 0})
+    ->Args({6, 2, 6, 75})
+    ->Args({12, 4, 6, 75})
+    ->Args({40, 10, 6, 75})
+    ->UseManualTime();
 
-// Every yield asked against the stride of the program: the cost of yielding.
+// The program's stride against never asking.
 void BM_BoltYield(benchmark::State& state) {
-    const BoltGroup group = Group_Of(state);
+    const BoltCase bolts = Case_Of(state);
     Compare(
-        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(group, BoltYieldStride)); },
-        [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(group, Passes)); });
+        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, BoltYieldStride)); },
+        [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, Passes)); });
 }
-BENCHMARK(BM_BoltYield)->Args({3, 1})->Args({6, 2})->UseManualTime();
+BENCHMARK(BM_BoltYield)->Args({3, 1, 8, 0})->Args({6, 2, 6, 75})->UseManualTime();
 
 std::vector<WeldLine> Turned_Box(double angle) {
     std::vector<WeldLine> lines = WeldConfigurationLines(4, 100, 50);
@@ -90,8 +102,6 @@ std::vector<WeldLine> Turned_Box(double angle) {
     }
     return lines;
 }
-
-using Clock = std::chrono::steady_clock;
 
 double Weld_Pass(const std::vector<WeldLine>& lines, std::int16_t strips, int stride) {
     WeldState state;

@@ -72,10 +72,7 @@ void Shares(const double* d, std::size_t count, double dmax, double* shares) {
     static const double fullShare = UltimateBoltForce / Bolt_Force(UltimateBoltDeformation);
     for (std::size_t k = 0; k < count; ++k)
         shares[k] = BoltExponentFactor * ((UltimateBoltDeformation * d[k]) / dmax);
-    Exp_Each(shares, count);
-    for (std::size_t k = 0; k < count; ++k)
-        shares[k] = 1 - shares[k];
-    Raise_Each(shares, count, BoltPower);
+    Saturate_Each(shares, count, BoltPower);
     for (std::size_t k = 0; k < count; ++k)
         shares[k] *= fullShare;
 }

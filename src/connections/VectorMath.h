@@ -6,7 +6,8 @@
 
 namespace Tensarix {
 
-void Exp_Each(double* values, std::size_t count);
+// (1 - e^value)^exponent of values not above 0.
+void Saturate_Each(double* values, std::size_t count, double exponent);
 // A negative value gives NaN.
 void Raise_Each(double* values, std::size_t count, double exponent);
 // In radians.
