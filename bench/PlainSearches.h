@@ -39,7 +39,8 @@ inline Outcome BoltC(const BoltGroup& group, double ex, double angle,
     struct Bolt {
         double u, w;
     };
-    const double theta = (angle * TruncatedPi) / 180;
+    double theta = 0;
+    Assign(theta, (angle * TruncatedPi) / 180);
     const double e = std::cos(theta) * ex;
     const int mn = group.m * group.n;
     if (e == 0)
@@ -106,7 +107,8 @@ inline std::vector<Element> Elements(const std::vector<WeldLine>& lines, double 
                 (line.x1 + ((sx * i) * length) * std::cos(a)) + sx * ((length * std::cos(a)) / 2.0);
             const double ym =
                 (line.y1 + ((sy * i) * length) * std::sin(a)) + sy * ((length * std::sin(a)) / 2.0);
-            Assign(beta, std::atan(ym / (xm + Ro)));
+            if (std::isfinite(ym / (xm + Ro)))
+                beta = std::atan(ym / (xm + Ro));
             const double u = std::tan(beta);
             const double t = std::tan(a);
             if (a == 0)

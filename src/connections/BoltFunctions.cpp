@@ -37,6 +37,11 @@ double Bolt_Force(double deformation) {
     return UltimateBoltForce * std::pow(1 - std::exp(BoltExponentFactor * deformation), BoltPower);
 }
 
+double Full_Force() {
+    static const double force = Bolt_Force(UltimateBoltDeformation);
+    return force;
+}
+
 double Local(int index, int count, double spacing) {
     return index * spacing - ((count - 1) * spacing) / 2;
 }
@@ -69,7 +74,7 @@ double Farthest(RotatedBolts& bolts, double Ro) {
 
 // R / Rmax of up to Block bolts.
 void Shares(const double* d, std::size_t count, double dmax, double* shares) {
-    static const double fullShare = UltimateBoltForce / Bolt_Force(UltimateBoltDeformation);
+    static const double fullShare = UltimateBoltForce / Full_Force();
     for (std::size_t k = 0; k < count; ++k)
         shares[k] = BoltExponentFactor * ((UltimateBoltDeformation * d[k]) / dmax);
     Saturate_Each(shares, count, BoltPower);
@@ -90,6 +95,7 @@ void Sum_Block(const RotatedBolts& bolts, double Ro, double dmax, std::size_t fi
             pass.SV += shares[k] * ((Ro + w[k]) / d[k]);
         pass.SD += d[k] * d[k];
     }
+    pass.R = shares[count - 1] * Full_Force();
 }
 
 void Fast_Pass(const RotatedBolts& bolts, double Ro, double dmax, BoltPass& pass,
@@ -100,11 +106,14 @@ void Fast_Pass(const RotatedBolts& bolts, double Ro, double dmax, BoltPass& pass
             yield();
         Sum_Block(bolts, Ro, dmax, first, std::min(Block, all - first), pass);
     }
+    pass.X = Ro + bolts.w[all - 1];
+    pass.d = bolts.d[all - 1];
+    pass.Delta = (UltimateBoltDeformation * pass.d) / dmax;
 }
 
 // The same pass with every step on its own, for numbers at which steps fail.
 void Careful_Pass(const RotatedBolts& bolts, double Ro, BoltPass& pass, SearchYield& yield) {
-    static const double Rmax = Bolt_Force(UltimateBoltDeformation);
+    const double Rmax = Full_Force();
     const std::size_t all = bolts.d.size();
     double dmax = 0;
     for (std::size_t k = 0; k < all; ++k) {
