@@ -75,6 +75,7 @@ void BM_BoltPass(benchmark::State& state) {
 }
 BENCHMARK(BM_BoltPass)
     ->Args({3, 1, 8, 0})
+    ->Args({4, 1, 12, 0})
     ->Args({6, 2, 6, 75})
     ->Args({12, 4, 6, 75})
     ->Args({40, 10, 6, 75})

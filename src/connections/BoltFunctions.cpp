@@ -1,46 +1,26 @@
 #include "connections/BoltFunctions.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <vector>
 
 #include "common/Failure.h"
+#include "connections/BoltSums.h"
 #include "connections/Numbers.h"
-#include "connections/VectorMath.h"
 
 namespace Tensarix {
 namespace {
 
-// The bolts in the frame in which the load is vertical: u up, w across, from the centroid.
-struct RotatedBolts {
-    explicit RotatedBolts(std::size_t count) : u(count), w(count), d(count) {}
-
-    std::vector<double> u, w;
-    std::vector<double> d; // distances from the centre in the pass at hand
-    double reach = 0;      // largest |u| or |w|
-};
-
 // What a pass adds up, and the locals that a failing step leaves as they were.
-struct BoltPass {
-    double SM = 0, SV = 0, SD = 0;
+struct BoltPass : BoltSums {
     double X = 0, d = 0, Delta = 0, R = 0;
+    double fastRo = 0, fastDmax = 0; // of a fast pass that has not yet left its locals behind
 };
 
 // Coordinates below this leave no step of a pass that can fail but the divisions by d and dmax.
 constexpr double OrdinaryReach = 1e60;
-constexpr std::size_t Block = 128;
 constexpr std::size_t BoltsBetweenYields = 4096;
-
-double Bolt_Force(double deformation) {
-    return UltimateBoltForce * std::pow(1 - std::exp(BoltExponentFactor * deformation), BoltPower);
-}
-
-double Full_Force() {
-    static const double force = Bolt_Force(UltimateBoltDeformation);
-    return force;
-}
 
 double Local(int index, int count, double spacing) {
     return index * spacing - ((count - 1) * spacing) / 2;
@@ -57,64 +37,36 @@ void Fill(RotatedBolts& bolts, const BoltGroup& group, double theta) {
             Keep(x, Local(j, group.n, group.sh));
             Keep(bolts.u[k], x * sine + y * cosine);
             Keep(bolts.w[k], x * cosine - y * sine);
-            bolts.reach = std::max({bolts.reach, std::abs(bolts.u[k]), std::abs(bolts.w[k])});
         }
     }
-}
-
-double Farthest(RotatedBolts& bolts, double Ro) {
-    double dmax = 0;
-    for (std::size_t k = 0; k < bolts.d.size(); ++k) {
-        const double X = Ro + bolts.w[k];
-        bolts.d[k] = std::sqrt(X * X + bolts.u[k] * bolts.u[k]);
-        dmax = std::max(dmax, bolts.d[k]);
-    }
-    return dmax;
-}
-
-// R / Rmax of up to Block bolts.
-void Shares(const double* d, std::size_t count, double dmax, double* shares) {
-    static const double fullShare = UltimateBoltForce / Full_Force();
-    for (std::size_t k = 0; k < count; ++k)
-        shares[k] = BoltExponentFactor * ((UltimateBoltDeformation * d[k]) / dmax);
-    Saturate_Each(shares, count, BoltPower);
-    for (std::size_t k = 0; k < count; ++k)
-        shares[k] *= fullShare;
-}
-
-void Sum_Block(const RotatedBolts& bolts, double Ro, double dmax, std::size_t first,
-               std::size_t count, BoltPass& pass) {
-    std::array<double, Block> shares;
-    const double* d = bolts.d.data() + first;
-    const double* w = bolts.w.data() + first;
-    Shares(d, count, dmax, shares.data());
-    for (std::size_t k = 0; k < count; ++k) {
-        pass.SM += shares[k] * d[k];
-        // A bolt on the centre has no direction: its step fails and adds nothing.
-        if (d[k] > 0)
-            pass.SV += shares[k] * ((Ro + w[k]) / d[k]);
-        pass.SD += d[k] * d[k];
-    }
-    pass.R = shares[count - 1] * Full_Force();
+    bolts.Close();
 }
 
 void Fast_Pass(const RotatedBolts& bolts, double Ro, double dmax, BoltPass& pass,
                SearchYield& yield) {
-    const std::size_t all = bolts.d.size();
-    for (std::size_t first = 0; first < all; first += Block) {
-        if (first > 0 && first % BoltsBetweenYields == 0)
+    for (std::size_t first = 0; first < bolts.count; first += BoltsBetweenYields) {
+        if (first > 0)
             yield();
-        Sum_Block(bolts, Ro, dmax, first, std::min(Block, all - first), pass);
+        Add_Bolts(bolts, first, std::min(BoltsBetweenYields, bolts.count - first), Ro, dmax, pass);
     }
-    pass.X = Ro + bolts.w[all - 1];
-    pass.d = bolts.d[all - 1];
-    pass.Delta = (UltimateBoltDeformation * pass.d) / dmax;
+}
+
+// What the last bolt of the last pass has left behind, if that was a fast one.
+void Leave_Locals(const RotatedBolts& bolts, BoltPass& pass) {
+    if (!(pass.fastDmax > 0))
+        return;
+    const std::size_t last = bolts.count - 1;
+    pass.X = pass.fastRo + bolts.w[last];
+    pass.d = bolts.d[last];
+    pass.Delta = (UltimateBoltDeformation * pass.d) / pass.fastDmax;
+    pass.R = BoltForce(pass.Delta);
+    pass.fastDmax = 0;
 }
 
 // The same pass with every step on its own, for numbers at which steps fail.
 void Careful_Pass(const RotatedBolts& bolts, double Ro, BoltPass& pass, SearchYield& yield) {
-    const double Rmax = Full_Force();
-    const std::size_t all = bolts.d.size();
+    static const double Rmax = BoltForce(UltimateBoltDeformation);
+    const std::size_t all = bolts.count;
     double dmax = 0;
     for (std::size_t k = 0; k < all; ++k) {
         Keep(pass.X, Ro + bolts.w[k]);
@@ -127,7 +79,7 @@ void Careful_Pass(const RotatedBolts& bolts, double Ro, BoltPass& pass, SearchYi
         Keep(pass.X, Ro + bolts.w[k]);
         Keep(pass.d, std::sqrt(pass.X * pass.X + bolts.u[k] * bolts.u[k]));
         Keep(pass.Delta, (UltimateBoltDeformation * pass.d) / dmax);
-        Keep(pass.R, Bolt_Force(pass.Delta));
+        Keep(pass.R, BoltForce(pass.Delta));
         Keep(pass.SM, pass.SM + (pass.R / Rmax) * pass.d);
         Keep(pass.SV, pass.SV + Sgn(pass.X) * ((pass.R / Rmax) * std::abs(pass.X / pass.d)));
         Keep(pass.SD, pass.SD + pass.d * pass.d);
@@ -137,11 +89,15 @@ void Careful_Pass(const RotatedBolts& bolts, double Ro, BoltPass& pass, SearchYi
 void Take_Pass(RotatedBolts& bolts, double Ro, BoltPass& pass, SearchYield& yield) {
     pass.SM = pass.SV = pass.SD = 0;
     const bool ordinary = bolts.reach < OrdinaryReach && std::abs(Ro) < OrdinaryReach;
-    const double dmax = ordinary ? Farthest(bolts, Ro) : 0;
-    if (dmax > 0)
+    const double dmax = ordinary ? Farthest_Bolt(bolts, Ro) : 0;
+    if (dmax > 0) {
+        pass.fastRo = Ro;
+        pass.fastDmax = dmax;
         Fast_Pass(bolts, Ro, dmax, pass, yield);
-    else
+    } else {
+        Leave_Locals(bolts, pass);
         Careful_Pass(bolts, Ro, pass, yield);
+    }
 }
 
 // The step is made from an absolute difference, so the centre only ever moves outwards. Where the
@@ -168,6 +124,10 @@ double Search(RotatedBolts& bolts, double e, double mn, SearchYield& yield) {
 }
 
 } // namespace
+
+double BoltForce(double deformation) {
+    return UltimateBoltForce * std::pow(1 - std::exp(BoltExponentFactor * deformation), BoltPower);
+}
 
 double BoltCoefficientC(const BoltGroup& group, double ex, double angle, SearchYield& yield) {
     const std::int32_t mn = std::int32_t{group.m} * group.n;
