@@ -155,7 +155,7 @@ inline WeldSums WeldPassSums(const std::vector<WeldLine>& lines, double Ro, int 
 }
 
 // The whole search. Lines go in as they come out of the configuration's routine.
-inline Outcome WeldLoad(std::vector<WeldLine> lines, double eccentricity, double angle,
+inline Outcome WeldLoad(const std::vector<WeldLine>& lines, double eccentricity, double angle,
                         double scale, int strips,
                         long mostPasses = std::numeric_limits<long>::max()) {
     const double theta = (angle * TruncatedPi) / 180;

@@ -17,7 +17,8 @@ std::optional<double> BalancedBoltCoefficient(const BoltGroup& group, double ex,
 
 // C of an item of the weld configurations, each element with its own deformation limits and its
 // true angle, the critical one by the smallest ultimate deformation over radius (AISC Manual,
-// part 8). Arguments as for the configurations' routines. None as above, and for L <= 0.
+// tables 8-4 to 8-11). Arguments as for the configurations' routines. None as above, and for L <=
+// 0.
 std::optional<double> BalancedWeldCoefficient(int item, double L, double kL, double aL,
                                               double angle);
 

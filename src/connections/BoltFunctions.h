@@ -1,6 +1,6 @@
 // Coefficients of an eccentrically loaded rectangular bolt group by the instantaneous centre of
-// rotation. Load-deformation of one bolt, R = 74 (1 - e^(-10 D))^0.55: Crawford and Kulak, as in
-// part 7 of the AISC Steel Construction Manual.
+// rotation. Load-deformation of one bolt, R = 74 (1 - e^(-10 D))^0.55: Crawford and Kulak, as
+// behind tables 7-7 to 7-14 of the AISC Steel Construction Manual.
 #pragma once
 
 #include <cstdint>

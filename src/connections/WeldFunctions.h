@@ -1,6 +1,6 @@
 // The load of an eccentrically loaded weld group by iteration about the instantaneous centre of
-// rotation. Load-deformation of a weld element: Lesik and Kennedy, as in section J2.4 and part 8 of
-// the AISC Steel Construction Manual.
+// rotation. Load-deformation of a weld element: Lesik and Kennedy, as in AISC
+// 360, section J2.4, and behind tables 8-4 to 8-11 of the AISC Steel Construction Manual.
 #pragma once
 
 #include <cstdint>

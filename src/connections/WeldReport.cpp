@@ -57,8 +57,8 @@ void ShowIterationStep(double angle, double Ro, double Fv, double Fm, double sca
     display.Show_Elapsed("Iteration Time »  " + FormatIterationTime(state.ElapsedSeconds));
 }
 
-// Minutes come from the fraction of an hour, cut off: at 3660 s and others they read one less, and
-// the seconds 60. Intended.
+// Minutes are cut off from the fraction of an hour: at 3660 s and some other times, where that
+// falls just short, they read one less. Intended.
 std::string FormatIterationTime(double seconds) {
     const double hours = seconds / 60 / 60;
     const double minutes = seconds / 60;

@@ -62,12 +62,12 @@ double Bracketed_C(const BoltGroup& group, double e) {
         std::vector<double> distances;
         double dmax = 0, SM = 0, SV = 0;
         for (int k = 0; k < group.m * group.n; ++k) {
-            const double y = (k / group.n - (group.m - 1) / 2.0) * group.sv;
+            const double y = (std::floor(k / double(group.n)) - (group.m - 1) / 2.0) * group.sv;
             const double X = Ro + (k % group.n - (group.n - 1) / 2.0) * group.sh;
             dmax = std::max(dmax, std::hypot(X, y));
         }
         for (int k = 0; k < group.m * group.n; ++k) {
-            const double y = (k / group.n - (group.m - 1) / 2.0) * group.sv;
+            const double y = (std::floor(k / double(group.n)) - (group.m - 1) / 2.0) * group.sv;
             const double X = Ro + (k % group.n - (group.n - 1) / 2.0) * group.sh;
             const double d = std::hypot(X, y);
             const double share = d > 0 ? Plain::Force(0.34 * d / dmax) / Plain::Force(0.34) : 0;
@@ -99,7 +99,7 @@ TEST(BoltCoefficientC, AgreesWithABracketedCentreWhereItConverges) {
 }
 
 TEST(BoltCoefficientC, AgreesWithThePlainLoopPassByPass) {
-    int long_searches = 0;
+    int longSearches = 0;
     for (const int m : {1, 2, 3, 4, 7, 12}) {
         for (const int n : {1, 2, 3}) {
             for (const double angle : {0.0, 15.0, 45.0, 75.0, 90.0, 135.0}) {
@@ -109,7 +109,7 @@ TEST(BoltCoefficientC, AgreesWithThePlainLoopPassByPass) {
                     CountingTurn turn{0, 3000};
                     SearchYield yield(turn);
                     if (plain.passes == 3000) {
-                        ++long_searches;
+                        ++longSearches;
                         EXPECT_THROW(BoltCoefficientC(group, ex, angle, yield), SearchAbandoned);
                         continue;
                     }
@@ -119,7 +119,7 @@ TEST(BoltCoefficientC, AgreesWithThePlainLoopPassByPass) {
             }
         }
     }
-    EXPECT_GT(long_searches, 20);
+    EXPECT_GT(longSearches, 20);
 }
 
 TEST(BoltCoefficientC, ALongSearchTakesThePlainLoopsPasses) {

@@ -286,6 +286,7 @@ TEST(IterationReport, TimesAreCutFromFractions) {
     EXPECT_EQ(FormatIterationTime(59), "00h:00m:59s ");
     EXPECT_EQ(FormatIterationTime(125), "00h:02m:05s ");
     EXPECT_EQ(FormatIterationTime(3'725), "01h:02m:05s ");
+    EXPECT_EQ(FormatIterationTime(3'660), "01h:00m:00s "); // a minute short, as ever
     EXPECT_EQ(FormatIterationTime(360'000), "100h:00m:00s ");
 }
 
