@@ -21,6 +21,7 @@ using KeyHandler = std::function<void(int keyCode)>;
 namespace Keys {
 inline constexpr int Backspace = 8, Tab = 9, Enter = 13, Escape = 27, Blank = 32;
 inline constexpr int Left = 37, Up = 38, Right = 39, Down = 40, Delete = 46, F2 = 113;
+inline constexpr int BackTab = 0x109; // Shift+Tab; the codes of single keys end at 255
 } // namespace Keys
 
 class Label {
