@@ -90,6 +90,8 @@ class ComboKeys final : public QObject {
             event->ignore();
             return true;
         }
+        if (event->type() == QEvent::FocusIn)
+            typed_.clear();
         if (event->type() != QEvent::KeyPress)
             return false;
         auto* key = static_cast<QKeyEvent*>(event);

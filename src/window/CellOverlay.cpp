@@ -5,6 +5,7 @@
 #include "window/Link.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -27,6 +28,7 @@ class CellOverlay final : public QObject {
         : QObject(editor), view_(view), grid_(grid), editor_(editor), visible_(std::move(visible)) {
         link->Also([this] { Place(); });
         view->viewport()->installEventFilter(this);
+        editor->installEventFilter(this);
     }
 
     double TopTwips = 0;
@@ -59,7 +61,13 @@ void CellOverlay::Place() {
     editor_->show();
 }
 
-bool CellOverlay::eventFilter(QObject*, QEvent* event) {
+bool CellOverlay::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == editor_) {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        QCoreApplication::sendEvent(view_->viewport(), event); // scrolls the grid
+        return true;
+    }
     switch (event->type()) {
     case QEvent::Paint: // whatever has moved the cell
         if (visible_())

@@ -181,8 +181,14 @@ void GridView::Place_Frozen() {
 
 void GridView::Pull_Scroll() {
     executeDelayedItemsLayout();
-    verticalScrollBar()->setValue(grid_->TopRow() - grid_->FixedRows());
-    horizontalScrollBar()->setValue(grid_->LeftCol() - grid_->FixedCols());
+    // A bar that stands right is left alone: this may run just before the bar takes a new value,
+    // which setting the old one would cancel.
+    const auto scroll = [](QScrollBar* bar, int value) {
+        if (bar->value() != value)
+            bar->setValue(value);
+    };
+    scroll(verticalScrollBar(), grid_->TopRow() - grid_->FixedRows());
+    scroll(horizontalScrollBar(), grid_->LeftCol() - grid_->FixedCols());
     frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
 }
 
