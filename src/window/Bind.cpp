@@ -20,6 +20,7 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -273,6 +274,18 @@ void Bind(QLabel* widget, Label& control) {
 
 void Bind(QStackedWidget* widget, TabControl& control) {
     new Link(widget, control.Shown, [widget, &control] { widget->setCurrentIndex(control.Tab()); });
+}
+
+void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control) {
+    auto* link = new Link(bar, control.Shown, [bar, pages, &control] {
+        const QSignalBlocker quiet(bar);
+        bar->setCurrentIndex(control.Tab());
+        pages->setCurrentIndex(control.Tab());
+    });
+    QObject::connect(bar, &QTabBar::currentChanged, link, [link, &control](int tab) {
+        control.Select(tab);
+        link->Flush();
+    });
 }
 
 void Bind(QStatusBar* widget, StatusBar& control) {

@@ -13,6 +13,7 @@ class QLineEdit;
 class QPushButton;
 class QStackedWidget;
 class QStatusBar;
+class QTabBar;
 
 namespace Tensarix {
 
@@ -27,6 +28,8 @@ void Bind(QPushButton* widget, Button& control);
 void Bind(QAbstractButton* widget, OptionButton& control);
 void Bind(QLabel* widget, Label& control);
 void Bind(QStackedWidget* widget, TabControl& control);
+// A bar of tabs and the pages that it chooses from. The handler runs before the page changes.
+void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control);
 void Bind(QStatusBar* widget, StatusBar& control);
 void Bind(QAction* action, MenuItem& control);
 void Bind(PictureView* widget, Picture& control);

@@ -1,6 +1,7 @@
 #include "window/Program.h"
 
 #include "shell/Version.h"
+#include "window/WtCalcsForm.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -43,8 +44,22 @@ bool Program::Start() {
 
 // The dialogs are not there yet.
 void Program::Show_CalcMainFrm() {}
-void Program::Show_WtCalcsFrm() {}
-void Program::Show_WtCalcsFrmA() {}
 void Program::Show_AboutFrm() {}
+
+void Program::Show_WtCalcsFrm() {
+    WtCalcsFrm form(form_.Shared, savedLengths_);
+    form.Load();
+    WtCalcsDialog dialog(window_.get());
+    Make_WtCalcs_Form(form, dialog);
+    dialog.exec();
+}
+
+void Program::Show_WtCalcsFrmA() {
+    WtCalcsFrmA form(form_.Shared, savedRows_);
+    form.Load();
+    WtCalcsDialog dialog(window_.get());
+    Make_WtCalcs_FormA(form, dialog);
+    dialog.exec();
+}
 
 } // namespace Tensarix

@@ -2,6 +2,8 @@
 // The picture tour and the window tests drive it as main() does.
 #pragma once
 
+#include "weights/WtCalcsFrm.h"
+#include "weights/WtCalcsFrmA.h"
 #include "window/MainForm.h"
 
 #include <memory>
@@ -38,6 +40,8 @@ class Program final : public Dialogs {
     SingleInstance instance_;
     Machine machine_;
     MainFrm form_;
+    SavedLengths savedLengths_; // of the weight calculators, until the program ends
+    SavedRows savedRows_;
     std::unique_ptr<MainForm> window_;
 };
 
