@@ -6,6 +6,8 @@
 #include "sections/FamilyTable.h"
 #include "sections/SectionStore.h"
 
+#include <utility>
+
 namespace Tensarix {
 
 namespace {
@@ -31,6 +33,18 @@ WtCalcsFrm::WtCalcsFrm(Desk& desk, SavedLengths& saved)
     ShapeSizeSI.OnChange = [this] { ShapeSizeSI_Change(); };
     SSTab1.OnChange = [this] { Show_Total(); };
     ClearButton.OnClick = [this] { ClearButton_Click(); };
+    Go_Back_On_Focus(ImperialFlex, imperialRow_);
+    Go_Back_On_Focus(MetricFlex, metricRow_);
+}
+
+// Computing all rows leaves the current cell in the last one. Who comes to the sheet then finds
+// himself in the row where he was before.
+void WtCalcsFrm::Go_Back_On_Focus(FlexGrid& grid, int& row) {
+    grid.Focus.OnGotFocus = [&grid, &row, leave = grid.Focus.OnGotFocus] {
+        leave();
+        if (const int before = std::exchange(row, 0); before != 0)
+            grid.Move_To(before, lengthCol);
+    };
 }
 
 void WtCalcsFrm::Init_Head(FlexGrid& grid, bool imperial) {
@@ -115,6 +129,10 @@ void WtCalcsFrm::Read_Section() {
 
 // Both sheets, also the one that doesn't show. Their current cells end in the last row; intended.
 void WtCalcsFrm::Compute_All() {
+    if (imperialRow_ == 0)
+        imperialRow_ = ImperialFlex.Row();
+    if (metricRow_ == 0)
+        metricRow_ = MetricFlex.Row();
     for (int row = 1; row <= EntryRows; ++row) {
         ImperialFlex.Move_To(row, lengthCol);
         Compute_Row_Imperial(ImperialFlex);

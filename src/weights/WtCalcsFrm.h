@@ -42,9 +42,11 @@ class WtCalcsFrm final : public WtCalcsSheets {
     void ShapeSizeSI_Change();
     void Read_Section();
     void Compute_All();
+    void Go_Back_On_Focus(FlexGrid& grid, int& row);
     void ClearButton_Click();
 
     SavedLengths& Saved_Lengths;
+    int imperialRow_ = 0, metricRow_ = 0;                 // to go back to; 0: none
     bool footIsCurrent_ = false, meterIsCurrent_ = false; // read for the section that shows
 };
 

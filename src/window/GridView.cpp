@@ -122,8 +122,7 @@ void GridView::Measure_Columns() {
     frozen_->horizontalHeader()->setVisible(head);
     for (int col = 0; col < grid_->Cols(); ++col) {
         const bool fixed = col < grid_->FixedCols();
-        const int width = std::max(static_cast<int>(std::lround(grid_->ColWidth(col) * Twip_Scale())),
-                                   Fitting_Width(col));
+        const int width = Column_Pixels(col);
         setColumnWidth(col, width);
         frozen_->setColumnWidth(col, width);
         setColumnHidden(col, fixed);
@@ -135,6 +134,11 @@ void GridView::Measure_Columns() {
                                 horizontalHeader()->sizeHint().height());
     horizontalHeader()->setFixedHeight(height);
     frozen_->horizontalHeader()->setFixedHeight(height);
+}
+
+int GridView::Column_Pixels(int col) const {
+    return std::max(static_cast<int>(std::lround(grid_->ColWidth(col) * Twip_Scale())),
+                    Fitting_Width(col));
 }
 
 // The names in a fixed column are never cut, nor are the heads.
@@ -174,7 +178,7 @@ void GridView::Place_Frozen() {
     verticalHeader()->setVisible(width > 0);
     verticalHeader()->setFixedWidth(std::max(width, 1));
     frozen_->setVisible(width > 0);
-    const int head = horizontalHeader()->isVisible() ? horizontalHeader()->height() : 0;
+    const int head = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
     frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + head);
     frozen_->raise();
 }
@@ -365,6 +369,13 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
         return; // the mouse opens the popup when its button comes up
     popupPoint_ = mapToGlobal(Cell_Rect(grid_->Row(), grid_->Col()).center());
     Run(grid_->OnPopup);
+}
+
+int GridView::Columns_Width() const {
+    int width = 0;
+    for (int col = 0; col < grid_->Cols(); ++col)
+        width += Column_Pixels(col);
+    return width;
 }
 
 QRect GridView::Cell_Rect(int row, int col) const {

@@ -27,6 +27,8 @@ class GridView : public QTableView {
     QPoint Popup_Point() const { return popupPoint_; }
     // The place of a cell inside this widget, as it is on the screen.
     QRect Cell_Rect(int row, int col) const;
+    // All columns together, the last one not stretched.
+    int Columns_Width() const;
     // Pixels to the twip under the current font and scale.
     double Twip_Scale() const;
 
@@ -50,6 +52,7 @@ class GridView : public QTableView {
     void Measure();
     void Measure_Columns();
     void Measure_Rows();
+    int Column_Pixels(int col) const;
     int Fitting_Width(int col) const;
     void Place_Frozen();
     void Pull_Scroll();

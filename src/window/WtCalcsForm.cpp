@@ -6,14 +6,15 @@
 #include "window/CellOverlay.h"
 
 #include <QScreen>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace Tensarix {
 
 namespace {
 
 constexpr int firstHeight = 680;
-constexpr int sideMargins = 60; // scroll bar, frame and margins beside the columns
-constexpr double pixelsInTwip = 1.0 / 15;
 
 QString To_Qt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -32,11 +33,13 @@ void Take_Focus_When_Pressed(QPushButton* button, char key) {
                      [button] { button->setFocus(Qt::MouseFocusReason); });
 }
 
-int Columns_Width(const FlexGrid& grid) {
-    double twips = 0;
-    for (int col = 0; col < grid.Cols(); ++col)
-        twips += grid.ColWidth(col);
-    return static_cast<int>(twips * pixelsInTwip);
+// All columns show, without scrolling sideways.
+QSize First_Size(const QDialog& dialog, const GridView& view) {
+    const QMargins margins = dialog.layout()->contentsMargins();
+    const int width = view.Columns_Width() + view.verticalScrollBar()->sizeHint().width() +
+                      2 * view.frameWidth() + margins.left() + margins.right();
+    return QSize(std::max(width, dialog.sizeHint().width()), firstHeight)
+        .boundedTo(dialog.screen()->availableSize());
 }
 
 // What both forms have.
@@ -58,8 +61,7 @@ void Bind_Sheets(const Ui& ui, WtCalcsSheets& form, WtCalcsDialog& dialog) {
     Take_Focus_When_Pressed(ui.ClearButton, 'C');
     Take_Focus_When_Pressed(ui.ExitButton, 'x');
     form.Close = [&dialog] { dialog.close(); };
-    const QSize first(Columns_Width(form.ImperialFlex) + sideMargins, firstHeight);
-    dialog.resize(first.boundedTo(dialog.screen()->availableSize()));
+    dialog.resize(First_Size(dialog, *ui.ImperialFlex));
 }
 
 } // namespace

@@ -179,6 +179,8 @@ TEST_F(Type1, ASectionRecomputesBothSheetsAndBothListsFollow) {
     EXPECT_EQ(Metric(3, 2), "148.00     ");
     EXPECT_EQ(form.ImperialFlex.Row(), EntryRows);
     EXPECT_EQ(form.MetricFlex.Row(), EntryRows);
+    form.ImperialFlex.Focus.Set();
+    EXPECT_EQ(form.ImperialFlex.Row(), 2) << "where the typing had stopped";
     EXPECT_EQ(machine.Store.Get("CalcWtShapeSize0"), std::to_string(form.ShapeSizeUS.ListIndex()));
 
     form.ShapeType.Select(12);
