@@ -4,9 +4,11 @@
 #include "window/GridView.h"
 #include "window/Link.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScrollBar>
 
@@ -80,6 +82,31 @@ bool CellOverlay::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
+// Several lines that are pasted while a cell is being edited are a column for the grid: run
+// together in the one cell they would read as a wrong number.
+class ColumnPaste final : public QObject {
+  public:
+    ColumnPaste(QLineEdit* widget, const FlexGrid& grid, TextBox& editor)
+        : QObject(widget), grid_(grid), editor_(editor) {
+        widget->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress || !grid_.OnPaste ||
+            !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste) ||
+            !QGuiApplication::clipboard()->text().trimmed().contains(QLatin1Char('\n')))
+            return false;
+        editor_.OnKeyDown(Keys::Escape);
+        Run(grid_.OnPaste);
+        return true;
+    }
+
+  private:
+    const FlexGrid& grid_;
+    TextBox& editor_;
+};
+
 template <typename Widget, typename Control>
 CellOverlay* Overlay(GridView* view, const FlexGrid& grid, Widget* widget, Control& control) {
     Link* link = Bind(widget, control);
@@ -105,6 +132,7 @@ void Lay_Over(GridView* view, const FlexGrid& grid, TextBox& editor, const QStri
     widget->setFrame(false);
     widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     CellOverlay* overlay = Overlay(view, grid, widget, editor);
+    new ColumnPaste(widget, grid, editor);
     overlay->TopTwips = boxTopTwips;
     overlay->Place();
 }

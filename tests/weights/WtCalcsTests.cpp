@@ -1,6 +1,5 @@
 // Both weight calculators as records, over the built store.
 #include "StandIns.h"
-#include "sections/FamilyTable.h"
 #include "weights/WtCalcsFrm.h"
 #include "weights/WtCalcsFrmA.h"
 
@@ -407,17 +406,4 @@ TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
     EXPECT_EQ(again.ImperialFlex.Text(1, 3), "120.00     ");
     EXPECT_EQ(again.ImperialFlex.Remark(1, 3), std::string{"Charged for 12"} + chargedTail);
     EXPECT_EQ(again.ImperialFlex.Text(2, 3), "     ");
-}
-
-TEST_F(Type2, EverySizeThatTheListsOfferIsFound) {
-    for (int family = 0; family < static_cast<int>(Families.size()); family += 4) {
-        form.ShapeType.Select(family);
-        ASSERT_GT(form.ShapeSizeUS.Count(), 0);
-        for (const int at : {0, form.ShapeSizeUS.Count() - 1}) {
-            EXPECT_GT(form.Find_Weight_US(form.ShapeSizeUS.Item(at)), 0);
-            EXPECT_GT(form.Find_Weight_SI(form.ShapeSizeSI.Item(at)), 0);
-        }
-    }
-    EXPECT_EQ(form.Find_Weight_US("W8x11"), 0);
-    EXPECT_EQ(form.Find_Weight_SI("x'; --"), 0);
 }

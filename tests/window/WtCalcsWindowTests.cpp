@@ -142,6 +142,11 @@ TEST_F(WtCalcsWindowTest, PasteCopyAndTheButtonsByTheirKeys) {
         Key(Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QApplication::clipboard()->text().simplified(), QStringLiteral("1'-0\" 2'-6\""));
         Key(Qt::Key_F2);
+        QApplication::clipboard()->setText(QStringLiteral("3'\n4'"));
+        Key(Qt::Key_V, Qt::ControlModifier); // into an open editor
+        EXPECT_EQ(Cell("ImperialFlex", 2, 1), QStringLiteral("3'-0\"     "));
+        EXPECT_EQ(Cell("ImperialFlex", 3, 1), QStringLiteral("4'-0\"     "));
+        Key(Qt::Key_F2);
         Key(Qt::Key_C, Qt::AltModifier);
         QTest::qWait(150); // the button shows that it is pressed
         EXPECT_EQ(Cell("ImperialFlex", 2, 1), QString());
