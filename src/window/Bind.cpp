@@ -11,6 +11,7 @@
 #include <QAbstractListModel>
 #include <QAction>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +19,7 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -215,6 +217,19 @@ void Bind(QLabel* widget, Label& control) {
         widget->setText(To_Qt(control.Caption()));
         widget->setToolTip(To_Qt(control.Remark()));
     });
+}
+
+void Bind(QGroupBox* widget, Frame& control) {
+    new Link(widget, control.Shown, [widget, &control] { widget->setEnabled(control.Enabled()); });
+}
+
+void Bind(QTabBar* widget, TabControl& control) {
+    auto* link = new Link(widget, control.Shown, [widget, &control] {
+        const QSignalBlocker quiet(widget);
+        widget->setCurrentIndex(control.Tab() - 1);
+    });
+    QObject::connect(widget, &QTabBar::currentChanged, link,
+                     [&control](int index) { control.Select(index + 1); });
 }
 
 void Bind(QStackedWidget* widget, TabControl& control) {

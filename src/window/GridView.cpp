@@ -216,10 +216,7 @@ void GridView::Reveal_Current() {
 bool GridView::Go_To(int row, int col, bool extend) {
     row = std::clamp(row, grid_->FixedRows(), grid_->Rows() - 1);
     col = std::clamp(col, 0, grid_->Cols() - 1);
-    if (extend)
-        grid_->Extend_To(row, col);
-    else
-        grid_->Move_To(row, col);
+    grid_->Go_To(row, col, extend);
     Reveal_Current();
     return true;
 }
