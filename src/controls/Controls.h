@@ -21,6 +21,7 @@ using KeyHandler = std::function<void(int keyCode)>;
 namespace Keys {
 inline constexpr int Backspace = 8, Tab = 9, Enter = 13, Escape = 27, Blank = 32;
 inline constexpr int Left = 37, Up = 38, Right = 39, Down = 40, Delete = 46, F2 = 113;
+inline constexpr int BackTab = 0x109; // Shift+Tab; the codes of single keys end at 255
 } // namespace Keys
 
 class Label {
@@ -130,6 +131,11 @@ class ComboBox {
     bool enabled_ = true;
     bool visible_ = true;
 };
+
+// The position that a typed beginning means, letter case free; -1: none. Of the items that begin so,
+// the shortest counts, and of equally short ones the last: a designation that is typed in full is
+// found although a longer one stands before it, and of a group the lightest.
+int Find_By_Typing(const ComboBox& list, const std::string& typed);
 
 class TextBox {
   public:

@@ -45,11 +45,14 @@ class FlexGrid {
     Handler OnKeyMove;   // after the keys have moved the current cell or the selection
     Handler OnPopup;     // right button up, or the keyboard's menu key
     Handler OnCopy;      // Ctrl+C
+    Handler OnPaste;     // Ctrl+V
     Handler OnDblClick;
     Handler OnScroll;
     std::function<void(double xTwips)> OnMouseMove; // from the grid's left edge
     std::function<void(int keyAscii)> OnKeyPress;
     KeyHandler OnKeyDown;
+    std::function<bool(bool back)> OnTab; // true: it has gone to another cell, the focus stays
+    Handler BringIntoView;                // the view's: scrolls until the current cell shows
     FocusPoint Focus;
     View Shown;
 
@@ -98,6 +101,9 @@ class FlexGrid {
     void Set_TopRow(int row);
     void Set_LeftCol(int col);
 
+    // Where the grid lies on its form.
+    const Placement& Place() const { return place_; }
+    void Set_Place(const Placement& place) { place_ = place; }
     // The current cell inside the grid, as far as row heights and column widths tell.
     Placement Cell_Place() const;
 
@@ -129,6 +135,7 @@ class FlexGrid {
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
     int topRow_ = 1, leftCol_ = 1;
     double heightMin_ = 0;
+    Placement place_;
     unsigned layoutVersion_ = 0;
 };
 

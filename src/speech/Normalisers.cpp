@@ -100,7 +100,7 @@ std::string Speak_Symbol(std::string_view text) {
 }
 
 std::string Speak_Value(std::string_view text) {
-    return Is_Numeric(text) ? General_Text(Text_Number(text)) : Speak_Symbol(text);
+    return Is_Numeric(text) ? General_Text(Leading_Value(text)) : Speak_Symbol(text);
 }
 
 std::string Speak_Unit(std::string_view unit, std::string_view value) {

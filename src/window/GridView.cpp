@@ -166,7 +166,6 @@ void GridView::Place_Frozen() {
     verticalHeader()->setVisible(width > 0);
     verticalHeader()->setFixedWidth(std::max(width, 1));
     frozen_->setVisible(width > 0);
-    // Not "visible": a page that isn't shown yet is measured as well.
     const int head = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
     frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + head);
     frozen_->raise();
