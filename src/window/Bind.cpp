@@ -143,6 +143,20 @@ class ComboKeys final : public QObject {
     QElapsedTimer sinceTyped_;
 };
 
+// The wheel passes over what it would change unasked.
+class NoWheel final : public QObject {
+  public:
+    explicit NoWheel(QWidget* widget) : QObject(widget) { widget->installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 // Keys of a text box: every character passes the control's filter first.
 class TextKeys final : public QObject {
   public:
@@ -257,6 +271,7 @@ void Bind(QGroupBox* widget, Frame& control) {
 }
 
 void Bind(QTabBar* widget, TabControl& control) {
+    new NoWheel(widget);
     auto* link = new Link(widget, control.Shown, [widget, &control] {
         const QSignalBlocker quiet(widget);
         widget->setCurrentIndex(control.Tab() - 1);

@@ -246,6 +246,11 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         Run(grid_->OnCopy);
         return;
     }
+    // The menu key comes as a context menu event; not every desktop sends one for this.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        Popup_By_Key();
+        return;
+    }
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
         QAbstractScrollArea::keyPressEvent(event);
         return;
@@ -300,8 +305,12 @@ void GridView::Release(QMouseEvent* event) {
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() != QContextMenuEvent::Keyboard)
-        return; // the mouse opens the popup when its button comes up
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Popup_By_Key();
+    // The mouse opens the popup when its button comes up.
+}
+
+void GridView::Popup_By_Key() {
     popupPoint_ = mapToGlobal(Cell_Rect(grid_->Row(), grid_->Col()).center());
     Run(grid_->OnPopup);
 }
