@@ -19,7 +19,7 @@ constexpr CalcConstant constants[] = {
     {"1.054571817E-34", "J s", "h/2pi, reduced Planck constant"},
     {"1.602176634E-19", "C", "e, elementary charge"},
     {"1.380649E-23", "J/K", "k, Boltzmann constant"},
-    {"6.02214076E+23", "1/mol", "N_A, Avogadro constant"},
+    {"6.02214076E+23", "per mol", "N_A, Avogadro constant"},
     {"8.314462618", "J/(mol K)", "R, molar gas constant"},
     {"96485.33212", "C/mol", "F, Faraday constant"},
     {"5.670374419E-08", "W/(m2 K4)", "sigma, Stefan-Boltzmann constant"},
@@ -34,7 +34,7 @@ constexpr CalcConstant constants[] = {
     {"1.25663706212E-06", "N/A2", "mu_0, vacuum magnetic permeability"},
     {"376.730313668", "ohm", "Z_0, characteristic impedance of vacuum"},
     {"7.2973525693E-03", "", "alpha, fine-structure constant"},
-    {"10973731.568160", "1/m", "R_inf, Rydberg constant"},
+    {"10973731.568160", "per m", "R_inf, Rydberg constant"},
     {"5.29177210903E-11", "m", "a_0, Bohr radius"},
     {"2.8179403262E-15", "m", "r_e, classical electron radius"},
     {"9.2740100783E-24", "J/T", "mu_B, Bohr magneton"},
@@ -52,8 +52,8 @@ constexpr CalcConstant constants[] = {
     {"0.3", "", "Poisson's ratio of steel"},
     {"490", "lb/ft3", "weight of steel"},
     {"7850", "kg/m3", "density of steel"},
-    {"0.0000065", "1/degF", "thermal expansion of steel"},
-    {"0.0000117", "1/degC", "thermal expansion of steel"},
+    {"0.0000065", "per degF", "thermal expansion of steel"},
+    {"0.0000117", "per degC", "thermal expansion of steel"},
 
     // Conversion factors: NIST Special Publication 811 (2008), Appendix B; those of the inch, foot
     // and pound are exact.

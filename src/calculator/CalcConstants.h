@@ -8,7 +8,8 @@
 
 namespace Tensarix {
 
-// A row's text is number, unit and name; it reads, from its start, as the constant's value.
+// A row's text is number, unit and name. It reads, from its start, as the constant's value: so no
+// unit begins with a digit, because a number is read across blanks.
 struct CalcConstant {
     std::string_view Number, Unit, Name;
 };

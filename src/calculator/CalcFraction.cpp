@@ -80,14 +80,13 @@ bool Repeats(std::string_view digits, std::size_t block) {
     return blocks > 1;
 }
 
-// The shortest block of which the decimals are a repetition; empty if there is none.
+// The shortest block of which the decimals are a repetition; empty if there is none. What does not
+// fill a whole block at the end is not looked at. Zeros are no period.
 std::string Period_Of(double value) {
     const std::string text = Format_Number(value, Fixed_Pattern(maxDigits));
     const std::string digits = text.substr(text.find('.') + 1, searchedDigits);
-    if (digits.find_first_not_of('0') == std::string::npos)
-        return {};
     for (std::size_t block = 1; block <= digits.size(); ++block)
-        if (Repeats(digits, block))
+        if (digits.find_first_not_of('0') < block && Repeats(digits, block))
             return digits.substr(0, block);
     return {};
 }

@@ -25,7 +25,8 @@ bool Holds(std::string_view text, char c) {
     return text.find(c) != std::string_view::npos;
 }
 
-// The decimals that leave 15 digits beside the whole part of the number.
+// The decimals that leave 15 digits beside the whole part. The whole part is rounded, so that 9.7
+// counts two digits; this is intended.
 int Decimals_That_Fit(double value) {
     const std::string whole = Format_Number(value, "0");
     return std::max(maxDigits - std::max(Length(whole) - (value < 0 ? 1 : 0), 1), 0);
