@@ -10,7 +10,6 @@
 
 #include <cmath>
 #include <random>
-#include <regex>
 
 using namespace Tensarix;
 
@@ -89,19 +88,39 @@ double By_Priority(const Chain& chain) {
     return sum + (sumSign == '+' ? product : -product);
 }
 
-// "x.xx", "1/2." and "1 2/3.", an angle, or a message; two exponent digits beside a number only.
+// The text with every run of digits as one "9", and without its sign.
+std::string Shape_Of(std::string_view text) {
+    std::string shape;
+    for (const char c : text.substr(text.starts_with('-') ? 1 : 0)) {
+        const bool isDigit = c >= '0' && c <= '9';
+        if (!isDigit || !shape.ends_with('9'))
+            shape += isDigit ? '9' : c;
+    }
+    return shape;
+}
+
+bool Is_Message(std::string_view text) {
+    for (const char* words : {"Error", "Divide by Zero", "Invalid Power", "Infinity",
+                              "Out of Range", "Undefined", "Empty Data"})
+        if (text.size() > 2 && text.front() == '*' && text.back() == '*' &&
+            text.substr(1, text.size() - 2) == words)
+            return true;
+    return false;
+}
+
+// A number, with or without an exponent; and alone: a fraction, an angle, or a message.
 bool Is_Allowed_Panel(const CalcPanel& panel) {
-    static const std::regex mantissa("-?[0-9]+\\.[0-9]*");
-    static const std::regex fraction("-?[0-9]+([ /][0-9.]*(/[0-9.]*)?)?\\.");
-    static const std::regex angle("-?[0-9]+°[0-9]+'[0-9.]+\"\\.?");
-    static const std::regex message("\\*[A-Za-z ]+\\*");
-    static const std::regex exponent("[ -][0-9][0-9]");
     const std::string& text = panel.DisplayBox;
-    if (std::regex_match(text, mantissa))
-        return panel.ExpoBox.empty() || std::regex_match(panel.ExpoBox, exponent);
-    return panel.ExpoBox.empty() &&
-           (std::regex_match(text, fraction) || std::regex_match(text, angle) ||
-            std::regex_match(text, message));
+    const std::string shape = Shape_Of(text);
+    const std::string expo = Shape_Of(panel.ExpoBox);
+    if (shape == "9." || shape == "9.9")
+        return panel.ExpoBox.empty() ||
+               (panel.ExpoBox.size() == 3 && (expo == "9" || expo == " 9"));
+    const bool isFraction = shape.starts_with('9') && shape.ends_with('.') &&
+                            shape.find('/') != std::string::npos &&
+                            shape.find_first_not_of("9./ ") == std::string::npos;
+    const bool isAngle = shape == "9°9'9\"." || shape == "9°9'9.9\"";
+    return panel.ExpoBox.empty() && (isFraction || isAngle || Is_Message(text));
 }
 
 // A user who chooses something in each dialog, or leaves it.
