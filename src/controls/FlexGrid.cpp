@@ -1,0 +1,235 @@
+#include "controls/FlexGrid.h"
+
+#include "common/Failure.h"
+
+#include <algorithm>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr double standardHeight = 240;
+constexpr double standardWidth = 960;
+
+} // namespace
+
+std::size_t FlexGrid::At(int row, int col) const {
+    if (row < 0 || row >= rows_ || col < 0 || col >= cols_)
+        throw Failure("no such cell");
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(cols_) +
+           static_cast<std::size_t>(col);
+}
+
+void FlexGrid::Layout_Changed() {
+    ++layoutVersion_;
+    Shown.Changed();
+}
+
+void FlexGrid::Set_Rows(int rows) {
+    if (rows < fixedRows_ || rows < 1)
+        throw Failure("too few rows");
+    if (rows == rows_)
+        return;
+    rows_ = rows;
+    cells_.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols_));
+    heights_.resize(static_cast<std::size_t>(rows), -1);
+    remarks_.erase(remarks_.lower_bound({rows, 0}), remarks_.end());
+    Keep_Position_Inside();
+    Layout_Changed();
+}
+
+void FlexGrid::Set_Cols(int cols) {
+    if (cols < fixedCols_ || cols < 1)
+        throw Failure("too few columns");
+    if (cols == cols_)
+        return;
+    const auto kept = static_cast<std::size_t>(std::min(cols, cols_));
+    const auto before = static_cast<std::size_t>(cols_), after = static_cast<std::size_t>(cols);
+    std::vector<Cell> cells(static_cast<std::size_t>(rows_) * after);
+    for (std::size_t row = 0; row < static_cast<std::size_t>(rows_); ++row)
+        for (std::size_t col = 0; col < kept; ++col)
+            cells[row * after + col] = std::move(cells_[row * before + col]);
+    cells_ = std::move(cells);
+    cols_ = cols;
+    widths_.resize(after, -1);
+    std::erase_if(remarks_, [cols](const auto& entry) { return entry.first.second >= cols; });
+    Keep_Position_Inside();
+    Layout_Changed();
+}
+
+void FlexGrid::Set_Fixed(int fixedRows, int fixedCols) {
+    if (fixedRows < 0 || fixedRows >= rows_ || fixedCols < 0 || fixedCols >= cols_)
+        throw Failure("too many fixed rows or columns");
+    fixedRows_ = fixedRows;
+    fixedCols_ = fixedCols;
+    Keep_Position_Inside();
+    Layout_Changed();
+}
+
+void FlexGrid::Keep_Position_Inside() {
+    row_ = std::clamp(row_, std::min(fixedRows_, rows_ - 1), rows_ - 1);
+    col_ = std::clamp(col_, 0, cols_ - 1);
+    rowSel_ = std::clamp(rowSel_, 0, rows_ - 1);
+    colSel_ = std::clamp(colSel_, 0, cols_ - 1);
+    topRow_ = std::clamp(topRow_, std::min(fixedRows_, rows_ - 1), rows_ - 1);
+    leftCol_ = std::clamp(leftCol_, std::min(fixedCols_, cols_ - 1), cols_ - 1);
+}
+
+void FlexGrid::Clear() {
+    std::fill(cells_.begin(), cells_.end(), Cell{});
+    remarks_.clear();
+    Shown.Changed();
+}
+
+const std::string& FlexGrid::Text(int row, int col) const { return cells_[At(row, col)].Text; }
+
+void FlexGrid::Set_Text(int row, int col, std::string text) {
+    cells_[At(row, col)].Text = std::move(text);
+    if (!remarks_.empty())
+        remarks_.erase({row, col});
+    Shown.Changed();
+}
+
+const CellStyle& FlexGrid::Style(int row, int col) const { return cells_[At(row, col)].Style; }
+
+void FlexGrid::Set_Style(int row, int col, const CellStyle& style) {
+    cells_[At(row, col)].Style = style;
+    Shown.Changed();
+}
+
+const std::string& FlexGrid::Remark(int row, int col) const {
+    static const std::string none;
+    At(row, col);
+    const auto found = remarks_.find({row, col});
+    return found == remarks_.end() ? none : found->second;
+}
+
+void FlexGrid::Set_Remark(int row, int col, std::string remark) {
+    At(row, col);
+    if (remark.empty())
+        remarks_.erase({row, col});
+    else
+        remarks_[{row, col}] = std::move(remark);
+    Shown.Changed();
+}
+
+double FlexGrid::RowHeight(int row) const {
+    const double height = heights_[At(row, 0) / static_cast<std::size_t>(cols_)];
+    return std::max(height < 0 ? standardHeight : height, heightMin_);
+}
+
+void FlexGrid::Set_RowHeight(int row, double twips) {
+    double& height = heights_[At(row, 0) / static_cast<std::size_t>(cols_)];
+    if (height == twips)
+        return;
+    height = twips;
+    Layout_Changed();
+}
+
+void FlexGrid::Set_RowHeightMin(double twips) {
+    heightMin_ = twips;
+    Layout_Changed();
+}
+
+double FlexGrid::ColWidth(int col) const {
+    const double width = widths_[At(0, col)];
+    return width < 0 ? standardWidth : width;
+}
+
+void FlexGrid::Set_ColWidth(int col, double twips) {
+    widths_[At(0, col)] = twips;
+    Layout_Changed();
+}
+
+bool FlexGrid::Move_To(int row, int col) {
+    At(row, col);
+    const bool moves = row != row_ || col != col_;
+    if (moves)
+        Run(OnLeaveCell);
+    At(row, col); // the handler may have made the grid smaller
+    row_ = rowSel_ = row;
+    col_ = colSel_ = col;
+    Shown.Changed();
+    if (moves)
+        Run(OnSelChange);
+    return moves;
+}
+
+void FlexGrid::Extend_To(int row, int col) {
+    At(row, col);
+    rowSel_ = row;
+    colSel_ = col;
+    Shown.Changed();
+}
+
+void FlexGrid::Select_Range(int row, int col, int rowSel, int colSel) {
+    At(row, col);
+    At(rowSel, colSel);
+    row_ = row;
+    col_ = col;
+    rowSel_ = rowSel;
+    colSel_ = colSel;
+    Shown.Changed();
+}
+
+void FlexGrid::Set_TopRow(int row) {
+    const int before = topRow_;
+    topRow_ = row;
+    Keep_Position_Inside();
+    if (topRow_ == before)
+        return;
+    Shown.Changed();
+    Run(OnScroll);
+}
+
+void FlexGrid::Set_LeftCol(int col) {
+    const int before = leftCol_;
+    leftCol_ = col;
+    Keep_Position_Inside();
+    if (leftCol_ == before)
+        return;
+    Shown.Changed();
+    Run(OnScroll);
+}
+
+Placement FlexGrid::Cell_Place() const {
+    Placement place{0, 0, ColWidth(col_), RowHeight(row_)};
+    for (int col = 0; col < col_; ++col)
+        if (col < fixedCols_ || (col_ >= fixedCols_ && col >= leftCol_))
+            place.Left += ColWidth(col);
+    for (int row = 0; row < row_; ++row)
+        if (row < fixedRows_ || (row_ >= fixedRows_ && row >= topRow_))
+            place.Top += RowHeight(row);
+    return place;
+}
+
+std::string FlexGrid::Clip() const {
+    const auto [firstRow, lastRow] = std::minmax({row_, rowSel_});
+    const auto [firstCol, lastCol] = std::minmax({col_, colSel_});
+    std::string clip;
+    for (int row = firstRow; row <= lastRow; ++row) {
+        for (int col = firstCol; col <= lastCol; ++col)
+            clip.append(col > firstCol ? "\t" : "").append(Text(row, col));
+        if (row < lastRow)
+            clip += '\r';
+    }
+    return clip;
+}
+
+void FlexGrid::Press(int row, int col) {
+    // A click on the current cell selects it again.
+    if (!Move_To(row, col))
+        Run(OnSelChange);
+    Run(OnMouseDown);
+}
+
+void FlexGrid::Move_By(int rows, int cols, bool extend) {
+    const int row = std::clamp((extend ? rowSel_ : row_) + rows, fixedRows_, rows_ - 1);
+    const int col = std::clamp((extend ? colSel_ : col_) + cols, 0, cols_ - 1);
+    if (extend)
+        Extend_To(row, col);
+    else
+        Move_To(row, col);
+}
+
+} // namespace Tensarix

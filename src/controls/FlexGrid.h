@@ -1,0 +1,140 @@
+// The table that all grids share. Measures are in twips (1440 to the inch, 15 to a pixel at 96
+// dots per inch). Rows and columns count from 0, the fixed ones first. An index outside the grid
+// fails. Writing a cell costs about as much as writing a string.
+#pragma once
+
+#include "controls/Controls.h"
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Tensarix {
+
+// A colour value in the order blue, green, red. The view shows the colours named here as they are
+// under a light theme, and by colours with the same meaning under a dark one.
+using Colour = std::uint32_t;
+
+namespace Colours {
+inline constexpr Colour Standard = 0xFFFFFFFF; // whatever the theme has
+inline constexpr Colour HeadBack = 0xFFFFC0;   // pale cyan
+inline constexpr Colour HeadText = 0x0000FF;   // red
+inline constexpr Colour SymbolText = 0xFF0000; // blue
+inline constexpr Colour NameText = 0x800000;   // dark blue
+} // namespace Colours
+
+enum class Alignment : std::uint8_t { Left = 1, Centre = 4, Right = 7 };
+
+struct CellStyle {
+    Alignment Align = Alignment::Left;
+    bool Tahoma = false; // asked for by name, with a sans-serif substitute
+    bool Bold = false;
+    Colour Fore = Colours::Standard;
+    Colour Back = Colours::Standard;
+
+    bool operator==(const CellStyle&) const = default;
+};
+
+class FlexGrid {
+  public:
+    Handler OnLeaveCell; // before the current cell changes
+    Handler OnSelChange; // after the current cell has changed
+    Handler OnMouseDown; // left button, after the cell under it has become current
+    Handler OnPopup;     // right button up, or the keyboard's menu key
+    Handler OnCopy;      // Ctrl+C
+    Handler OnPaste;     // Ctrl+V
+    Handler OnDblClick;
+    Handler OnScroll;
+    std::function<void(double xTwips)> OnMouseMove; // from the grid's left edge
+    std::function<void(int keyAscii)> OnKeyPress;
+    KeyHandler OnKeyDown;
+    std::function<bool(bool back)> OnTab; // true: it has gone to another cell, the focus stays
+    Handler BringIntoView;                // the view's: scrolls until the current cell shows
+    FocusPoint Focus;
+    View Shown;
+
+    int Rows() const { return rows_; }
+    int Cols() const { return cols_; }
+    int FixedRows() const { return fixedRows_; }
+    int FixedCols() const { return fixedCols_; }
+    // Rows and columns that stay keep what they hold; new ones are blank.
+    void Set_Rows(int rows);
+    void Set_Cols(int cols);
+    void Set_Fixed(int fixedRows, int fixedCols);
+
+    // Empties all cells: texts, styles and remarks. The size stays.
+    void Clear();
+
+    const std::string& Text(int row, int col) const;
+    // The cell's remark goes.
+    void Set_Text(int row, int col, std::string text);
+    const CellStyle& Style(int row, int col) const;
+    void Set_Style(int row, int col, const CellStyle& style);
+    // An advisory of a cell, never part of its text; empty: none.
+    const std::string& Remark(int row, int col) const;
+    void Set_Remark(int row, int col, std::string remark);
+
+    double RowHeight(int row) const;
+    void Set_RowHeight(int row, double twips);
+    void Set_RowHeightMin(double twips);
+    double ColWidth(int col) const;
+    void Set_ColWidth(int col, double twips);
+
+    int Row() const { return row_; }
+    int Col() const { return col_; }
+    int RowSel() const { return rowSel_; }
+    int ColSel() const { return colSel_; }
+    // Makes the cell the current one and the selection; true if it wasn't the current one. Runs
+    // OnLeaveCell before and OnSelChange after.
+    bool Move_To(int row, int col);
+    // The selection goes from the current cell to this one.
+    void Extend_To(int row, int col);
+    // Selects from one cell to another; the first is the current one then. No handler runs.
+    void Select_Range(int row, int col, int rowSel, int colSel);
+
+    // First row and column in view behind the fixed ones. Kept inside the grid.
+    int TopRow() const { return topRow_; }
+    int LeftCol() const { return leftCol_; }
+    void Set_TopRow(int row);
+    void Set_LeftCol(int col);
+
+    // Where the grid lies on its form.
+    const Placement& Place() const { return place_; }
+    void Set_Place(const Placement& place) { place_ = place; }
+    // The current cell inside the grid, as far as row heights and column widths tell.
+    Placement Cell_Place() const;
+
+    // The selected cells, a tab between cells and a carriage return between rows.
+    std::string Clip() const;
+
+    // What the user does, for the view and for tests.
+    void Press(int row, int col); // left button down on a cell
+    void Move_By(int rows, int cols, bool extend);
+
+    // Counts the changes of size, heights and widths, so that a view knows when to measure again.
+    unsigned LayoutVersion() const { return layoutVersion_; }
+
+  private:
+    struct Cell {
+        std::string Text;
+        CellStyle Style;
+    };
+
+    std::size_t At(int row, int col) const;
+    void Layout_Changed();
+    void Keep_Position_Inside();
+
+    std::vector<Cell> cells_ = std::vector<Cell>(4);
+    std::vector<double> heights_ = std::vector<double>(2, -1), widths_ = std::vector<double>(2, -1);
+    std::map<std::pair<int, int>, std::string> remarks_;
+    int rows_ = 2, cols_ = 2, fixedRows_ = 1, fixedCols_ = 1;
+    int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
+    int topRow_ = 1, leftCol_ = 1;
+    double heightMin_ = 0;
+    Placement place_;
+    unsigned layoutVersion_ = 0;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,94 @@
+// What the machine offers, as small interfaces. The window room implements them for the desktop,
+// the tests bring stand-ins that record.
+#pragma once
+
+#include "controls/View.h"
+#include "platform/Settings.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace Tensarix {
+
+class Clipboard {
+  public:
+    virtual ~Clipboard() = default;
+    virtual void Clear() = 0;
+    virtual void Set_Text(std::string_view text) = 0;
+    virtual std::string Text() = 0;
+};
+
+class Voice {
+  public:
+    virtual ~Voice() = default;
+    // Returns at once. The text replaces what is being spoken; an empty one silences it.
+    virtual void Speak(std::string_view text) = 0;
+    // Called with the place and length, in bytes of the text, of the word that is being spoken.
+    std::function<void(std::size_t at, std::size_t length)> OnWord;
+    Handler OnEnd;
+};
+
+enum class MessageIcon { Stop, Exclamation, Information };
+
+class Messages {
+  public:
+    virtual ~Messages() = default;
+    // Returns when the user has answered.
+    virtual void Show(std::string_view text, std::string_view title, MessageIcon icon) = 0;
+    virtual bool Ask_Yes_No(std::string_view text, std::string_view title, MessageIcon icon) = 0;
+};
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+    // Seconds from some fixed moment, never falling.
+    virtual double Seconds() = 0;
+};
+
+class EventLoop {
+  public:
+    virtual ~EventLoop() = default;
+    // Lets pending events run. Nearly free: it looks at the clock and turns the loop at most every
+    // few milliseconds. False: the program is closing and whoever yields has to come to an end.
+    virtual bool Yield() = 0;
+    // Lets all pending events run now.
+    virtual void Turn() = 0;
+};
+
+class MainWindow {
+  public:
+    virtual ~MainWindow() = default;
+    virtual void Set_On_Top(bool onTop) = 0;
+    virtual void Close() = 0;
+};
+
+// One program a user: a second start raises the first one's window and ends.
+class Instance {
+  public:
+    virtual ~Instance() = default;
+    virtual bool Other_Runs() = 0;
+    virtual void Raise_Other() = 0;
+};
+
+// The store lies in the program's folder. The data files lie there too, or in the user's data
+// folder where the program's can't be written.
+struct Folders {
+    std::filesystem::path Program;
+    std::filesystem::path Data;
+};
+
+struct Machine {
+    SettingsStore& Store;
+    Clipboard& Clip;
+    Voice& Speech;
+    Messages& Boxes;
+    Clock& Time;
+    EventLoop& Events;
+    MainWindow& Window;
+    Instance& Guard;
+    Folders Places;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,165 @@
+#include "sections/BrowsePage.h"
+
+#include "common/Failure.h"
+#include "common/NumberText.h"
+#include "speech/Normalisers.h"
+
+namespace Tensarix {
+
+namespace {
+
+constexpr double snapBackEdge = 885; // twips from the grid's left edge
+
+// One line, single blanks.
+std::string Flat_Meaning(std::string_view meaning) {
+    const std::string line = Replace_All(Trim(meaning), "\n", "");
+    return Replace_All(Replace_All(line, "  ", " "), "  ", " ");
+}
+
+} // namespace
+
+BrowsePage::BrowsePage(Desk& desk) : desk_(desk) {
+    OptionButton::Group({&ProfileOption1, &ProfileOption2});
+    OptionButton::Group({&DimOption1, &DimOption2});
+    ProfileOption1.Set_Caption("US Standard Profile");
+    ProfileOption2.Set_Caption("SI Equivalent Profile");
+    DimOption1.Set_Caption("Decimal");
+    DimOption2.Set_Caption("Imperial");
+
+    ShapeType.OnChange = [this] { ShapeType_Change(); };
+    ShapeSizeUS.OnChange = [this] { ShapeSizeUS_Change(); };
+    ShapeSizeSI.OnChange = [this] { ShapeSizeSI_Change(); };
+    ProfileOption1.OnClick = [this] { Choose_Profile(Profile::US); };
+    ProfileOption2.OnClick = [this] { Choose_Profile(Profile::SI); };
+    DimOption1.OnClick = [this] { Choose_Style(DimensionStyle::Decimal); };
+    DimOption2.OnClick = [this] { Choose_Style(DimensionStyle::Imperial); };
+    ShapeFlex.OnSelChange = [this] { ShapeFlex_SelChange(); };
+    ShapeFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
+    ShapeFlex.OnMouseMove = [this](double xTwips) { ShapeFlex_MouseMove(xTwips); };
+    BaseImage.OnMouseMove = [this] { Snap_Back(); };
+}
+
+void BrowsePage::Init_ShapeFlex() {
+    ShapeFlex.Clear();
+    ShapeFlex.Set_Rows(26);
+    ShapeFlex.Set_Cols(4);
+    ShapeFlex.Set_Fixed(1, 1);
+    ShapeFlex.Set_RowHeightMin(350);
+    const double widths[] = {900, 1300, 1300, 5345};
+    const char* heads[] = {"Property", "Value", "Unit", "    Meaning"};
+    ShapeFlex.Set_RowHeight(0, 460);
+    for (int col = 0; col < ShapeFlex.Cols(); ++col) {
+        ShapeFlex.Set_ColWidth(col, widths[col]);
+        ShapeFlex.Set_Style(0, col,
+                            {.Align = col == 3 ? Alignment::Left : Alignment::Centre,
+                             .Tahoma = true,
+                             .Fore = Colours::HeadText,
+                             .Back = Colours::HeadBack});
+        ShapeFlex.Set_Text(0, col, heads[col]);
+    }
+    ShapeFlex.Select_Range(1, 3, 1, 3);
+}
+
+void BrowsePage::ShapeType_Change() {
+    if (desk_.ReadOut) {
+        desk_.Say("");
+        desk_.Say(Spoken_Family(ShapeType.Text()));
+    }
+    BaseImage.Set_Name({});
+    const int position = ShapeType.ListIndex();
+    Attempt([&] { BaseImage.Set_Name(std::string{Family_At(position).Picture}); });
+    Attempt([&] {
+        FillSizeLists(ShapeSizeUS, ShapeSizeSI, Family_At(position).Type,
+                      desk_.Host.Places.Program);
+    });
+    Attempt([&] { Family_At(position).Browse(ShapeFlex, ShapeSizeUS, View(), true); });
+    Attempt([&] {
+        ShapeSizeUS.Select(desk_.Saved.Position(Setting::ShapeSize, std::to_string(position)));
+    });
+    if (ShapeSizeUS.ListIndex() < 0)
+        ShapeLabel.Set_Caption({});
+    ShapeFlex.Set_TopRow(1);
+}
+
+void BrowsePage::ShapeSizeUS_Change() {
+    Attempt([&] { ShapeSizeSI.Select(ShapeSizeUS.ListIndex()); });
+    const ComboBox& active = profile_ == Profile::US ? ShapeSizeUS : ShapeSizeSI;
+    ShapeLabel.Set_Caption(SpaceDesignation(Trim(active.Text())));
+    if (ShapeType.ListIndex() >= 0)
+        desk_.Saved.Save(Setting::ShapeSize, std::to_string(ShapeType.ListIndex()),
+                         std::to_string(ShapeSizeUS.ListIndex()));
+    ShowSectionProperties();
+}
+
+// All work hangs on the US list.
+void BrowsePage::ShapeSizeSI_Change() {
+    Attempt([&] { ShapeSizeUS.Select(ShapeSizeSI.ListIndex()); });
+}
+
+void BrowsePage::ShowSectionProperties() {
+    const int position = ShapeType.ListIndex();
+    Attempt([&] {
+        const Family& family = Family_At(position);
+        if (position == UnEqualDoubleAngleFamily)
+            BaseImage.Set_Name(std::string{Double_Angle_Picture(ShapeSizeUS.Text())});
+        family.Browse(ShapeFlex, position == PipeFamily ? ShapeSizeSI : ShapeSizeUS, View(), false);
+    });
+    desk_.Show_No_Selection();
+}
+
+void BrowsePage::Choose_Profile(Profile profile) {
+    profile_ = profile;
+    DimOption1.Enable(profile == Profile::US);
+    DimOption2.Enable(profile == Profile::US);
+    const ComboBox& active = profile == Profile::US ? ShapeSizeUS : ShapeSizeSI;
+    ShapeLabel.Set_Caption(SpaceDesignation(Trim(active.Text())));
+    ShowSectionProperties();
+}
+
+void BrowsePage::Choose_Style(DimensionStyle style) {
+    style_ = style;
+    ShowSectionProperties();
+}
+
+SectionView BrowsePage::View() const {
+    return {desk_.Host.Places.Program, profile_, style_};
+}
+
+std::string BrowsePage::Selection_Text(int row) const {
+    const std::string symbol = Trim(ShapeFlex.Text(row, 0));
+    if (symbol.empty())
+        return " SELECTION:";
+    const std::string value = Trim(ShapeFlex.Text(row, 1));
+    std::string text = " SELECTION:   " + symbol + " = " + value + " ";
+    if (Is_Numeric(value))
+        text += Trim(ShapeFlex.Text(row, 2));
+    return text + "     [" + Flat_Meaning(ShapeFlex.Text(row, 3)) + "]";
+}
+
+std::string BrowsePage::Spoken_Text(int row) const {
+    const std::string value = Trim(ShapeFlex.Text(row, 1));
+    return Speak_Symbol(Trim(ShapeFlex.Text(row, 0))) + " = " + Speak_Value(value) + " " +
+           Speak_Unit(Trim(ShapeFlex.Text(row, 2)), value) +
+           " :: " + Speak_Phrase(Flat_Meaning(ShapeFlex.Text(row, 3)));
+}
+
+void BrowsePage::ShapeFlex_SelChange() {
+    const int row = ShapeFlex.Row();
+    desk_.StatBar.Set_Panel1(Selection_Text(row));
+    const std::string& own = ShapeFlex.Remark(row, ShapeFlex.Col());
+    desk_.StatBar.Set_Remark(own.empty() ? ShapeFlex.Remark(row, 1) : own);
+    if (desk_.ReadOut && !Trim(ShapeFlex.Text(row, 0)).empty())
+        desk_.Say(Spoken_Text(row));
+}
+
+void BrowsePage::ShapeFlex_MouseMove(double xTwips) {
+    if (xTwips < snapBackEdge)
+        Snap_Back();
+}
+
+void BrowsePage::Snap_Back() {
+    if (ShapeFlex.LeftCol() != 1)
+        ShapeFlex.Set_LeftCol(1);
+}
+
+} // namespace Tensarix

@@ -1,0 +1,72 @@
+// The 17 families. The position in the table is the one of every family list and of the settings.
+#pragma once
+
+#include "controls/Controls.h"
+#include "sections/SectionGrids.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace Tensarix {
+
+struct Family {
+    std::string_view Name;    // as listed
+    std::string_view Type;    // code in the column TYPE
+    std::string_view Picture; // empty: chosen for each section
+    const PlainInitializer& Browse;
+    const TableInitializer& ViewAll;
+};
+
+inline constexpr std::array<Family, 17> Families{{
+    {"W-Shape", "W", "WShapeImage", WShape_Initializer, xWShape_Initializer},
+    {"M-Shape", "M", "MShapeImage", WShape_Initializer, xWShape_Initializer},
+    {"HP-Shape", "HP", "HPShapeImage", WShape_Initializer, xWShape_Initializer},
+    {"S-Shape", "S", "SShapeImage", SShape_Initializer, xSShape_Initializer},
+    {"C-Shape", "C", "CShapeImage", CShape_Initializer, xCShape_Initializer},
+    {"MC-Shape", "MC", "MCShapeImage", CShape_Initializer, xCShape_Initializer},
+    {"WT-Shape", "WT", "WTShapeImage", WTShape_Initializer, xWTShape_Initializer},
+    {"MT-Shape", "MT", "MTShapeImage", WTShape_Initializer, xWTShape_Initializer},
+    {"ST-Shape", "ST", "STShapeImage", STShape_Initializer, xSTShape_Initializer},
+    {"Rectangular HSS", "HSS-Rec", "HSSRecImage", HSSRec_Initializer, xHSSRec_Initializer},
+    {"Square HSS", "HSS-Sqr", "HSSSqrImage", HSSSqr_Initializer, xHSSSqr_Initializer},
+    {"Round HSS", "HSS-Rnd", "HSSRndImage", HSSRnd_Initializer, xHSSRnd_Initializer},
+    {"Pipe", "Pipe", "PipeImage", Pipe_Initializer, xPipe_Initializer},
+    {"Angle (Equal Legs)", "L-Eq", "SAngleImage", EqSAngle_Initializer, xSAngle_Initializer},
+    {"Angle (UnEqual Legs)", "L-UnEq", "SAngleImage", EqSAngle_Initializer, xSAngle_Initializer},
+    {"Double Angle (Equal Legs)", "2L-Eq", "DLEqImage", EqDAngle_Initializer,
+     xEqDAngle_Initializer},
+    {"Double Angle (UnEqual Legs)", "2L-UnEq", "", UnEqDAngle_Initializer,
+     xUnEqDAngle_Initializer},
+}};
+
+inline constexpr int PipeFamily = 12;
+inline constexpr int UnEqualDoubleAngleFamily = 16;
+inline constexpr int BeamFamilies = 6; // the first ones carry beam load
+
+// The family at a list position; fails where there is none.
+const Family& Family_At(int position);
+
+// Clears the list and adds the 17 names.
+void FillFamilyList(ComboBox& combo);
+
+// Clears the list and adds the family's designations in SEQ order; without rows it stays empty.
+// If the store can't be opened it fails and leaves the list as it is.
+void Init_Shape(ComboBox& combo, std::string_view type, bool useSI,
+                const std::filesystem::path& programFolder);
+
+// The same for the two lists of a screen, pairwise, so that a position is the same section in both.
+void FillSizeLists(ComboBox& us, ComboBox& si, std::string_view type,
+                   const std::filesystem::path& programFolder);
+
+// The family's name as it is spoken: without its parentheses.
+std::string Spoken_Family(std::string_view name);
+
+// A blank on either side of each lower-case x: "W18x50" gives "W18 x 50".
+std::string SpaceDesignation(std::string_view text);
+
+// The picture of a double angle with unequal legs, by its US designation.
+std::string_view Double_Angle_Picture(std::string_view designation);
+
+} // namespace Tensarix

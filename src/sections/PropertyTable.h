@@ -1,0 +1,75 @@
+// The properties of the section families: which there are, from which columns of the store they
+// come, and how a value becomes the text of a cell. One table of data (PropertyTable.cpp), walked
+// by the initializers of SectionGrids.h.
+#pragma once
+
+#include "sections/SectionStore.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Tensarix {
+
+enum class Profile { US = 0, SI = 1 };
+enum class DimensionStyle { Decimal = 0, Imperial = 1 };
+
+// How a value becomes text. Ratio and Pair have no unit.
+enum class PropertyKind {
+    Number,       // two to four decimals
+    Length,       // like Number; US lengths in feet and inches under the Imperial style
+    SecondMoment, // like Number; in SI a number of mm^n shortened to a power of ten
+    Pair,         // like Number, without a unit
+    Ratio         // like Pair, one column for both profiles
+};
+
+struct Property {
+    std::string_view Symbol;
+    std::string_view Meaning;
+    std::string_view USColumn, SIColumn;
+    PropertyKind Kind = PropertyKind::Number;
+    std::string_view USUnit = {}, SIUnit = {};
+    // Columns that are taken off twice: the depth between the fillets has no column of its own.
+    std::string_view USLessTwice = {}, SILessTwice = {};
+    bool WritesUnit = true;
+};
+
+// What stands in one place of a layout: a row on Browse, a column on View All and on Find.
+struct LayoutEntry {
+    const Property* Browse;
+    const Property* ViewAll;
+    const Property* Find;
+};
+
+struct Layout {
+    std::span<const LayoutEntry> Entries;
+    int BrowseRows;     // of the grid, with its head row
+    int SpareRowsFrom;  // rows from here on are emptied when the layout is laid out; 0: none
+    int TableColumns;   // of the View All and Find grids
+    // Where the heads and the values stand on View All and Find, if not in order from column 2.
+    std::span<const int> HeadColumns = {}, ValueColumns = {};
+};
+
+namespace Layouts {
+extern const Layout W, S, C, WT, ST, HSSRec, HSSSqr, HSSRnd, Pipe, SAngle, EqDAngle, UnEqDAngle;
+}
+
+// The text of a value, as it stands in the cell. Fails where the column is missing, Null, or holds
+// a text where a number is needed. The style has no effect under SI.
+std::string Value_Text(const SectionRecordset& record, const Property& property, Profile profile,
+                       DimensionStyle style);
+
+// What the cell's text no longer tells: "Stored value: 12,900,000,000 mm^4" where a power of ten
+// lost digits of the number in the store, otherwise empty.
+std::string Lost_Digits_Remark(const SectionRecordset& record, const Property& property,
+                               Profile profile, std::string_view text);
+
+// The unit under the profile; empty for Pair and Ratio.
+std::string_view Unit_Text(const Property& property, Profile profile);
+
+// A large whole number as a power-of-ten text: 416000000 gives 416x10^6. The exponent is a multiple
+// of the number of digits before it, and digits that do not fit are rounded away; a number without
+// a digit 0 gives "0.00". All this is intended.
+std::string FormatSiProperty(double value);
+
+} // namespace Tensarix

@@ -1,0 +1,183 @@
+#include "sections/SectionGrids.h"
+
+#include "common/Extremes.h"
+#include "common/Failure.h"
+#include "common/NumberText.h"
+
+namespace Tensarix {
+
+namespace {
+
+enum BrowseColumn { symbolColumn, valueColumn, unitColumn, meaningColumn };
+
+constexpr double browseRowHeight = 345;
+constexpr double twoLineRowHeight = 690;
+constexpr std::string_view meaningIndent = "    ";
+
+constexpr double tableRowHeightMin = 350;
+constexpr double tableHeadHeight = 600;
+constexpr double nameWidth = 1500;
+constexpr double valueWidth = 1268;
+constexpr int nameColumns = 2;
+
+constexpr CellStyle symbolStyle{.Align = Alignment::Centre, .Fore = Colours::SymbolText};
+constexpr CellStyle rightStyle{.Align = Alignment::Right};
+constexpr CellStyle centreStyle{.Align = Alignment::Centre};
+constexpr CellStyle headStyle{.Align = Alignment::Centre,
+                              .Tahoma = true,
+                              .Fore = Colours::HeadText,
+                              .Back = Colours::HeadBack};
+constexpr CellStyle nameStyle{.Align = Alignment::Centre, .Fore = Colours::NameText};
+
+// A text that was not written now tells something of another section.
+void Mark_Stale(FlexGrid& grid, int row, int col) {
+    if (!Trim(grid.Text(row, col)).empty())
+        grid.Set_Remark(row, col, std::string{StaleValueRemark});
+}
+
+void Lay_Out_Rows(FlexGrid& grid, const Layout& layout) {
+    if (layout.SpareRowsFrom > 0)
+        grid.Set_Rows(layout.SpareRowsFrom);
+    grid.Set_Rows(layout.BrowseRows);
+    for (int row = 1; row < grid.Rows(); ++row) {
+        grid.Set_RowHeight(row, browseRowHeight);
+        grid.Set_Style(row, symbolColumn, symbolStyle);
+        grid.Set_Style(row, valueColumn, rightStyle);
+        grid.Set_Style(row, unitColumn, centreStyle);
+        grid.Set_Style(row, meaningColumn, {});
+        // What stands here is of the family shown before, until it is written.
+        Mark_Stale(grid, row, valueColumn);
+        Mark_Stale(grid, row, unitColumn);
+    }
+}
+
+void Write_Labels(FlexGrid& grid, const Layout& layout) {
+    int row = 0;
+    for (const LayoutEntry& entry : layout.Entries) {
+        if (!entry.Browse)
+            continue;
+        const Property& property = *entry.Browse;
+        grid.Set_Text(++row, symbolColumn, std::string{property.Symbol});
+        grid.Set_Text(row, meaningColumn, std::string{meaningIndent}.append(property.Meaning));
+        if (property.Meaning.find('\n') != std::string_view::npos)
+            grid.Set_RowHeight(row, twoLineRowHeight);
+    }
+}
+
+void Write_Value(FlexGrid& grid, int row, int col, const SectionRecordset& record,
+                 const Property& property, const SectionView& view) {
+    const std::string text = Value_Text(record, property, view.Units, view.Style);
+    grid.Set_Text(row, col, text);
+    grid.Set_Remark(row, col, Lost_Digits_Remark(record, property, view.Units, text));
+}
+
+void Write_Values(FlexGrid& grid, const Layout& layout, const SectionRecordset& record,
+                  const SectionView& view) {
+    int row = 0;
+    for (const LayoutEntry& entry : layout.Entries) {
+        if (!entry.Browse)
+            continue;
+        const Property& property = *entry.Browse;
+        ++row;
+        if (!Attempt([&] { Write_Value(grid, row, valueColumn, record, property, view); }))
+            Mark_Stale(grid, row, valueColumn);
+        if (property.WritesUnit)
+            grid.Set_Text(row, unitColumn, std::string{Unit_Text(property, view.Units)});
+    }
+}
+
+const Property& Of_Variant(const LayoutEntry& entry, TableVariant variant) {
+    return variant == TableVariant::ViewAll ? *entry.ViewAll : *entry.Find;
+}
+
+// The column of an entry: by the layout's own numbering, or in order behind the names.
+int Column_Of(std::span<const int> numbering, std::size_t entry) {
+    return numbering.empty() ? static_cast<int>(entry) + nameColumns : numbering[entry];
+}
+
+void Write_Head(FlexGrid& grid, int col, std::string text) {
+    grid.Set_Style(0, col, headStyle);
+    grid.Set_Text(0, col, std::move(text));
+}
+
+std::string Head_Text(const Property& property, Profile profile) {
+    std::string text{property.Symbol};
+    const std::string_view unit = Unit_Text(property, profile);
+    if (!unit.empty())
+        text.append("\n[").append(unit).append("]");
+    return text;
+}
+
+void Write_Name(FlexGrid& grid, int row, int col, const SectionRecordset& record,
+                std::string_view column) {
+    grid.Set_Style(row, col, nameStyle);
+    Attempt([&] { grid.Set_Text(row, col, Trim(record.Text(column))); });
+}
+
+} // namespace
+
+void PlainInitializer::operator()(FlexGrid& grid, const ComboBox& sizeList,
+                                  const SectionView& view, bool labelMode) const {
+    if (labelMode) {
+        Lay_Out_Rows(grid, Rows);
+        Write_Labels(grid, Rows);
+        return;
+    }
+    SectionRecordset record;
+    Attempt([&] {
+        const std::string& text = sizeList.Text();
+        SectionRead read(view.ProgramFolder,
+                         BySIName ? Query_By_SI_Name(text) : Query_By_US_Label(text));
+        record = std::move(read.Records);
+        record.MoveFirst();
+    });
+    Write_Values(grid, Rows, record, view);
+}
+
+void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, Profile profile,
+                   int rows) {
+    grid.Clear();
+    grid.Set_Rows(rows);
+    grid.Set_Cols(layout.TableColumns);
+    grid.Set_Fixed(1, nameColumns);
+    grid.Set_RowHeightMin(tableRowHeightMin);
+    grid.Set_RowHeight(0, tableHeadHeight);
+    for (int col = 0; col < grid.Cols(); ++col)
+        grid.Set_ColWidth(col, col < nameColumns ? nameWidth : valueWidth);
+    Write_Head(grid, 0, "Standard US\nProfile");
+    Write_Head(grid, 1, "SI Equivalent\nProfile");
+    for (std::size_t i = 0; i < layout.Entries.size(); ++i)
+        Write_Head(grid, Column_Of(layout.HeadColumns, i),
+                   Head_Text(Of_Variant(layout.Entries[i], variant), profile));
+}
+
+void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Layout& layout,
+                     TableVariant variant, const SectionView& view) {
+    Write_Name(grid, row, 0, record, "IDE_STD_Nomenclature");
+    Write_Name(grid, row, 1, record, "xIDE_STD_Nomenclature");
+    for (std::size_t i = 0; i < layout.Entries.size(); ++i) {
+        const Property& property = Of_Variant(layout.Entries[i], variant);
+        const int col = Column_Of(layout.ValueColumns, i);
+        grid.Set_Style(row, col, rightStyle);
+        if (!Attempt([&] { Write_Value(grid, row, col, record, property, view); }))
+            Mark_Stale(grid, row, col);
+    }
+}
+
+void TableInitializer::operator()(FlexGrid& grid, std::string_view familyCode,
+                                  const SectionView& view) const {
+    SectionRecordset record;
+    Attempt([&] { record = SectionRead(view.ProgramFolder, Query_By_Family(familyCode)).Records; });
+    double count = 0;
+    Attempt([&] { count = static_cast<double>(record.RecordCount()); });
+    Lay_Out_Table(grid, Columns, TableVariant::ViewAll, view.Units,
+                  static_cast<int>(Largest_Of({count + 1, LeastTableRows})));
+    int row = 1;
+    Attempt([&] {
+        for (record.MoveFirst(); !record.AtEnd(); record.MoveNext())
+            Write_Table_Row(grid, row++, record, Columns, TableVariant::ViewAll, view);
+    });
+    grid.Set_Rows(static_cast<int>(Largest_Of({static_cast<double>(row), LeastTableRows})));
+}
+
+} // namespace Tensarix

@@ -1,0 +1,158 @@
+#include "shell/MainFrm.h"
+
+#include "common/Failure.h"
+#include "shell/Version.h"
+
+namespace Tensarix {
+
+namespace {
+
+constexpr std::array<std::string_view, ModeCount> modeCaptions{
+    "Browse Sections", "Find Sections", "View All", "Allowable Beam Load", "Connection Design"};
+
+// Zero is the first choice, anything else the second; a text that is no number leaves both alone.
+void Choose(const Settings& saved, const SettingKey& key, OptionButton& first,
+            OptionButton& second) {
+    Attempt([&] { (saved.Flag(key) ? second : first).Select(); });
+}
+
+} // namespace
+
+std::string Window_Caption() {
+    return std::string{ApplicationTitle} + " v" + std::to_string(MajorVersion) + "." +
+           std::to_string(MinorVersion) + "  [Beta]  -  " + std::string{LegalLine};
+}
+
+MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
+    : Shared(machine), Browse(Shared), dialogs_(dialogs) {
+    std::vector<OptionButton*> modes;
+    for (int i = 0; i < ModeCount; ++i) {
+        OptionButton& button = OptButton[static_cast<std::size_t>(i)];
+        button.Set_Caption(std::string{modeCaptions[static_cast<std::size_t>(i)]});
+        button.OnClick = [this, i] { OptButton_Click(i); };
+        modes.push_back(&button);
+    }
+    OptionButton::Group(modes);
+    Wire_Menu();
+    Shared.StatBar.OnMouseMove = [this] { Browse.Snap_Back(); };
+}
+
+void MainFrm::Wire_Menu() {
+    mnuCalc.Set_Caption("Scientific Calculator        ");
+    mnuWtCalc.Set_Caption("Type 1          ");
+    mnuWtCalcA.Set_Caption("Type 2");
+    mnuTerminate.Set_Caption("Exit");
+    mnuOnTop.Set_Caption("Always On Top             ");
+    mnuReadOut.Set_Caption("Read Out Loud          ");
+    mnuAbout.Set_Caption("About        ");
+
+    mnuCalc.OnClick = [this] { Open_Dialog(&Dialogs::Show_CalcMainFrm); };
+    mnuWtCalc.OnClick = [this] { Open_Dialog(&Dialogs::Show_WtCalcsFrm); };
+    mnuWtCalcA.OnClick = [this] { Open_Dialog(&Dialogs::Show_WtCalcsFrmA); };
+    mnuTerminate.OnClick = [this] { Shared.Host.Window.Close(); };
+    mnuOnTop.OnClick = [this] { mnuOnTop_Click(); };
+    mnuReadOut.OnClick = [this] { mnuReadOut_Click(); };
+    mnuAbout.OnClick = [this] { Open_Dialog(&Dialogs::Show_AboutFrm); };
+}
+
+bool MainFrm::Load() {
+    if (Shared.Host.Guard.Other_Runs()) {
+        Shared.Host.Guard.Raise_Other();
+        return false;
+    }
+    StartUp();
+    return true;
+}
+
+void MainFrm::StartUp() {
+    Caption = Window_Caption();
+    Start_Flags();
+    OptButton[0].Select();
+    Start_Options();
+    FillFamilyList(Browse.ShapeType);
+    Attempt([&] { Browse.ShapeType.Select(Shared.Saved.Position(Setting::ShapeType)); });
+    Shared.Show_No_Selection();
+}
+
+void MainFrm::Start_Flags() {
+    Attempt([&] { Shared.ReadOut = Shared.Saved.Flag(Setting::ReadOutLoud); });
+    Attempt([&] { Shared.OnTop = Shared.Saved.Flag(Setting::AlwaysOnTop); });
+    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+    mnuReadOut.Check(Shared.ReadOut);
+    mnuOnTop.Check(Shared.OnTop);
+}
+
+void MainFrm::Start_Options() {
+    const Settings& saved = Shared.Saved;
+    Choose(saved, Setting::ProfileOption, Browse.ProfileOption1, Browse.ProfileOption2);
+    Choose(saved, Setting::DimOption, Browse.DimOption1, Browse.DimOption2);
+    Browse.Init_ShapeFlex();
+}
+
+void MainFrm::OptButton_Click(int index) {
+    if (Shared.ReadOut) {
+        Shared.Say("");
+        Shared.Say(OptButton[static_cast<std::size_t>(index)].Caption());
+    }
+    Shared.GridClicked = false;
+    Shared.Show_No_Selection();
+    SelectionTab.Select(index);
+}
+
+void MainFrm::Open_Dialog(void (Dialogs::*show)()) {
+    Shared.Say("");
+    // Out of the top-most state, so that the dialog can come above the window.
+    Shared.Host.Window.Set_On_Top(false);
+    (dialogs_.*show)();
+    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+}
+
+void MainFrm::mnuOnTop_Click() {
+    Shared.OnTop = !Shared.OnTop;
+    mnuOnTop.Check(Shared.OnTop);
+    Shared.Saved.Save(Setting::AlwaysOnTop, Shared.OnTop ? "1" : "0");
+    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+}
+
+void MainFrm::mnuReadOut_Click() {
+    Shared.ReadOut = !Shared.ReadOut;
+    mnuReadOut.Check(Shared.ReadOut);
+    Shared.Saved.Save(Setting::ReadOutLoud, Shared.ReadOut ? "1" : "0");
+    Shared.Host.Speech.Speak(""); // silence, also when it has just been switched off
+}
+
+void MainFrm::Resized() { Shared.Host.Window.Set_On_Top(Shared.OnTop); }
+
+void MainFrm::Activated() {
+    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+    Shared.Say("");
+}
+
+void MainFrm::Query_Unload() {
+    Save_Families();
+    Save_Sizes();
+    Save_Options();
+    Shared.Say("");
+}
+
+void MainFrm::Save_Families() {
+    const Settings& saved = Shared.Saved;
+    saved.Save(Setting::ShapeType, std::to_string(Browse.ShapeType.ListIndex()));
+}
+
+void MainFrm::Save_Sizes() {
+    const Settings& saved = Shared.Saved;
+    if (Browse.ShapeType.ListIndex() >= 0)
+        saved.Save(Setting::ShapeSize, std::to_string(Browse.ShapeType.ListIndex()),
+                   std::to_string(Browse.ShapeSizeUS.ListIndex()));
+}
+
+void MainFrm::Save_Options() {
+    const auto save = [this](const SettingKey& key, const OptionButton& first) {
+        Shared.Saved.Save(key, first.Value() ? "0" : "1");
+    };
+    save(Setting::ProfileOption, Browse.ProfileOption1);
+    save(Setting::DimOption, Browse.DimOption1);
+}
+
+} // namespace Tensarix

@@ -1,0 +1,60 @@
+// The main window without a toolkit: start-up, the five modes, the menu, the end.
+#pragma once
+
+#include "controls/Controls.h"
+#include "desk/Desk.h"
+#include "sections/BrowsePage.h"
+#include "shell/Dialogs.h"
+
+#include <array>
+#include <string>
+
+namespace Tensarix {
+
+// The five modes; a mode's number is that of its button and of its tab.
+enum class Mode { Browse, Find, ViewAll, BeamLoad, Connection };
+inline constexpr int ModeCount = 5;
+
+class MainFrm {
+  public:
+    Desk Shared;
+    std::string Caption;
+
+    std::array<OptionButton, ModeCount> OptButton;
+    TabControl SelectionTab;
+
+    BrowsePage Browse;
+
+    MenuItem mnuCalc, mnuWtCalc, mnuWtCalcA, mnuTerminate;
+    MenuItem mnuOnTop, mnuReadOut;
+    MenuItem mnuAbout;
+
+    MainFrm(Machine& machine, Dialogs& dialogs);
+    MainFrm(const MainFrm&) = delete;
+
+    // False: another instance runs and has been raised; this one has to end, without a window.
+    bool Load();
+    // Reads the settings, selects the first mode and fills each page, in this fixed order.
+    void StartUp();
+    // The window is going to close: settings are saved.
+    void Query_Unload();
+    // The window has another size, or has become the active one.
+    void Resized();
+    void Activated();
+
+  private:
+    void Wire_Menu();
+    void Start_Flags();
+    void Start_Options();
+    void OptButton_Click(int index);
+    void Open_Dialog(void (Dialogs::*show)());
+    void mnuOnTop_Click();
+    void mnuReadOut_Click();
+    void Save_Families();
+    void Save_Sizes();
+    void Save_Options();
+
+    Dialogs& dialogs_;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,302 @@
+#include "window/Bind.h"
+
+#include "common/Failure.h"
+#include "window/KeyCodes.h"
+#include "window/Link.h"
+#include "window/MouseWatch.h"
+#include "window/PictureView.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractListModel>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QStackedWidget>
+#include <QStatusBar>
+
+#include <algorithm>
+
+namespace Tensarix {
+
+namespace {
+
+QString To_Qt(const std::string& text) { return QString::fromStdString(text); }
+
+// The list of a combo box as it stands in the control: nothing is copied.
+class ItemModel final : public QAbstractListModel {
+  public:
+    ItemModel(const ComboBox& control, QObject* parent)
+        : QAbstractListModel(parent), control_(control) {}
+
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : shown_;
+    }
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (index.row() >= control_.Count() ||
+            (role != Qt::DisplayRole && role != Qt::EditRole))
+            return {};
+        return To_Qt(control_.Item(index.row()));
+    }
+    void Update() {
+        if (version_ == control_.ItemsVersion())
+            return;
+        beginResetModel();
+        shown_ = control_.Count();
+        version_ = control_.ItemsVersion();
+        endResetModel();
+    }
+
+  private:
+    const ComboBox& control_;
+    int shown_ = 0;
+    unsigned version_ = ~0u;
+};
+
+// Keys and wheel of a list. The wheel does not change a closed one, and Page Up and Page Down move
+// by what an open one would show.
+class ComboKeys final : public QObject {
+  public:
+    ComboKeys(QComboBox* widget, ComboBox& control)
+        : QObject(widget), widget_(widget), control_(control) {
+        sinceTyped_.start();
+        widget->installEventFilter(this);
+        widget->view()->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Wheel && watched == widget_) {
+            event->ignore();
+            return true;
+        }
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (!widget_->isEditable() && Search(*key))
+            return true;
+        return watched == widget_ && Key_Pressed(key);
+    }
+
+  private:
+    // What is typed into a list that can't be typed in looks for an item.
+    bool Search(const QKeyEvent& event) {
+        const int character = Key_Character(event);
+        if (sinceTyped_.hasExpired(QApplication::keyboardInputInterval()))
+            typed_.clear();
+        if (character < Keys::Blank || character > '~' ||
+            (character == Keys::Blank && typed_.empty()))
+            return false;
+        typed_ += static_cast<char>(character);
+        sinceTyped_.restart();
+        if (const int found = Find_By_Typing(control_, typed_); found >= 0)
+            Go_To(found);
+        return true;
+    }
+
+    void Go_To(int position) {
+        if (widget_->view()->isVisible())
+            widget_->view()->setCurrentIndex(widget_->model()->index(position, 0));
+        else
+            control_.Select(position);
+    }
+
+    bool Key_Pressed(QKeyEvent* event) {
+        if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp)
+            return Page(event->key() == Qt::Key_PageDown ? 1 : -1);
+        if (control_.OnKeyDown && Key_Code(*event) != 0)
+            control_.OnKeyDown(Key_Code(*event));
+        if (!control_.OnKeyPress || !widget_->isEditable())
+            return false;
+        const int character = Key_Character(*event);
+        if (character == 0)
+            return false;
+        const int kept = control_.OnKeyPress(character);
+        if (kept != 0 && Is_Pad_Separator(*event)) {
+            widget_->lineEdit()->insert(QChar(kept));
+            emit widget_->lineEdit()->textEdited(widget_->lineEdit()->text());
+            return true;
+        }
+        return kept == 0;
+    }
+
+    bool Page(int direction) {
+        if (control_.Count() == 0)
+            return true;
+        const int to = std::clamp(control_.ListIndex() + direction * widget_->maxVisibleItems(), 0,
+                                  control_.Count() - 1);
+        control_.Select(to);
+        return true;
+    }
+
+    QComboBox* widget_;
+    ComboBox& control_;
+    std::string typed_;
+    QElapsedTimer sinceTyped_;
+};
+
+// Keys of a text box: every character passes the control's filter first.
+class TextKeys final : public QObject {
+  public:
+    TextKeys(QLineEdit* widget, TextBox& control)
+        : QObject(widget), widget_(widget), control_(control) {
+        widget->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        return event->type() == QEvent::KeyPress && Key_Pressed(static_cast<QKeyEvent*>(event));
+    }
+
+  private:
+    bool Key_Pressed(QKeyEvent* event) {
+        control_.Set_SelStart(widget_->cursorPosition());
+        if (control_.OnKeyDown && Key_Code(*event) != 0)
+            control_.OnKeyDown(Key_Code(*event));
+        const int character = Key_Character(*event);
+        if (character == 0)
+            return false;
+        const int kept = control_.OnKeyPress ? control_.OnKeyPress(character) : character;
+        if (kept != 0 && Is_Pad_Separator(*event)) {
+            widget_->insert(QChar(kept));
+            emit widget_->textEdited(widget_->text());
+            return true;
+        }
+        return kept == 0;
+    }
+
+    QLineEdit* widget_;
+    TextBox& control_;
+};
+
+} // namespace
+
+void Bind(QComboBox* widget, ComboBox& control) {
+    auto* model = new ItemModel(control, widget);
+    widget->setModel(model);
+    if (widget->isEditable())
+        widget->setCompleter(nullptr);
+    new ComboKeys(widget, control);
+    const auto pull = [widget, model, &control] {
+        const QSignalBlocker quiet(widget);
+        model->Update();
+        if (widget->currentIndex() != control.ListIndex())
+            widget->setCurrentIndex(control.ListIndex());
+        if (widget->isEditable() && widget->lineEdit()->text() != To_Qt(control.Text()))
+            widget->setEditText(To_Qt(control.Text()));
+        widget->setEnabled(control.Enabled());
+    };
+    auto* link = new Link(widget, control.Shown, pull);
+    new FocusLink(widget, control.Focus);
+    QObject::connect(widget, &QComboBox::activated, link, [link, &control](int position) {
+        Attempt([&] { control.Select(position); });
+        link->Flush();
+    });
+    if (widget->isEditable())
+        QObject::connect(widget->lineEdit(), &QLineEdit::textEdited, link,
+                         [widget, link, &control](const QString& text) {
+                             const int caret = widget->lineEdit()->cursorPosition();
+                             control.Set_Text(text.toStdString());
+                             link->Flush();
+                             widget->lineEdit()->setCursorPosition(caret);
+                         });
+}
+
+void Bind(QLineEdit* widget, TextBox& control) {
+    new TextKeys(widget, control);
+    auto* link = new Link(widget, control.Shown, [widget, &control] {
+        if (widget->text() != To_Qt(control.Text())) {
+            widget->setText(To_Qt(control.Text()));
+            widget->setCursorPosition(control.SelStart());
+        }
+        widget->setEnabled(control.Enabled());
+    });
+    new FocusLink(widget, control.Focus);
+    QObject::connect(widget, &QLineEdit::textEdited, link, [widget, &control](const QString& text) {
+        control.Set_Text(text.toStdString());
+        control.Set_SelStart(widget->cursorPosition());
+    });
+}
+
+void Bind(QPushButton* widget, Button& control) {
+    auto* link = new Link(widget, control.Shown, [widget, &control] {
+        widget->setText(To_Qt(control.Caption()));
+        widget->setEnabled(control.Enabled());
+    });
+    QObject::connect(widget, &QPushButton::clicked, link, [&control] { control.Click(); });
+}
+
+void Bind(QAbstractButton* widget, OptionButton& control) {
+    widget->setCheckable(true);
+    auto* link = new Link(widget, control.Shown, [widget, &control] {
+        widget->setText(To_Qt(control.Caption()));
+        widget->setEnabled(control.Enabled());
+        if (control.Value())
+            widget->setChecked(true);
+    });
+    QObject::connect(widget, &QAbstractButton::clicked, link, [&control] { control.Select(); });
+}
+
+void Bind(QLabel* widget, Label& control) {
+    new Link(widget, control.Shown, [widget, &control] {
+        widget->setText(To_Qt(control.Caption()));
+        widget->setToolTip(To_Qt(control.Remark()));
+    });
+}
+
+void Bind(QStackedWidget* widget, TabControl& control) {
+    new Link(widget, control.Shown, [widget, &control] { widget->setCurrentIndex(control.Tab()); });
+}
+
+void Bind(QStatusBar* widget, StatusBar& control) {
+    const auto panel = [widget](const char* name, const char* accessibleName, int stretch) {
+        auto* label = new QLabel(widget);
+        label->setObjectName(QLatin1String(name));
+        label->setAccessibleName(QLatin1String(accessibleName));
+        label->setTextFormat(Qt::PlainText);
+        label->setMinimumWidth(1); // a long text must not widen the window
+        widget->addWidget(label, stretch);
+        return label;
+    };
+    QLabel* panel1 = panel("Panel1", "Selection", 5);
+    QLabel* remark = panel("RemarkPanel", "Remark", 3);
+    QLabel* count = panel("CountPanel", "Count", 0);
+    new Link(widget, control.Shown, [panel1, remark, count, &control] {
+        panel1->setText(To_Qt(control.Panel1()));
+        panel1->setToolTip(panel1->text().trimmed());
+        remark->setText(To_Qt(control.Remark()));
+        remark->setToolTip(remark->text());
+        count->setText(To_Qt(control.Count()));
+    });
+    Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
+}
+
+void Bind(QAction* action, MenuItem& control) {
+    // An action is no widget, and its menu asks for its state at any time: it follows at once.
+    const auto pull = [action, &control] {
+        action->setText(To_Qt(control.Caption()));
+        action->setEnabled(control.Enabled());
+        if (action->isCheckable())
+            action->setChecked(control.Checked());
+    };
+    control.Shown.OnChanged = pull;
+    pull();
+    QObject::connect(action, &QObject::destroyed, [&control] { control.Shown.OnChanged = nullptr; });
+    QObject::connect(action, &QAction::triggered, action, [pull, &control] {
+        control.Click();
+        pull();
+    });
+}
+
+void Bind(PictureView* widget, Picture& control) {
+    new Link(widget, control.Shown, [widget, &control] { widget->Show_Picture(control.Name()); });
+    Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
+}
+
+} // namespace Tensarix

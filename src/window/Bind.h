@@ -1,0 +1,33 @@
+// Binds a widget to the control of a screen: Bind(ui.ShapeSizeUS, page.ShapeSizeUS), and nothing
+// more is to be known. The control must outlive the widget.
+#pragma once
+
+#include "controls/Controls.h"
+#include "controls/FlexGrid.h"
+
+class QAbstractButton;
+class QAction;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QStackedWidget;
+class QStatusBar;
+
+namespace Tensarix {
+
+class GridView;
+class PictureView;
+
+void Bind(QComboBox* widget, ComboBox& control);
+void Bind(QLineEdit* widget, TextBox& control);
+void Bind(QPushButton* widget, Button& control);
+void Bind(QAbstractButton* widget, OptionButton& control);
+void Bind(QLabel* widget, Label& control);
+void Bind(QStackedWidget* widget, TabControl& control);
+void Bind(QStatusBar* widget, StatusBar& control);
+void Bind(QAction* action, MenuItem& control);
+void Bind(PictureView* widget, Picture& control);
+void Bind(GridView* widget, FlexGrid& control);
+
+} // namespace Tensarix

@@ -1,0 +1,34 @@
+#include "window/BrowseForm.h"
+
+#include "ui_BrowseForm.h"
+#include "window/Bind.h"
+#include "window/MouseWatch.h"
+
+namespace Tensarix {
+
+QWidget* Make_Browse_Form(BrowsePage& page, QWidget* parent) {
+    auto* form = new QWidget(parent);
+    Ui::BrowseForm ui;
+    ui.setupUi(form);
+    Bind(ui.ShapeType, page.ShapeType);
+    Bind(ui.ShapeSizeUS, page.ShapeSizeUS);
+    Bind(ui.ShapeSizeSI, page.ShapeSizeSI);
+    Bind(ui.ProfileOption1, page.ProfileOption1);
+    Bind(ui.ProfileOption2, page.ProfileOption2);
+    Bind(ui.DimOption1, page.DimOption1);
+    Bind(ui.DimOption2, page.DimOption2);
+    Bind(ui.BaseImage, page.BaseImage);
+    Bind(ui.ShapeLabel, page.ShapeLabel);
+    Bind(ui.ShapeFlex, page.ShapeFlex);
+    const Handler snapBack = [&page] { page.Snap_Back(); };
+    for (QWidget* around : {static_cast<QWidget*>(ui.choices), static_cast<QWidget*>(ui.ProfileFrame),
+                            static_cast<QWidget*>(ui.DimFrame),
+                            static_cast<QWidget*>(ui.ProfileOption1),
+                            static_cast<QWidget*>(ui.ProfileOption2),
+                            static_cast<QWidget*>(ui.DimOption1),
+                            static_cast<QWidget*>(ui.DimOption2)})
+        Watch_Mouse(around, snapBack);
+    return form;
+}
+
+} // namespace Tensarix

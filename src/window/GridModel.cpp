@@ -1,0 +1,114 @@
+#include "window/GridModel.h"
+
+#include "window/Theme.h"
+
+#include <QBrush>
+#include <QFont>
+#include <QPainter>
+#include <QPainterPath>
+#include <QWidget>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int markSize = 6;
+
+QFont Cell_Font(QFont font, const CellStyle& style) {
+    if (style.Tahoma)
+        font.setFamilies({QStringLiteral("Tahoma"), font.family(), QStringLiteral("sans-serif")});
+    font.setBold(style.Bold);
+    return font;
+}
+
+int Cell_Alignment(Alignment alignment) {
+    const Qt::Alignment horizontal = alignment == Alignment::Left     ? Qt::AlignLeft
+                                     : alignment == Alignment::Centre ? Qt::AlignHCenter
+                                                                      : Qt::AlignRight;
+    return static_cast<int>((horizontal | Qt::AlignVCenter).toInt());
+}
+
+} // namespace
+
+GridModel::GridModel(const FlexGrid& grid, QWidget* view)
+    : QAbstractTableModel(view), grid_(grid), view_(view) {}
+
+int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+int GridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : cols_; }
+
+bool GridModel::Has_Size_Of_Grid() const {
+    return rows_ == grid_.Rows() - grid_.FixedRows() && cols_ == grid_.Cols();
+}
+
+void GridModel::Reset() {
+    beginResetModel();
+    rows_ = grid_.Rows() - grid_.FixedRows();
+    cols_ = grid_.Cols();
+    endResetModel();
+}
+
+void GridModel::Repaint() {
+    if (rows_ > 0 && cols_ > 0)
+        emit dataChanged(index(0, 0), index(rows_ - 1, cols_ - 1));
+    if (grid_.FixedRows() > 0)
+        emit headerDataChanged(Qt::Horizontal, 0, cols_ - 1);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    const int row = index.row() + grid_.FixedRows();
+    if (!index.isValid() || row >= grid_.Rows() || index.column() >= grid_.Cols())
+        return {};
+    return Cell(row, index.column(), role);
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    const bool head = orientation == Qt::Horizontal;
+    const int row = head ? 0 : section + grid_.FixedRows();
+    const int col = head ? section : 0;
+    if (row >= grid_.Rows() || col >= grid_.Cols() || (head && grid_.FixedRows() == 0))
+        return {};
+    return Cell(row, col, role);
+}
+
+QVariant GridModel::Cell(int row, int col, int role) const {
+    const CellStyle& style = grid_.Style(row, col);
+    switch (role) {
+    case Qt::DisplayRole: return QString::fromStdString(grid_.Text(row, col));
+    case Qt::TextAlignmentRole: return Cell_Alignment(style.Align);
+    case Qt::FontRole: return Cell_Font(view_->font(), style);
+    case Qt::ForegroundRole:
+        if (style.Fore != Colours::Standard)
+            return QBrush(Shown_Colour(style.Fore, view_->palette()));
+        return {};
+    case Qt::BackgroundRole:
+        if (style.Back != Colours::Standard)
+            return QBrush(Shown_Colour(style.Back, view_->palette()));
+        return {};
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+    case RemarkRole:
+        if (const std::string& remark = grid_.Remark(row, col); !remark.empty())
+            return QString::fromStdString(remark);
+        return {};
+    default: return {};
+    }
+}
+
+void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!index.data(GridModel::RemarkRole).isValid())
+        return;
+    const QPoint corner = option.rect.topRight() + QPoint(1, 0);
+    QPainterPath mark(corner);
+    mark.lineTo(corner - QPoint(markSize, 0));
+    mark.lineTo(corner + QPoint(0, markSize));
+    mark.closeSubpath();
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->fillPath(mark, Shown_Colour(Colours::HeadText, option.palette));
+    painter->restore();
+}
+
+} // namespace Tensarix

@@ -1,0 +1,73 @@
+// Shows a FlexGrid: fixed head row, fixed columns that stay while the rest scrolls sideways, both
+// by whole cells. Selection and current cell are the grid's own; the keys and the mouse only tell
+// it where to go.
+#pragma once
+
+#include "controls/FlexGrid.h"
+
+#include <QPoint>
+#include <QTableView>
+
+namespace Tensarix {
+
+class GridModel;
+class Link;
+
+class GridView : public QTableView {
+    Q_OBJECT
+
+  public:
+    explicit GridView(QWidget* parent = nullptr);
+
+    // Once, by Bind.
+    void Show_Grid(FlexGrid& grid);
+
+    // Where the popup that was asked for last should open, on the screen.
+    QPoint Popup_Point() const { return popupPoint_; }
+    // The place of a cell inside this widget, as it is on the screen.
+    QRect Cell_Rect(int row, int col) const;
+    // Pixels to the twip under the current font and scale.
+    double Twip_Scale() const;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+  private:
+    void Prepare(QTableView& pane) const;
+    void Pull();
+    void Measure();
+    void Measure_Columns();
+    void Measure_Rows();
+    int Fitting_Width(int col) const;
+    void Place_Frozen();
+    void Pull_Scroll();
+    void Pull_Selection();
+    void Scrolled();
+    void Reveal_Current();
+    bool Move_Key(QKeyEvent* event);
+    bool Go_To(int row, int col, bool extend);
+    void Press(QTableView& pane, QMouseEvent* event);
+    void Drag(QTableView& pane, QMouseEvent* event);
+    void Release(QMouseEvent* event);
+    bool Frozen_Event(QEvent* event);
+    QModelIndex Index(int row, int col) const;
+
+    FlexGrid* grid_ = nullptr;
+    GridModel* model_ = nullptr;
+    Link* link_ = nullptr;
+    QTableView* frozen_ = nullptr;
+    QPoint popupPoint_;
+    unsigned measured_ = ~0u;
+    bool pulling_ = false;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,42 @@
+#include "window/HeadView.h"
+
+#include <QBrush>
+#include <QPainter>
+
+namespace Tensarix {
+
+namespace {
+constexpr int headMargin = 4;
+}
+
+HeadView::HeadView(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(false);
+    setHighlightSections(false);
+}
+
+QSize HeadView::sectionSizeFromContents(int section) const {
+    const QString text = model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+    const QSize size = fontMetrics().size(0, text);
+    return {size.width() + 2 * headMargin, size.height() + 2 * headMargin};
+}
+
+void HeadView::paintSection(QPainter* painter, const QRect& rect, int section) const {
+    const auto head = [this, section](int role) {
+        return model()->headerData(section, Qt::Horizontal, role);
+    };
+    painter->save();
+    const QVariant back = head(Qt::BackgroundRole);
+    painter->fillRect(rect, back.isValid() ? back.value<QBrush>() : palette().button());
+    painter->setPen(palette().color(QPalette::Mid));
+    painter->drawLine(rect.topRight(), rect.bottomRight());
+    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    const QVariant fore = head(Qt::ForegroundRole);
+    painter->setPen(fore.isValid() ? fore.value<QBrush>().color()
+                                   : palette().color(QPalette::ButtonText));
+    painter->setFont(head(Qt::FontRole).value<QFont>());
+    painter->drawText(rect.adjusted(headMargin, 0, -headMargin, 0),
+                      head(Qt::TextAlignmentRole).toInt(), head(Qt::DisplayRole).toString());
+    painter->restore();
+}
+
+} // namespace Tensarix

@@ -1,0 +1,74 @@
+#include "window/Link.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QMetaObject>
+#include <QPointer>
+
+namespace Tensarix {
+
+Link::Link(QWidget* widget, View& view, std::function<void()> pull)
+    : QObject(widget), view_(view), pull_(std::move(pull)) {
+    view_.OnChanged = [this] { Mark(); };
+    widget->installEventFilter(this);
+    pull_();
+}
+
+Link::~Link() { view_.OnChanged = nullptr; }
+
+void Link::Mark() {
+    if (due_)
+        return;
+    due_ = true;
+    QMetaObject::invokeMethod(this, [this] { Flush(); }, Qt::QueuedConnection);
+}
+
+void Link::Flush() {
+    if (!due_)
+        return;
+    due_ = false;
+    pull_();
+}
+
+bool Link::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::FocusIn:
+    case QEvent::Show:
+        Flush();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+FocusLink::FocusLink(QWidget* widget, FocusPoint& point) : QObject(widget), point_(point) {
+    point_.Take = [widget = QPointer<QWidget>(widget)] {
+        if (widget)
+            widget->setFocus();
+    };
+    widget->installEventFilter(this);
+}
+
+FocusLink::~FocusLink() { point_.Take = nullptr; }
+
+bool FocusLink::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::FocusIn && event->type() != QEvent::FocusOut)
+        return false;
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+        reason == Qt::MenuBarFocusReason)
+        return false;
+    if (event->type() == QEvent::FocusIn)
+        point_.Set();
+    else
+        point_.Release();
+    return false;
+}
+
+} // namespace Tensarix

@@ -1,0 +1,48 @@
+// A widget's line to its control. The control says that it has changed; the widget takes over its
+// state once per turn of the event loop, and in any case before it handles the user's next input,
+// so that it never acts on what is no longer so.
+#pragma once
+
+#include "controls/View.h"
+
+#include <QObject>
+#include <QWidget>
+
+#include <functional>
+
+namespace Tensarix {
+
+class Link : public QObject {
+  public:
+    Link(QWidget* widget, View& view, std::function<void()> pull);
+    ~Link() override;
+
+    // Takes over the state now, if it has changed.
+    void Flush();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void Mark();
+
+    View& view_;
+    std::function<void()> pull_;
+    bool due_ = false;
+};
+
+// Gives focus changes of the widget to the control, and those of the control to the widget. A
+// window that loses the desktop's attention keeps its focus.
+class FocusLink : public QObject {
+  public:
+    FocusLink(QWidget* widget, FocusPoint& point);
+    ~FocusLink() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    FocusPoint& point_;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,84 @@
+#include "window/MainForm.h"
+
+#include "ui_MainWindow.h"
+#include "window/Bind.h"
+#include "window/BrowseForm.h"
+
+#include <QCloseEvent>
+#include <QEvent>
+#include <QScreen>
+
+namespace Tensarix {
+
+namespace {
+
+const QString geometryKey = QStringLiteral("Window/Geometry");
+constexpr QSize firstSize{1240, 700}; // fits a screen of 1366 x 768 with its task bar
+
+// The mode that shows is told by more than a shade.
+void Show_Chosen_In_Bold(QPushButton* button) {
+    QObject::connect(button, &QPushButton::toggled, button, [button](bool chosen) {
+        QFont font = button->font();
+        font.setBold(chosen);
+        button->setFont(font);
+    });
+}
+
+} // namespace
+
+MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
+    : form_(form), settings_(settings), events_(events) {
+    Ui::MainWindowForm ui;
+    ui.setupUi(this);
+    setWindowTitle(QString::fromStdString(form.Caption));
+    QPushButton* const modes[] = {ui.OptButton0, ui.OptButton1, ui.OptButton2, ui.OptButton3,
+                                  ui.OptButton4};
+    for (std::size_t i = 0; i < form.OptButton.size(); ++i) {
+        Show_Chosen_In_Bold(modes[i]);
+        Bind(modes[i], form.OptButton[i]);
+    }
+    ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));
+    Bind(ui.SelectionTab, form.SelectionTab);
+    Bind(ui.StatBar, form.Shared.StatBar);
+    Bind(ui.mnuCalc, form.mnuCalc);
+    Bind(ui.mnuWtCalc, form.mnuWtCalc);
+    Bind(ui.mnuWtCalcA, form.mnuWtCalcA);
+    Bind(ui.mnuTerminate, form.mnuTerminate);
+    Bind(ui.mnuOnTop, form.mnuOnTop);
+    Bind(ui.mnuReadOut, form.mnuReadOut);
+    Bind(ui.mnuAbout, form.mnuAbout);
+    Restore_Place();
+}
+
+void MainForm::Restore_Place() {
+    if (restoreGeometry(settings_.File().value(geometryKey).toByteArray()))
+        return;
+    resize(firstSize.boundedTo(screen()->availableSize()));
+}
+
+void MainForm::Raise() {
+    if (isMinimized())
+        showNormal();
+    raise();
+    activateWindow();
+}
+
+void MainForm::closeEvent(QCloseEvent* event) {
+    settings_.File().setValue(geometryKey, saveGeometry());
+    form_.Query_Unload();
+    events_.Close();
+    event->accept();
+}
+
+void MainForm::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    form_.Resized();
+}
+
+void MainForm::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        form_.Activated();
+}
+
+} // namespace Tensarix

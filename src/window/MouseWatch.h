@@ -1,0 +1,12 @@
+#pragma once
+
+#include "controls/View.h"
+
+class QWidget;
+
+namespace Tensarix {
+
+// Runs the handler whenever the mouse moves over the widget.
+void Watch_Mouse(QWidget* widget, Handler handler);
+
+} // namespace Tensarix

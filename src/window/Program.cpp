@@ -1,0 +1,50 @@
+#include "window/Program.h"
+
+#include "shell/Version.h"
+
+#include <QApplication>
+#include <QIcon>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int typedSearchMs = 1500; // a designation is typed slower than a word
+
+} // namespace
+
+void Program::Prepare_Application() {
+    const QString title = QString::fromUtf8(ApplicationTitle.data(), ApplicationTitle.size());
+    QApplication::setApplicationName(title);
+    QApplication::setOrganizationName(title);
+    QApplication::setDesktopFileName(QStringLiteral("tensarix"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tensarix.svg")));
+    QApplication::setKeyboardInputInterval(typedSearchMs);
+    QLocale::setDefault(QLocale::c());
+}
+
+Program::Program(const Folders& folders)
+    : machine_{settings_, clipboard_,  voice_,    messages_,        clock_,
+               events_,   mainWindow_, instance_, folders},
+      form_(machine_, *this) {}
+
+Program::~Program() = default;
+
+bool Program::Start() {
+    if (!form_.Load())
+        return false;
+    window_ = std::make_unique<MainForm>(form_, settings_, events_);
+    mainWindow_.Set_Widget(window_.get());
+    mainWindow_.Set_On_Top(form_.Shared.OnTop);
+    instance_.On_Raise([this] { window_->Raise(); });
+    window_->show();
+    return true;
+}
+
+// The dialogs are not there yet.
+void Program::Show_CalcMainFrm() {}
+void Program::Show_WtCalcsFrm() {}
+void Program::Show_WtCalcsFrmA() {}
+void Program::Show_AboutFrm() {}
+
+} // namespace Tensarix

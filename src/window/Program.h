@@ -1,0 +1,44 @@
+// The whole program on the desktop, short of main(): the services, the main form and its window.
+// The picture tour and the window tests drive it as main() does.
+#pragma once
+
+#include "window/MainForm.h"
+
+#include <memory>
+
+namespace Tensarix {
+
+class Program final : public Dialogs {
+  public:
+    explicit Program(const Folders& folders = Program_Folders());
+    ~Program() override;
+
+    // Application-wide ways: names, icon, how long a typed search goes on.
+    static void Prepare_Application();
+
+    // False: another instance runs; nothing is shown.
+    bool Start();
+
+    MainFrm& Form() { return form_; }
+    MainForm& Window() { return *window_; }
+
+    void Show_CalcMainFrm() override;
+    void Show_WtCalcsFrm() override;
+    void Show_WtCalcsFrmA() override;
+    void Show_AboutFrm() override;
+
+  private:
+    IniSettings settings_;
+    DesktopClipboard clipboard_;
+    NoVoice voice_;
+    MessageBoxes messages_;
+    SteadyClock clock_;
+    DesktopEvents events_;
+    DesktopWindow mainWindow_;
+    SingleInstance instance_;
+    Machine machine_;
+    MainFrm form_;
+    std::unique_ptr<MainForm> window_;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,23 @@
+// Colours and drawings under the palette of the desktop, light or dark.
+#pragma once
+
+#include "controls/FlexGrid.h"
+
+#include <QByteArray>
+#include <QColor>
+#include <QPalette>
+#include <QString>
+
+namespace Tensarix {
+
+bool Is_Dark(const QPalette& palette);
+
+// A colour value as it is under a light theme, and one with the same meaning under a dark one.
+// Not for Colours::Standard.
+QColor Shown_Colour(Colour value, const QPalette& palette);
+
+// The drawing of that name with the key colours of its file replaced by the palette's; empty if
+// the program holds none.
+QByteArray Drawing(const QString& name, const QPalette& palette);
+
+} // namespace Tensarix

@@ -1,0 +1,128 @@
+// The machine as the tests have it: it records what was asked of it and answers as it was told.
+#pragma once
+
+#include "desk/Desk.h"
+#include "platform/Machine.h"
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Tensarix::Tests {
+
+class MapSettings final : public SettingsStore {
+  public:
+    std::map<std::pair<std::string, std::string>, std::string> Kept;
+    std::vector<std::string> Written; // "key=text", in order
+
+    std::optional<std::string> Read(std::string_view section, std::string_view key) override {
+        const auto found = Kept.find({std::string{section}, std::string{key}});
+        if (found == Kept.end())
+            return std::nullopt;
+        return found->second;
+    }
+    void Write(std::string_view section, std::string_view key, std::string_view text) override {
+        Kept[{std::string{section}, std::string{key}}] = text;
+        Written.push_back(std::string{key}.append("=").append(text));
+    }
+    void Set(const std::string& key, const std::string& text) {
+        Kept[{"TensarixSetting", key}] = text;
+    }
+    std::string Get(const std::string& key) { return Read("TensarixSetting", key).value_or("none"); }
+};
+
+class KeptClipboard final : public Clipboard {
+  public:
+    std::string Held;
+    int Clears = 0;
+
+    void Clear() override {
+        Held.clear();
+        ++Clears;
+    }
+    void Set_Text(std::string_view text) override { Held = text; }
+    std::string Text() override { return Held; }
+};
+
+class RecordedVoice final : public Voice {
+  public:
+    std::vector<std::string> Spoken;
+    void Speak(std::string_view text) override { Spoken.emplace_back(text); }
+};
+
+class ScriptedMessages final : public Messages {
+  public:
+    std::vector<std::string> Shown; // "title|text|icon"
+    bool Answer = true;
+    std::function<void()> Meanwhile; // what happens while a box is open
+
+    void Show(std::string_view text, std::string_view title, MessageIcon icon) override {
+        Note(text, title, icon);
+    }
+    bool Ask_Yes_No(std::string_view text, std::string_view title, MessageIcon icon) override {
+        Note(text, title, icon);
+        return Answer;
+    }
+
+  private:
+    void Note(std::string_view text, std::string_view title, MessageIcon icon) {
+        const char* icons[] = {"stop", "exclamation", "information"};
+        Shown.push_back(std::string{title} + "|" + std::string{text} + "|" +
+                        icons[static_cast<int>(icon)]);
+        Run(Meanwhile);
+    }
+};
+
+class HandClock final : public Clock {
+  public:
+    double Now = 0;
+    double Seconds() override { return Now; }
+};
+
+class CountedEvents final : public EventLoop {
+  public:
+    long Yields = 0;
+    long Turns = 0;
+    std::function<bool()> OnYield; // false: closing
+
+    bool Yield() override {
+        ++Yields;
+        return OnYield ? OnYield() : true;
+    }
+    void Turn() override { ++Turns; }
+};
+
+class RecordedWindow final : public MainWindow {
+  public:
+    std::vector<bool> OnTop;
+    int Closes = 0;
+    void Set_On_Top(bool onTop) override { OnTop.push_back(onTop); }
+    void Close() override { ++Closes; }
+};
+
+class TestInstance final : public Instance {
+  public:
+    bool Other = false;
+    int Raises = 0;
+    bool Other_Runs() override { return Other; }
+    void Raise_Other() override { ++Raises; }
+};
+
+// All of it, with the built store as the program's.
+struct TestMachine {
+    MapSettings Store;
+    KeptClipboard Clip;
+    RecordedVoice Speech;
+    ScriptedMessages Boxes;
+    HandClock Time;
+    CountedEvents Events;
+    RecordedWindow Window;
+    TestInstance Guard;
+    Machine Host{Store,  Clip,   Speech, Boxes,
+                 Time,   Events, Window, Guard,
+                 {TENSARIX_PROGRAM_DIR, std::filesystem::temp_directory_path()}};
+};
+
+} // namespace Tensarix::Tests

@@ -1,0 +1,139 @@
+#include "measures/FeetInchParsing.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace Tensarix;
+
+TEST(FeetInchParsing, LengthsInFeet) {
+    const struct {
+        const char* Text;
+        double Inches;
+    } cases[] = {
+        {"6", 6},
+        {"6\"", 6},
+        {"6 \"", 6},
+        {".5", .5},
+        {"5.\"", 5},
+        {"1/2", .5},
+        {"1/2\"", .5},
+        {"6 1/2", 6.5},
+        {"6 1/2\"", 6.5},
+        {"5'", 60},
+        {"5.5'", 66},
+        {" 5'", 60},
+        {"5'-6", 66},
+        {"5'-6\"", 66},
+        {"5' -6\"", 66},
+        {"5'-6 1/2", 66.5},
+        {"5'-6 1/2\"", 66.5},
+        {"5'-6 1/2 ", 66.5},
+        {"5'-14\"", 74},
+        {"5'-6.25\"", 66.25},
+        {"12'-3/8\"", 144.375},
+        {"0'-0\"", 0},
+        {"-5'-6\"", -66},
+        {"-1/2", -.5},
+        // what stands behind a foot mark, or behind a blank without a slash, is dropped
+        {"5'6", 60},
+        {"5''''", 60},
+        {"5 6", 5},
+        {"5 x", 5},
+        {"5 \xC3\xA9", 5},
+        // the classifier trims and drops a dash of its own, the readers don't
+        {" 5", 0},
+        {" 6 1/2", 30.5},
+        {"--5", 5},
+        {"--5'-6", 55},
+    };
+    for (const auto& c : cases) {
+        const auto feet = Feet_Of(c.Text);
+        ASSERT_TRUE(feet.has_value()) << c.Text;
+        EXPECT_NEAR(*feet * 12, c.Inches, 1e-12) << c.Text;
+    }
+}
+
+TEST(FeetInchParsing, TextsThatAreNoLength) {
+    const std::string_view texts[] = {
+        "",
+        " ",
+        "-",
+        ".",
+        "'",
+        "\"",
+        "abc",
+        "5'-",
+        "5'-\"",
+        "5'6\"",     // the dash is compulsory
+        "5-6",       // and so is the foot mark
+        "5-6\"",     //
+        "-6'5\"",    //
+        "5\"-6'",    // marks out of order
+        "5-6'",      //
+        "5'-6\"-",   // a second dash
+        "6\"\"",     // a second inch mark
+        "6\" 1/2",   //
+        "5'- 6\"",   // a blank right behind the dash
+        "5'-6\" 1",  //
+        "1/ 2\"",    // a blank right behind the slash
+        "3/4 5",     // a blank behind the slash
+        "1/2 ",      //
+        "1/2/3",     //
+        "5 1/2/3\"", //
+        "/2",        //
+        "1/",        //
+        "1/\"",      //
+        "1/0\"",     // a division by zero
+        "0/0\"",     //
+        "5'-6 1/0",  //
+        "1e300/1e-300",
+        "1e999",
+        "x'-6\"",
+        "5'-x\"",
+        "5,5",
+        std::string_view("5\0", 2),
+        "\xFF\xFE",
+    };
+    for (const auto text : texts) {
+        EXPECT_FALSE(Feet_Of(text).has_value()) << text;
+        EXPECT_EQ(Parse_FeetInch(text, "FT"), LengthValue{std::string{LengthError}}) << text;
+        EXPECT_EQ(Parse_FeetInch(text, "in"), LengthValue{std::string{LengthError}}) << text;
+    }
+}
+
+TEST(FeetInchParsing, UnitsInEitherCase) {
+    EXPECT_EQ(Parse_FeetInch("5'-6\"", "ft"), LengthValue{5.5});
+    EXPECT_EQ(Parse_FeetInch("5'-6\"", "In"), LengthValue{66.0});
+    EXPECT_EQ(Parse_FeetInch("1e308'", "IN"), LengthValue{std::string{LengthError}});
+    EXPECT_EQ(Parse_FeetInch("5'-6\"", "MM"), LengthValue{});
+    EXPECT_EQ(Parse_FeetInch("", ""), LengthValue{});
+}
+
+TEST(FeetInchParsing, FormsTellTheMarksOfWhatIsNotAccepted) {
+    const struct {
+        const char* Text;
+        int Form;
+    } cases[] = {
+        {" 6 ", 0},    {"-5'", 1},      {"5-6", 2},    {"5'-6", 3},   {"6\"", 4},
+        {"5'6\"", 5},  {"5-6\"", 6},    {"5'-6\"", 7}, {"5-6'", 100}, {"'5-", 100},
+        {"\"5'", 100}, {"--5'-6", 100}, {"x'", 100},   {"5'-", 100},  {"5\"'-", 100},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Classify_FeetInch(c.Text), c.Form) << c.Text;
+    for (int code = -1; code <= 100; ++code)
+        EXPECT_EQ(Is_Form_Accepted(static_cast<std::int16_t>(code)),
+                  code == 0 || code == 1 || code == 3 || code == 4 || code == 7)
+            << code;
+}
+
+TEST(FeetInchParsing, PositionsAreSixteenBit) {
+    const std::string zeros(32765, '0');
+    EXPECT_EQ(Feet_Of(zeros + "6'"), 6.0);
+    EXPECT_FALSE(Feet_Of(zeros + "06'").has_value());
+    EXPECT_FALSE(Feet_Of(zeros + zeros + "6\"").has_value());
+    EXPECT_FALSE(Feet_Of("1/" + zeros + zeros + "6").has_value());
+    EXPECT_EQ(Feet_Of("6 " + std::string(40000, 'x')), 0.5);
+    EXPECT_FALSE(Feet_Of(std::string(40000, '-')).has_value());
+    EXPECT_FALSE(Feet_Of(std::string(40000, '9')).has_value());
+}

@@ -1,0 +1,76 @@
+#include "measures/NumberWords.h"
+
+#include <gtest/gtest.h>
+
+using namespace Tensarix;
+
+TEST(NumberWords, NumbersWithTheirBlanks) {
+    const struct {
+        double Value;
+        const char* Words;
+    } cases[] = {
+        {0, " "},
+        {7, "Seven "},
+        {13, "Thirteen "},
+        {40, "Forty "},
+        {91, "Ninety One "},
+        {105, "One Hundred Five "},
+        {999, "Nine Hundred Ninety Nine "},
+        {1000, "One Thousand "},
+        {1010, "One Thousand Ten "},
+        {100000, "One Hundred  Thousand "},
+        {1000001, "One Million One "},
+        {2e9 + 3e12, "Three Trillion Two Billion "},
+        {123456789012345, "One Hundred Twenty Three Trillion Four Hundred Fifty Six Billion Seven "
+                          "Hundred Eighty Nine Million Twelve Thousand Three Hundred Forty Five "},
+        {1.05, "One Point Five"},
+        {1.5, "One Point Fifty"},
+        {0.25, " Point Twenty Five"},
+        {1.005, "One Point One"},
+        {1.999, "One "}, // the whole part is cut off, the decimals are rounded
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Number_To_Words(c.Value), c.Words) << c.Value;
+    EXPECT_NO_THROW(Number_To_Words(1.25e300));
+    EXPECT_EQ(Group_To_Words("001", 8), " One Infinitillion");
+}
+
+TEST(NumberWords, UnitNames) {
+    const struct {
+        double Value;
+        const char *Unit1, *Unit2, *Words;
+    } cases[] = {
+        {1.25, "Dollar", "Cent", "One Dollar And Twenty Five Cents"},
+        {2, " Dollar ", "Cent", "Two Dollars "},
+        {2.01, "Dollar", "Cent", "Two Dollars And One Cent"},
+        {0.25, "Dollar", "Cent", " Twenty Five Cents"},
+        {0, "Dollar", "Cent", " "},
+        {1, "Dollar", "", "One Dollar"},
+        {2.5, "Dollar", " ", "Two Point Fifty Dollars"},
+        {0, "Dollar", "", " "},
+        {1.25, "", "Cent", "One Hundred Twenty Five Cents "},
+        {0.01, "", "Cent", "One Cent "},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Number_To_Words(c.Value, c.Unit1, c.Unit2), c.Words) << c.Value << c.Unit1;
+}
+
+TEST(NumberWords, Ordinals) {
+    const struct {
+        std::int16_t Denominator, Numerator;
+        const char* Word;
+    } cases[] = {
+        {1, 1, "First"},          {2, 1, "Half"},
+        {2, 3, "Halves"},         {3, 2, "Thirds"},
+        {8, 1, "Eight"},          {8, 3, "Eights"},
+        {9, 1, "Ninth"},          {12, 1, "Twelfth"},
+        {16, 1, "Sixteenth"},     {16, 3, "Sixteenths"},
+        {20, 1, "Twentieth"},     {21, 1, "Twenty First"},
+        {22, 1, "Twenty Second"}, {23, 1, "Twenty Third"},
+        {25, 1, "Twenty Fifth"},  {28, 1, "Twenty Eighth"},
+        {29, 1, "Twenty Ninth"},  {32, 31, "Thirty Seconds"},
+        {64, 1, "Sixty Fourth"},  {100, 1, "One Hundredth"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Ordinal_Words(c.Denominator, c.Numerator), c.Word) << c.Denominator;
+}
