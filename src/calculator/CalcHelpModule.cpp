@@ -60,11 +60,11 @@ constexpr TopicText topics[] = {
      "     4.) Inverse Hyperbolic:\n"
      "          a.) Inverse Hyperbolic Sine\n"
      "          b.) Inverse Hyperbolic Cosine\n"
-     "          c.) Inverse Hyperbolic Tangent\n"},
+     "          c.) Inverse Hyperbolic Tangent"},
     {"Mode Settings", "Picking the 'mode' tab specify desired calculation modes.\n"
                       "\n"
                       "1.) Display Modes\n"
-                      "2.) Angle Specification Modes\n"},
+                      "2.) Angle Specification Modes"},
     {"Display Modes",
      "a.) Scientific display mode:\n"
      "     Use this mode to show each result as a mantissa and an exponent, with the number of "
@@ -77,7 +77,7 @@ constexpr TopicText topics[] = {
      "     Results are normally displayed with a maximum of 15 significant digits, and "
      "exponential display is automatically performed for any number less than 0.01(10^-2) or "
      "greater than 10 billion (10^10). An exponential display has a maximum of fifteen significant "
-     "digits for mantissa and two digits for exponent.\n"},
+     "digits for mantissa and two digits for exponent."},
     {"Angle Specification Modes",
      "a.) DEGREE mode:\n"
      "     Use this mode to specify the unit of angular measurement as degrees.\n"
@@ -86,12 +86,12 @@ constexpr TopicText topics[] = {
      "     Use this mode to specify the unit of angular measurement as radians.\n"
      "\n"
      "c.) GRADIAN mode:\n"
-     "     Use this mode to specify the unit of angular measurement as gradians.\n"},
+     "     Use this mode to specify the unit of angular measurement as gradians."},
     {"Numeric keys",
      "Pick any of the numeric keys to enter a value. Press '.' to enter a decimal point.\n"
      "\n"
      "Values are entered from left to right. You cannot enter a value that is more than 15 digits "
-     "long. Any numeric key pressed after the 15th digit is ignored.\n"},
+     "long. Any numeric key pressed after the 15th digit is ignored."},
     {"Arithmetic Operation keys",
      "Pick these keys in the same order as they appear in the formula to perform arithmetic "
      "operations. Press '=' to display the final result.\n"
@@ -109,7 +109,7 @@ constexpr TopicText topics[] = {
      "e.) '+'      - Addition key:\n"
      "     Press this key to perform addition.\n"
      "f.) '-'      - Subtraction key:\n"
-     "     Press this key to perform subtraction.\n"},
+     "     Press this key to perform subtraction."},
 };
 
 // In this order: the quoted slash goes before the bare one.

@@ -43,8 +43,9 @@ using CalcTime = std::chrono::time_point<std::chrono::local_t, std::chrono::micr
 // shown, chosen, answered (No), read or kept.
 struct CalcHost {
     std::function<CalcTime()> Now;
-    // Called again and again while the clock runs: repaints the panel and turns the event loop.
-    std::function<void()> Yield;
+    // Called again and again while the clock runs: repaints the panel and turns the event loop; it
+    // may wait for events as long as the seconds still go on evenly. False: the program is closing.
+    std::function<bool()> Yield;
     // Settings of the application that is named by the program's folder.
     std::function<std::optional<std::string>(std::string_view section, std::string_view key)>
         Read_Setting;

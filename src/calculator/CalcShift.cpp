@@ -49,24 +49,27 @@ void Show_Shifted(CalcMainFrm& form, bool negative, const std::string& mantissa,
              Shown_Value(form.Vars));
 }
 
+// The display text within fifteen digits; the number itself where a text stands beside it, such as
+// an angle.
+std::string Text_To_Shift(const CalcVariables& vars) {
+    const std::string text = Replace_All(vars.DisplayText, " ", "");
+    return TrimFifteen(Is_Numeric(text) ? text : Number_Text(Shown_Value(vars)));
+}
+
 void Shift(CalcMainFrm& form, bool right) {
     if (!Direct_Key_Begins(form))
         return;
     Finish_Fraction_As_Operand(form);
     if (form.Vars.ErrorLatched)
         return;
-    std::string text = Replace_All(form.Vars.DisplayText, " ", "");
-    if (!Is_Numeric(text)) // a text beside the number, such as an angle
-        text = Number_Text(Shown_Value(form.Vars));
+    const std::string text = Text_To_Shift(form.Vars);
     if (IsZero(Leading_Value(text)))
         return;
-    const std::size_t e = std::min(text.find('E'), text.size());
+    const std::size_t e = text.find('E');
     const bool negative = text.starts_with('-');
+    if (e == std::string::npos) // brings the number into exponent form only
+        return ShowText(form, Number_Text(Leading_Value(text)) + " E+00", Shown_Value(form.Vars));
     std::string mantissa = text.substr(negative ? 1 : 0, e - (negative ? 1 : 0));
-    if (e == text.size()) { // brings the number into exponent form only
-        ShowText(form, (negative ? "-" : "") + mantissa + " E+00", Shown_Value(form.Vars));
-        return;
-    }
     if (!HasPoint(mantissa))
         mantissa += '.';
     const int exponent = Exponent_Of(text) + (right ? -shiftPlaces : shiftPlaces);
@@ -129,7 +132,8 @@ void key_Time(CalcMainFrm& form) {
     vars.ClockRunning = true;
     while (vars.ClockRunning) {
         Show_Clock(form);
-        form.Host.Yield();
+        if (!form.Host.Yield())
+            End_Clock(form);
     }
 }
 

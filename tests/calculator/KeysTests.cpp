@@ -175,12 +175,12 @@ TEST(CalcClock, RunsUntilAKeyAndTheNumberReturns) {
             calc.Form.Host.Now = [&] { return time.Now; };
             int turns = 0;
             calc.Form.Host.Yield = [&] {
-                ASSERT_LT(++turns, 9);
                 EXPECT_EQ(calc.Shown(), time.Time);
                 EXPECT_EQ(calc.Form.Panel.DateBox, "MONDAY, JAN 05, 2026");
                 EXPECT_EQ(Display_As_Number(calc.Form), "15000000");
-                if (turns == 3)
+                if (++turns == 3)
                     calc.Keys(key);
+                return turns < 9;
             };
             calc.Keys("key_Time");
             EXPECT_EQ(turns, 3) << key;
@@ -194,9 +194,14 @@ TEST(CalcClock, KeysThatEndItAndGoOn) {
     CalcTest calc;
     calc.Form.Host.Now = [] { return At(1, 2, 3); };
     const auto run = [&](const std::function<void()>& action) {
-        calc.Form.Host.Yield = action;
+        int turns = 0;
+        calc.Form.Host.Yield = [&] {
+            action();
+            return ++turns < 9;
+        };
         calc.Keys("key_Time");
         EXPECT_EQ(calc.Form.Panel.DateBox, "");
+        EXPECT_EQ(turns, 1);
     };
     calc.Keys("1 frc 4");
     run([&] { calc.Keys("key_Min"); });
@@ -206,6 +211,9 @@ TEST(CalcClock, KeysThatEndItAndGoOn) {
     run([&] { EXPECT_TRUE(Key_In_Number(calc.Form, "12")); });
     EXPECT_EQ(calc.Shown(), "12.");
     run([&] { Close(calc.Form); });
+    EXPECT_FALSE(calc.Vars.ClockRunning);
+    calc.Form.Host.Yield = [] { return false; }; // the program closes
+    calc.Keys("key_Time");
     EXPECT_FALSE(calc.Vars.ClockRunning);
 }
 
