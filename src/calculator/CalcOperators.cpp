@@ -202,9 +202,12 @@ void Evaluation_Step(CalcMainFrm& form) {
         ShowValue(form, vars.Running, {});
 }
 
+// The result that waits becomes the operand, unless a number was keyed; either way it waits no
+// longer.
 void Resume_Result(CalcVariables& vars) {
     if (vars.EntryText.empty())
         vars.EntryText.swap(vars.ResumeText);
+    vars.ResumeText.clear();
 }
 
 void Note_Operator(CalcVariables& vars) {
