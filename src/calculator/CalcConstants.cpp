@@ -43,8 +43,9 @@ constexpr CalcConstant constants[] = {
     {"2.897771955E-03", "m K", "b, Wien wavelength displacement constant"},
     {"2.241396954E-02", "m3/mol", "V_m, molar volume of ideal gas at 273.15 K and 101.325 kPa"},
 
-    // Properties of structural steel: AISC 360 (Sections B4, E3, F2: E and G) and the AISC Steel
-    // Construction Manual, Part 17 (weights and thermal expansion); metric values of the same.
+    // Properties of structural steel: E and G as in the symbols of AISC 360; weight and thermal
+    // expansion as in the general tables of the AISC Steel Construction Manual; metric values of
+    // the same.
     {"29000", "ksi", "E, modulus of elasticity of steel"},
     {"11200", "ksi", "G, shear modulus of elasticity of steel"},
     {"200000", "MPa", "E, modulus of elasticity of steel"},
