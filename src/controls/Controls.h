@@ -62,7 +62,7 @@ class OptionButton {
     View Shown;
 
     // The buttons of a group know each other; call once, when the screen is made.
-    static void Group(std::vector<OptionButton*> buttons);
+    static void Group(const std::vector<OptionButton*>& buttons);
 
     const std::string& Caption() const { return caption_; }
     void Set_Caption(std::string caption);
