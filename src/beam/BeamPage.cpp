@@ -121,8 +121,10 @@ void BeamPage::zShapeType_Click() {
         zShapeSizeUS.Select(static_cast<int>(Largest_Of({0, static_cast<double>(saved)})));
     });
     // Without a section no figures of another one stay on the screen.
-    if (zShapeSizeUS.ListIndex() < 0)
+    if (zShapeSizeUS.ListIndex() < 0) {
         Show_Section();
+        desk_.Show_No_Selection();
+    }
 }
 
 void BeamPage::zShapeSizeUS_Click() {
