@@ -3,6 +3,8 @@
 #include "ui_MainWindow.h"
 #include "window/Bind.h"
 #include "window/BrowseForm.h"
+#include "window/FindForm.h"
+#include "window/ViewForm.h"
 
 #include <QCloseEvent>
 #include <QEvent>
@@ -27,6 +29,8 @@ MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
     for (std::size_t i = 0; i < form.OptButton.size(); ++i)
         Bind(modes[i], form.OptButton[i]);
     ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));
+    ui.SelectionTab->addWidget(Make_Find_Form(form.Find, this));
+    ui.SelectionTab->addWidget(Make_View_Form(form.ViewAll, this));
     Bind(ui.SelectionTab, form.SelectionTab);
     Bind(ui.StatBar, form.Shared.StatBar);
     Bind(ui.mnuCalc, form.mnuCalc);
