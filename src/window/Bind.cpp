@@ -240,6 +240,7 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         remark->setText(To_Qt(control.Remark()));
         remark->setToolTip(remark->text());
         count->setText(To_Qt(control.Count()));
+        count->setMinimumWidth(count->sizeHint().width()); // short, and never cut
     });
     Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
 }

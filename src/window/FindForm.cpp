@@ -3,6 +3,8 @@
 #include "ui_FindForm.h"
 #include "window/Bind.h"
 
+#include <QFontMetrics>
+
 namespace Tensarix {
 
 QWidget* Make_Find_Form(FindPage& page, QWidget* parent) {
@@ -13,6 +15,9 @@ QWidget* Make_Find_Form(FindPage& page, QWidget* parent) {
     Bind(ui.fPoperty, page.fPoperty);
     Bind(ui.fCriterion, page.fCriterion);
     Bind(ui.fValue, page.fValue);
+    // Room for the longest unit, so that the button beside it stays in its place.
+    ui.UnitLabel->setMinimumWidth(
+        ui.UnitLabel->fontMetrics().horizontalAdvance(QStringLiteral("mm^6/10^9")));
     Bind(ui.UnitLabel, page.UnitLabel);
     Bind(ui.SearchNote, page.SearchNote);
     Bind(ui.FindButton, page.FindButton);
