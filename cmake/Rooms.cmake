@@ -5,6 +5,7 @@ target_compile_options(tensarix_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 if(TENSARIX_SANITIZE)
   target_compile_options(tensarix_flags INTERFACE
+    -Wno-maybe-uninitialized # false alarms of this compiler in instrumented code
     -O1 -g1 -fno-omit-frame-pointer -fsanitize=address,undefined -fno-sanitize-recover=all)
   target_link_options(tensarix_flags INTERFACE -fsanitize=address,undefined)
 endif()

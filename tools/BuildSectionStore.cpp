@@ -81,9 +81,13 @@ void Create_Tables(const Database& database) {
 
 void Create_Indexes(const Database& database) {
     Run(database, "CREATE INDEX ByType ON ShapeTable (TYPE, SEQ)");
-    for (const std::string column : {"AISC_Manual_Label", "xAISC_Manual_Label",
-                                     "IDE_STD_Nomenclature", "xIDE_STD_Nomenclature"})
-        Run(database, "CREATE INDEX By_" + column + " ON ShapeTable (" + column + ", SEQ)");
+    for (const char* column : {"AISC_Manual_Label", "xAISC_Manual_Label", "IDE_STD_Nomenclature",
+                               "xIDE_STD_Nomenclature"})
+        Run(database, std::string{"CREATE INDEX By_"}
+                          .append(column)
+                          .append(" ON ShapeTable (")
+                          .append(column)
+                          .append(", SEQ)"));
 }
 
 void Insert_Sections(const Database& database, const std::vector<SectionRow>& rows) {

@@ -121,7 +121,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     Program::Prepare_Application();
-    Program program;
+    Program program({Program_Folders().Program, home.path().toStdString()});
     if (!program.Start())
         return 1;
     program.Window().resize(pictureSize);

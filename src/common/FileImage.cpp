@@ -30,7 +30,8 @@ bool Write_New_File(const std::filesystem::path& path, const Bytes& bytes) {
     std::unique_ptr<std::FILE, CloseFile> file{std::fopen(path.string().c_str(), "wb")};
     if (!file)
         return false;
-    bool good = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    bool good = bytes.empty() ||
+                std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
     good = std::fflush(file.get()) == 0 && good;
 #if __has_include(<unistd.h>)
     good = good && fsync(fileno(file.get())) == 0;

@@ -1,6 +1,7 @@
 #include "controls/Controls.h"
 
 #include "common/Failure.h"
+#include "common/NumberText.h"
 
 #include <algorithm>
 
@@ -95,6 +96,16 @@ void ComboBox::Set_Text(std::string text) {
 void ComboBox::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
 void ComboBox::Show(bool visible) { Change(visible_, visible, Shown); }
 void ComboBox::Set_Place(const Placement& place) { Change_Place(place_, place, Shown); }
+
+int Find_By_Typing(const ComboBox& list, const std::string& typed) {
+    const std::string wanted = Upper(typed);
+    int best = -1;
+    for (int i = 0; i < list.Count(); ++i)
+        if (Upper(list.Item(i)).starts_with(wanted) &&
+            (best < 0 || list.Item(i).size() <= list.Item(best).size()))
+            best = i;
+    return best;
+}
 
 int TextBox::Length() const {
     // Bytes that start a character of UTF-8.

@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "speech/Normalisers.h"
 
 namespace Tensarix {
 
@@ -135,11 +136,20 @@ std::string BrowsePage::Selection_Text(int row) const {
     return text + "     [" + Flat_Meaning(ShapeFlex.Text(row, 3)) + "]";
 }
 
+std::string BrowsePage::Spoken_Text(int row) const {
+    const std::string value = Trim(ShapeFlex.Text(row, 1));
+    return Speak_Symbol(Trim(ShapeFlex.Text(row, 0))) + " = " + Speak_Value(value) + " " +
+           Speak_Unit(Trim(ShapeFlex.Text(row, 2)), value) +
+           " :: " + Speak_Phrase(Flat_Meaning(ShapeFlex.Text(row, 3)));
+}
+
 void BrowsePage::ShapeFlex_SelChange() {
     const int row = ShapeFlex.Row();
     desk_.StatBar.Set_Panel1(Selection_Text(row));
     const std::string& own = ShapeFlex.Remark(row, ShapeFlex.Col());
     desk_.StatBar.Set_Remark(own.empty() ? ShapeFlex.Remark(row, 1) : own);
+    if (desk_.ReadOut && !Trim(ShapeFlex.Text(row, 0)).empty())
+        desk_.Say(Spoken_Text(row));
 }
 
 void BrowsePage::ShapeFlex_MouseMove(double xTwips) {

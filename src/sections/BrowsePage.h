@@ -39,6 +39,7 @@ class BrowsePage {
     void ShapeFlex_MouseMove(double xTwips);
 
     std::string Selection_Text(int row) const;
+    std::string Spoken_Text(int row) const;
     SectionView View() const;
 
     Desk& desk_;

@@ -99,6 +99,10 @@ std::string Speak_Symbol(std::string_view text) {
     return Replace_All(text, powerOfTen, spokenPowerOfTen);
 }
 
+std::string Speak_Value(std::string_view text) {
+    return Is_Numeric(text) ? General_Text(Leading_Value(text)) : Speak_Symbol(text);
+}
+
 std::string Speak_Unit(std::string_view unit, std::string_view value) {
     double number = 0;
     Attempt([&] { number = Leading_Value(value); });

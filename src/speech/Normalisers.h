@@ -11,6 +11,9 @@ namespace Tensarix {
 // where it has no reading); what is no symbol comes back as it stands, but for powers of ten.
 std::string Speak_Symbol(std::string_view text);
 
+// The value of a cell: a number in its general text, anything else as Speak_Symbol has it.
+std::string Speak_Value(std::string_view text);
+
 // Plural where the leading number of the value is above 1. A unit that isn't known is silent.
 std::string Speak_Unit(std::string_view unit, std::string_view value);
 

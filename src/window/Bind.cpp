@@ -10,7 +10,9 @@
 #include <QAbstractItemView>
 #include <QAbstractListModel>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -63,19 +65,48 @@ class ComboKeys final : public QObject {
   public:
     ComboKeys(QComboBox* widget, ComboBox& control)
         : QObject(widget), widget_(widget), control_(control) {
+        sinceTyped_.start();
         widget->installEventFilter(this);
+        widget->view()->installEventFilter(this);
     }
 
   protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Wheel && !widget_->view()->isVisible()) {
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Wheel && watched == widget_) {
             event->ignore();
             return true;
         }
-        return event->type() == QEvent::KeyPress && Key_Pressed(static_cast<QKeyEvent*>(event));
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (!widget_->isEditable() && Search(*key))
+            return true;
+        return watched == widget_ && Key_Pressed(key);
     }
 
   private:
+    // What is typed into a list that can't be typed in looks for an item.
+    bool Search(const QKeyEvent& event) {
+        const int character = Key_Character(event);
+        if (sinceTyped_.hasExpired(QApplication::keyboardInputInterval()))
+            typed_.clear();
+        if (character < Keys::Blank || character > '~' ||
+            (character == Keys::Blank && typed_.empty()))
+            return false;
+        typed_ += static_cast<char>(character);
+        sinceTyped_.restart();
+        if (const int found = Find_By_Typing(control_, typed_); found >= 0)
+            Go_To(found);
+        return true;
+    }
+
+    void Go_To(int position) {
+        if (widget_->view()->isVisible())
+            widget_->view()->setCurrentIndex(widget_->model()->index(position, 0));
+        else
+            control_.Select(position);
+    }
+
     bool Key_Pressed(QKeyEvent* event) {
         if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp)
             return Page(event->key() == Qt::Key_PageDown ? 1 : -1);
@@ -106,6 +137,8 @@ class ComboKeys final : public QObject {
 
     QComboBox* widget_;
     ComboBox& control_;
+    std::string typed_;
+    QElapsedTimer sinceTyped_;
 };
 
 // Keys of a text box: every character passes the control's filter first.

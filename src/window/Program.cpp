@@ -23,9 +23,9 @@ void Program::Prepare_Application() {
     QLocale::setDefault(QLocale::c());
 }
 
-Program::Program()
+Program::Program(const Folders& folders)
     : machine_{settings_, clipboard_,  voice_,    messages_,        clock_,
-               events_,   mainWindow_, instance_, Program_Folders()},
+               events_,   mainWindow_, instance_, folders},
       form_(machine_, *this) {}
 
 Program::~Program() = default;

@@ -10,7 +10,7 @@ namespace Tensarix {
 
 class Program final : public Dialogs {
   public:
-    Program();
+    explicit Program(const Folders& folders = Program_Folders());
     ~Program() override;
 
     // Application-wide ways: names, icon, how long a typed search goes on.

@@ -62,6 +62,8 @@ TEST_F(FileImageTest, AFailedReplacementLeavesTheOldFile) {
     fs::create_directory(folder / "a.dat.new"); // stands in the way of the new file
     EXPECT_FALSE(Replace_File(folder / "a.dat", {4}));
     EXPECT_EQ(Read_Whole_File(folder / "a.dat"), (Bytes{1, 2, 3}));
+    ASSERT_TRUE(Replace_File(folder / "empty", {}));
+    EXPECT_EQ(Read_Whole_File(folder / "empty"), Bytes{});
     EXPECT_FALSE(Read_Whole_File(folder / "none"));
     EXPECT_FALSE(Read_Whole_File(folder));
     EXPECT_FALSE(Read_Whole_File(folder / "a.dat", 2));

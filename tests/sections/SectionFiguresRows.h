@@ -35,7 +35,8 @@ inline std::vector<FigureRow> Read_Family_Rows(const std::string& family) {
         FigureRow row{family, r.Text("AISC_Manual_Label"), r.Text("xAISC_Manual_Label"), {}};
         for (const std::string& name : figureNames)
             for (const std::string& column : {name, "x" + name})
-                if (const FieldValue value = r.Field(column); value != FieldValue{})
+                if (const FieldValue value = r.Field(column);
+                    !std::holds_alternative<std::monostate>(value))
                     row.Figures[column] = std::get<double>(value);
         rows.push_back(std::move(row));
     }

@@ -1,0 +1,175 @@
+// The texts of cells against the store, against figures of the Manual, and against the rules of
+// each kind of property.
+#include "StandIns.h"
+#include "common/Failure.h"
+#include "common/NumberText.h"
+#include "sections/FamilyTable.h"
+#include "sections/SectionGrids.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+using namespace Tensarix;
+
+namespace {
+
+SectionRecordset Section(const std::string& label) {
+    SectionRecordset records =
+        std::move(SectionRead(TENSARIX_PROGRAM_DIR, Query_By_US_Label(label)).Records);
+    records.MoveFirst();
+    return records;
+}
+
+const Property& Named(const Layout& layout, std::string_view symbol) {
+    for (const LayoutEntry& entry : layout.Entries)
+        if (entry.Browse && entry.Browse->Symbol == symbol)
+            return *entry.Browse;
+    throw Failure("no such symbol");
+}
+
+constexpr auto us = Profile::US;
+constexpr auto si = Profile::SI;
+constexpr auto decimal = DimensionStyle::Decimal;
+constexpr auto imperial = DimensionStyle::Imperial;
+
+} // namespace
+
+TEST(FormatSiProperty, ShortensToTheDigitsThatFit) {
+    const struct {
+        double Value;
+        const char* Text;
+    } cases[] = {
+        {0, "0.00"},
+        {0.4, "0.00"},
+        {416000000, "416x10^6"},
+        {1550000000, "16x10^8"},
+        {12900000000, "1x10^10"},
+        {144000000000000, "144x10^12"},
+        {1030, "1x10^3"},
+        {1230, "1230.00  "}, // no whole triple behind the first zero
+        {1234, "0.00"},      // no zero at all
+        {20000, "2x10^4"},
+        {108000, "108x10^3"},
+        {6070000, "6x10^6"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(FormatSiProperty(c.Value), c.Text) << c.Value;
+}
+
+TEST(PropertyTable, KindsUnderBothProfilesAndStyles) {
+    const struct {
+        const char* Section;
+        const Layout& In;
+        const char* Symbol;
+        Profile Units;
+        DimensionStyle Style;
+        const char* Text;
+    } cases[] = {
+        // 13th Edition, Table 1-1: W44x335 d = 44.0, A = 98.5, Ix = 31100.
+        {"W44x335", Layouts::W, "d", us, decimal, "44.00  "},
+        {"W44x335", Layouts::W, "d", us, imperial, "3'-8\"  "},
+        {"W44x335", Layouts::W, "A", us, imperial, "98.50  "},
+        {"W44x335", Layouts::W, "d", si, imperial, "1120.00  "},
+        {"W44x335", Layouts::W, "T", us, decimal, "38.75  "},
+        {"W44x335", Layouts::W, "T", us, imperial, "3'-2 3/4\"  "},
+        {"W44x335", Layouts::W, "Ix", us, decimal, "31100.00  "},
+        {"W44x335", Layouts::W, "Ix", si, decimal, "1x10^10  "},
+        {"W44x335", Layouts::W, "Cw", si, decimal, "144x10^12  "},
+        {"W44x335", Layouts::W, "bf / 2tf", si, decimal, "4.50  "},
+        // The two profiles of the S-shapes read different values of k.
+        {"S24x121", Layouts::S, "k", us, decimal, "2.00  "},
+        {"HSS16x16x5/8", Layouts::HSSSqr, "b", us, imperial, "1'-4\"  "},
+        {"L8x8x1-1/8", Layouts::SAngle, "t", us, imperial, "1 1/8\"  "},
+        {"L8x6x1", Layouts::SAngle, "Tan Alpha", si, decimal, "0.542  "},
+        {"Pipe12STD", Layouts::Pipe, "D / t", us, decimal, "36.50  "},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Value_Text(Section(c.Section), Named(c.In, c.Symbol), c.Units, c.Style), c.Text)
+            << c.Section << " " << c.Symbol;
+    EXPECT_THROW(Value_Text(Section("C15x50"), Named(Layouts::C, "k1"), us, decimal), Failure);
+}
+
+TEST(PropertyTable, LostDigitsAreToldWithTheStoredNumber) {
+    const Property& ix = Named(Layouts::W, "Ix");
+    const SectionRecordset w = Section("W44x335");
+    EXPECT_EQ(Lost_Digits_Remark(w, ix, si, "1x10^10  "), "Stored value: 12,900,000,000 mm^4");
+    EXPECT_EQ(Lost_Digits_Remark(w, ix, us, "31100.00  "), "");
+    const Property& cw = Named(Layouts::W, "Cw");
+    EXPECT_EQ(Lost_Digits_Remark(w, cw, si, "144x10^12  "), "");
+    EXPECT_EQ(Lost_Digits_Remark(w, cw, si, "0.00  "),
+              "Stored value: 144,000,000,000,000 mm^6");
+}
+
+// Every SI power on every section either reads back as the stored number or carries a remark that
+// names it.
+TEST(PropertyTable, NoSecondMomentIsSilentlyWrong) {
+    int lost = 0, whole = 0;
+    for (const Family& family : Families) {
+        SectionRead read(TENSARIX_PROGRAM_DIR, Query_By_Family(family.Type));
+        for (read.Records.MoveFirst(); !read.Records.AtEnd(); read.Records.MoveNext())
+            for (const LayoutEntry& entry : family.Browse.Rows.Entries) {
+                const Property* p = entry.Browse;
+                if (!p || p->Kind != PropertyKind::SecondMoment ||
+                    std::holds_alternative<std::monostate>(read.Records.Field(p->SIColumn)))
+                    continue;
+                const double stored = read.Records.Number(p->SIColumn);
+                const std::string text = Value_Text(read.Records, *p, si, decimal);
+                const double shown = Leading_Value(Replace_All(text, "x10^", "E"));
+                const bool told = !Lost_Digits_Remark(read.Records, *p, si, text).empty();
+                EXPECT_EQ(told, shown != stored) << text << " for " << stored;
+                ++(told ? lost : whole);
+            }
+    }
+    EXPECT_GT(lost, 0);
+    EXPECT_GT(whole, 0);
+}
+
+// Every column that a layout names exists in the store, under both profiles and in all variants.
+TEST(PropertyTable, EveryColumnExistsAndEveryEntryHasItsPlace) {
+    for (const Family& family : Families) {
+        const SectionRecordset records =
+            std::move(SectionRead(TENSARIX_PROGRAM_DIR, Query_By_Family(family.Type)).Records);
+        const Layout& layout = family.Browse.Rows;
+        int rows = 0;
+        for (const LayoutEntry& entry : layout.Entries) {
+            rows += entry.Browse ? 1 : 0;
+            for (const Property* p : {entry.Browse, entry.ViewAll, entry.Find})
+                if (p) {
+                    EXPECT_NO_THROW(records.Field(p->USColumn)) << p->USColumn;
+                    EXPECT_NO_THROW(records.Field(p->SIColumn)) << p->SIColumn;
+                }
+        }
+        const int spare = layout.SpareRowsFrom > 0 ? 1 : 0;
+        EXPECT_EQ(rows + 1 + spare, layout.BrowseRows) << family.Name;
+        if (layout.HeadColumns.empty())
+            EXPECT_EQ(static_cast<int>(layout.Entries.size()) + 2, layout.TableColumns)
+                << family.Name;
+        else
+            EXPECT_EQ(layout.HeadColumns.size() + layout.ValueColumns.size(),
+                      2 * layout.Entries.size());
+    }
+}
+
+TEST(FamilyTable, DesignationsAndPictures) {
+    EXPECT_EQ(SpaceDesignation("W18x50"), "W18 x 50");
+    EXPECT_EQ(SpaceDesignation(" Pipe12STD "), "Pipe12STD");
+    EXPECT_EQ(SpaceDesignation("2L8x6x1x3/8LLBB"), "2L8 x 6 x 1 x 3/8LLBB");
+    EXPECT_EQ(Double_Angle_Picture("2L8x6x1SLBB "), "DLUnEqImage1");
+    EXPECT_EQ(Double_Angle_Picture("2L8x6x1LLBB"), "DLUnEqImage2");
+    EXPECT_EQ(Double_Angle_Picture("2L8x6x1slbb"), "DLUnEqImage2");
+    EXPECT_EQ(Spoken_Family("Double Angle (UnEqual Legs)"), "Double Angle UnEqual Legs");
+}
+
+TEST(FamilyTable, ListsAreInStepAndFailureLeavesThem) {
+    ComboBox usList, siList;
+    FillSizeLists(usList, siList, "Pipe", TENSARIX_PROGRAM_DIR);
+    EXPECT_EQ(usList.Count(), 37);
+    EXPECT_EQ(siList.Count(), 37);
+    EXPECT_EQ(siList.Item(0), "Pipe300STD");
+    EXPECT_THROW(FillSizeLists(usList, siList, "W", "/nowhere"), Failure);
+    EXPECT_EQ(usList.Count(), 37);
+    FillSizeLists(usList, siList, "none such", TENSARIX_PROGRAM_DIR);
+    EXPECT_EQ(usList.Count(), 0);
+}

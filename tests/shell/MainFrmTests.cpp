@@ -1,0 +1,142 @@
+#include "StandIns.h"
+#include "shell/MainFrm.h"
+#include "shell/Version.h"
+
+#include <gtest/gtest.h>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+struct RecordedDialogs final : Dialogs {
+    std::vector<std::string> Shown;
+    std::function<void()> Meanwhile;
+    void Show_CalcMainFrm() override { Note("CalcMainFrm"); }
+    void Show_WtCalcsFrm() override { Note("WtCalcsFrm"); }
+    void Show_WtCalcsFrmA() override { Note("WtCalcsFrmA"); }
+    void Show_AboutFrm() override { Note("AboutFrm"); }
+    void Note(const char* name) {
+        Shown.emplace_back(name);
+        Run(Meanwhile);
+    }
+};
+
+class MainFrmTest : public testing::Test {
+  protected:
+    TestMachine machine;
+    RecordedDialogs dialogs;
+    std::unique_ptr<MainFrm> form;
+
+    MainFrm& Start() {
+        form = std::make_unique<MainFrm>(machine.Host, dialogs);
+        EXPECT_TRUE(form->Load());
+        return *form;
+    }
+};
+
+} // namespace
+
+TEST_F(MainFrmTest, AFirstStartHasAllDefaults) {
+    MainFrm& f = Start();
+    EXPECT_EQ(f.Caption, "Tensarix v1.0  [Beta]  -  " + std::string{LegalLine});
+    EXPECT_TRUE(f.OptButton[0].Value());
+    EXPECT_EQ(f.SelectionTab.Tab(), 0);
+    EXPECT_TRUE(f.Browse.ProfileOption1.Value());
+    EXPECT_TRUE(f.Browse.DimOption1.Value());
+    EXPECT_EQ(f.Browse.ShapeType.Text(), "W-Shape");
+    EXPECT_EQ(f.Browse.ShapeSizeUS.Text(), "W44x335");
+    EXPECT_EQ(f.Browse.ShapeFlex.Text(1, 1), "335.00  ");
+    EXPECT_EQ(f.Shared.StatBar.Panel1(), " SELECTION:   None");
+    EXPECT_FALSE(f.mnuReadOut.Checked());
+    EXPECT_FALSE(f.mnuOnTop.Checked());
+}
+
+TEST_F(MainFrmTest, ASecondInstanceRaisesTheFirstAndDoesNothingElse) {
+    machine.Guard.Other = true;
+    MainFrm second(machine.Host, dialogs);
+    EXPECT_FALSE(second.Load());
+    EXPECT_EQ(machine.Guard.Raises, 1);
+    EXPECT_EQ(second.Browse.ShapeType.Count(), 0);
+    EXPECT_TRUE(machine.Store.Written.empty());
+}
+
+TEST_F(MainFrmTest, ChoicesComeBackAtTheNextStart) {
+    MainFrm& first = Start();
+    first.Browse.ShapeType.Select(4);
+    first.Browse.ShapeSizeSI.Select(3);
+    first.Browse.DimOption2.Select();
+    first.Browse.ProfileOption2.Select();
+    first.mnuOnTop.Click();
+    first.mnuReadOut.Click();
+    first.Query_Unload();
+
+    MainFrm& second = Start();
+    EXPECT_EQ(second.Browse.ShapeType.ListIndex(), 4);
+    EXPECT_EQ(second.Browse.ShapeSizeUS.ListIndex(), 3);
+    EXPECT_TRUE(second.Browse.DimOption2.Value());
+    EXPECT_TRUE(second.Browse.ProfileOption2.Value());
+    EXPECT_FALSE(second.Browse.DimOption1.Enabled());
+    EXPECT_TRUE(second.Shared.OnTop);
+    EXPECT_TRUE(second.Shared.ReadOut);
+    EXPECT_TRUE(second.mnuOnTop.Checked());
+    EXPECT_TRUE(second.mnuReadOut.Checked());
+}
+
+TEST_F(MainFrmTest, GarbageInTheSettingsNeverStopsTheStart) {
+    for (const char* garbage : {"", "abc", "-1", "99", "1E999", "2.5", "\xFF\xFE", "0x10"}) {
+        for (const SettingKey* key :
+             {&Setting::ReadOutLoud, &Setting::AlwaysOnTop, &Setting::ProfileOption,
+              &Setting::DimOption, &Setting::ShapeType, &Setting::fShapeType, &Setting::xShapeType,
+              &Setting::zShapeType, &Setting::BeamSpan, &Setting::AppliedCode, &Setting::CodeOpt,
+              &Setting::cFlexRows, &Setting::WeldStrip, &Setting::WeldView})
+            machine.Store.Set(std::string{key->Name}, garbage);
+        machine.Store.Set("ShapeSize0", garbage);
+        MainFrm& f = Start();
+        EXPECT_EQ(f.Browse.ShapeType.Count(), 17) << garbage;
+        f.Query_Unload();
+    }
+}
+
+TEST_F(MainFrmTest, ChangingTheMode) {
+    MainFrm& f = Start();
+    f.Shared.ReadOut = true;
+    f.Shared.GridClicked = true;
+    f.Shared.StatBar.Set_Panel1("x");
+    machine.Speech.Spoken.clear();
+    f.OptButton[2].Select();
+    EXPECT_EQ(machine.Speech.Spoken, (std::vector<std::string>{"", "View All"}));
+    EXPECT_FALSE(f.Shared.GridClicked);
+    EXPECT_EQ(f.Shared.StatBar.Panel1(), " SELECTION:   None");
+    EXPECT_EQ(f.SelectionTab.Tab(), 2);
+}
+
+TEST_F(MainFrmTest, ADialogStandsAboveATopMostWindow) {
+    machine.Store.Set("AlwaysOnTop", "1");
+    MainFrm& f = Start();
+    machine.Window.OnTop.clear();
+    std::vector<bool> during;
+    dialogs.Meanwhile = [&] { during = machine.Window.OnTop; };
+    f.mnuWtCalcA.Click();
+    EXPECT_EQ(during, (std::vector<bool>{false}));
+    EXPECT_EQ(machine.Window.OnTop, (std::vector<bool>{false, true}));
+    f.mnuCalc.Click();
+    f.mnuWtCalc.Click();
+    f.mnuAbout.Click();
+    EXPECT_EQ(dialogs.Shown,
+              (std::vector<std::string>{"WtCalcsFrmA", "CalcMainFrm", "WtCalcsFrm", "AboutFrm"}));
+    f.mnuTerminate.Click();
+    EXPECT_EQ(machine.Window.Closes, 1);
+}
+
+TEST_F(MainFrmTest, MenuTogglesAreSavedAtOnce) {
+    MainFrm& f = Start();
+    machine.Store.Written.clear();
+    f.mnuReadOut.Click();
+    f.mnuReadOut.Click();
+    f.mnuOnTop.Click();
+    EXPECT_EQ(machine.Store.Written,
+              (std::vector<std::string>{"ReadOutLoud=1", "ReadOutLoud=0", "AlwaysOnTop=1"}));
+    EXPECT_FALSE(f.mnuReadOut.Checked());
+    EXPECT_TRUE(f.mnuOnTop.Checked());
+}

@@ -1,0 +1,58 @@
+// Real widgets of the real program, without a display. Each test has a home of its own.
+#pragma once
+
+#include "window/Program.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace Tensarix::Tests {
+
+// Sets the folders of the user to a fresh one, for this process and those that it starts.
+inline void Use_Home(const QString& folder) {
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, folder.toLocal8Bit());
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+}
+
+class WindowTest : public testing::Test {
+  protected:
+    QTemporaryDir home;
+    std::unique_ptr<Program> program;
+
+    void SetUp() override {
+        Use_Home(home.path());
+        Start();
+    }
+    void TearDown() override { Stop(); }
+
+    void Start() {
+        program =
+            std::make_unique<Program>(Folders{TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+        ASSERT_TRUE(program->Start());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&program->Window()));
+    }
+    void Stop() {
+        if (!program)
+            return;
+        program->Window().close();
+        program.reset();
+    }
+
+    // The widget of that name, on any page.
+    template <typename Widget>
+    Widget& Find(const char* name) {
+        auto* widget = program->Window().findChild<Widget*>(QLatin1String(name));
+        if (!widget)
+            throw std::runtime_error(std::string{"no widget "} + name);
+        return *widget;
+    }
+    static void Settle() { QCoreApplication::processEvents(); }
+};
+
+} // namespace Tensarix::Tests
