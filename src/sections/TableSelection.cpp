@@ -21,10 +21,6 @@ Head Head_Of(const FlexGrid& grid, int col) {
     return {Trim(text.substr(0, lineBreak)), Trim(text.substr(lineBreak + 1))};
 }
 
-std::string Spoken_Value(const std::string& value) {
-    return Is_Numeric(value) ? General_Text(Text_Number(value)) : Speak_Symbol(value);
-}
-
 } // namespace
 
 std::string Table_Selection_Text(const FlexGrid& grid, int row, int col) {
@@ -42,7 +38,7 @@ std::string Spoken_Table_Selection(const FlexGrid& grid, int row, int col) {
         return {};
     const Head head = Head_Of(grid, col);
     const std::string value = Trim(grid.Text(row, col));
-    std::string text = Speak_Symbol(head.Name) + " = " + Spoken_Value(value);
+    std::string text = Speak_Symbol(head.Name) + " = " + Speak_Value(value);
     if (head.Unit.empty())
         return text;
     text += " ";
