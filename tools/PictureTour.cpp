@@ -23,7 +23,8 @@ class Tour {
     Tour(Program& program, const QString& folder) : program_(program), folder_(folder) {}
 
     void Take(const QString& name, QWidget& widget) {
-        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(); // takes over the change
+        QCoreApplication::processEvents(); // lays out anew what it has widened
         const QString path = folder_ + QLatin1Char('/') + name + QStringLiteral(".png");
         if (!widget.grab().save(path))
             failed_ = true;

@@ -175,7 +175,6 @@ double Find_Field(const SectionRecordset& record, const Layout& layout, std::str
 
 void Find_Populate_Value(std::string_view type, std::string_view property, Profile profile,
                          ComboBox& list, const std::filesystem::path& programFolder) {
-    const Layout& layout = Layout_Of(type);
     const std::string column = FindColumnName(property, profile);
     const std::string_view order = Is_Depth_Between_Fillets(column) ? depthColumn : column;
     SectionRead read(programFolder, Query_Value_List(type, order));
@@ -183,6 +182,7 @@ void Find_Populate_Value(std::string_view type, std::string_view property, Profi
     SectionRecordset& records = read.Records;
     double value = 0;
     Attempt([&] {
+        const Layout& layout = Layout_Of(type);
         for (records.MoveFirst(); !records.AtEnd(); records.MoveNext()) {
             Attempt([&] { value = Find_Field(records, layout, column, profile); });
             if (!ValueListed(list, value))

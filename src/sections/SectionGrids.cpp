@@ -110,8 +110,8 @@ std::string Head_Text(const Property& property, Profile profile) {
 }
 
 // The property that stands in a column in the end: the last one written there.
-const Property* Last_In(const Layout& layout, TableVariant variant,
-                        std::span<const int> numbering, int col) {
+const Property* Last_In(const Layout& layout, TableVariant variant, std::span<const int> numbering,
+                        int col) {
     const Property* last = nullptr;
     for (std::size_t i = 0; i < layout.Entries.size(); ++i)
         if (Column_Of(numbering, i) == col)
@@ -235,9 +235,8 @@ FindCount FindInitializer::operator()(FlexGrid& grid, std::string_view familyCod
         for (record.MoveFirst(); !record.AtEnd(); record.MoveNext()) {
             Attempt([&] { field = Find_Field(record, Columns, column, view.Units); });
             bool matches = false;
-            Attempt([&] {
-                matches = CriterionMatches(condition.Criterion, condition.Value, field);
-            });
+            Attempt(
+                [&] { matches = CriterionMatches(condition.Criterion, condition.Value, field); });
             if (matches)
                 Write_Table_Row(grid, ++count.Found, record, Columns, TableVariant::Find, view);
         }
