@@ -4,6 +4,8 @@
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
+#include "sections/FindPage.h"
+#include "sections/ViewPage.h"
 #include "shell/Dialogs.h"
 
 #include <array>
@@ -24,6 +26,8 @@ class MainFrm {
     TabControl SelectionTab;
 
     BrowsePage Browse;
+    FindPage Find;
+    ViewPage ViewAll;
 
     MenuItem mnuCalc, mnuWtCalc, mnuWtCalcA, mnuTerminate;
     MenuItem mnuOnTop, mnuReadOut;
@@ -46,7 +50,9 @@ class MainFrm {
     void Wire_Menu();
     void Start_Flags();
     void Start_Options();
+    void Start_Families();
     void OptButton_Click(int index);
+    void Show_Count();
     void Open_Dialog(void (Dialogs::*show)());
     void mnuOnTop_Click();
     void mnuReadOut_Click();

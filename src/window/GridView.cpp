@@ -166,7 +166,7 @@ void GridView::Place_Frozen() {
     verticalHeader()->setVisible(width > 0);
     verticalHeader()->setFixedWidth(std::max(width, 1));
     frozen_->setVisible(width > 0);
-    const int head = horizontalHeader()->isVisible() ? horizontalHeader()->height() : 0;
+    const int head = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
     frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + head);
     frozen_->raise();
 }

@@ -3,6 +3,8 @@
 #include "ui_MainWindow.h"
 #include "window/Bind.h"
 #include "window/BrowseForm.h"
+#include "window/FindForm.h"
+#include "window/ViewForm.h"
 
 #include <QCloseEvent>
 #include <QEvent>
@@ -38,6 +40,8 @@ MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
         Bind(modes[i], form.OptButton[i]);
     }
     ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));
+    ui.SelectionTab->addWidget(Make_Find_Form(form.Find, this));
+    ui.SelectionTab->addWidget(Make_View_Form(form.ViewAll, this));
     Bind(ui.SelectionTab, form.SelectionTab);
     Bind(ui.StatBar, form.Shared.StatBar);
     Bind(ui.mnuCalc, form.mnuCalc);
