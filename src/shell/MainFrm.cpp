@@ -1,6 +1,7 @@
 #include "shell/MainFrm.h"
 
 #include "common/Failure.h"
+#include "common/NumberText.h"
 #include "shell/Version.h"
 
 namespace Tensarix {
@@ -24,7 +25,16 @@ std::string Window_Caption() {
 }
 
 MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
-    : Shared(machine), Browse(Shared), Find(Shared), ViewAll(Shared), dialogs_(dialogs) {
+    : Shared(machine), Browse(Shared), Find(Shared), ViewAll(Shared), Beam(Shared),
+      mnuEdit1(Shared, SelectionTab,
+               {
+                   &Browse.ShapeFlex,
+                   &Find.fShapeFlex,
+                   &ViewAll.xShapeFlex,
+                   &Beam.zShapeFlex,
+                   nullptr,
+               }),
+      dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
     for (int i = 0; i < ModeCount; ++i) {
         OptionButton& button = OptButton[static_cast<std::size_t>(i)];
@@ -71,6 +81,8 @@ void MainFrm::StartUp() {
     OptButton[0].Select();
     Start_Options();
     Start_Families();
+    Beam.Start_Families();
+    Beam.Start_Inputs();
     Find.Restore_Search(); // again, now that the criteria exist
     Shared.Show_No_Selection();
 }
@@ -113,6 +125,8 @@ void MainFrm::OptButton_Click(int index) {
     Shared.GridClicked = false;
     Shared.Show_No_Selection();
     SelectionTab.Select(index);
+    if (static_cast<Mode>(index) == Mode::BeamLoad)
+        Beam.AppliedCode_Click();
     Show_Count();
 }
 
@@ -146,7 +160,9 @@ void MainFrm::mnuReadOut_Click() {
     Shared.Host.Speech.Speak(""); // silence, also when it has just been switched off
 }
 
-void MainFrm::Resized() { Shared.Host.Window.Set_On_Top(Shared.OnTop); }
+void MainFrm::Resized() {
+    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+}
 
 void MainFrm::Activated() {
     Shared.Host.Window.Set_On_Top(Shared.OnTop);
@@ -158,6 +174,7 @@ void MainFrm::Query_Unload() {
     Save_Sizes();
     Find.Save_Search();
     Save_Options();
+    Save_Span();
     Shared.Say("");
 }
 
@@ -173,6 +190,9 @@ void MainFrm::Save_Sizes() {
     if (Browse.ShapeType.ListIndex() >= 0)
         saved.Save(Setting::ShapeSize, std::to_string(Browse.ShapeType.ListIndex()),
                    std::to_string(Browse.ShapeSizeUS.ListIndex()));
+    if (Beam.zShapeType.ListIndex() >= 0)
+        saved.Save(Setting::zShapeSize, std::to_string(Beam.zShapeType.ListIndex()),
+                   std::to_string(Beam.zShapeSizeUS.ListIndex()));
 }
 
 void MainFrm::Save_Options() {
@@ -185,6 +205,11 @@ void MainFrm::Save_Options() {
     save(Setting::xDimOption, ViewAll.xDimOption1);
     save(Setting::fProfileOption, Find.fProfileOption1);
     save(Setting::fDimOption, Find.fDimOption1);
+}
+
+void MainFrm::Save_Span() {
+    if (const std::optional<double> feet = Beam.Typed_Span())
+        Shared.Saved.Save(Setting::BeamSpan, General_Text(*feet));
 }
 
 } // namespace Tensarix

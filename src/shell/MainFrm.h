@@ -1,21 +1,20 @@
 // The main window without a toolkit: start-up, the five modes, the menu, the end.
 #pragma once
 
+#include "beam/BeamPage.h"
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
 #include "sections/FindPage.h"
 #include "sections/ViewPage.h"
 #include "shell/Dialogs.h"
+#include "shell/GridPopup.h"
+#include "shell/Modes.h"
 
 #include <array>
 #include <string>
 
 namespace Tensarix {
-
-// The five modes; a mode's number is that of its button and of its tab.
-enum class Mode { Browse, Find, ViewAll, BeamLoad, Connection };
-inline constexpr int ModeCount = 5;
 
 class MainFrm {
   public:
@@ -28,6 +27,9 @@ class MainFrm {
     BrowsePage Browse;
     FindPage Find;
     ViewPage ViewAll;
+    BeamPage Beam;
+
+    GridPopup mnuEdit1; // of the pages' grids
 
     MenuItem mnuCalc, mnuWtCalc, mnuWtCalcA, mnuTerminate;
     MenuItem mnuOnTop, mnuReadOut;
@@ -59,6 +61,7 @@ class MainFrm {
     void Save_Families();
     void Save_Sizes();
     void Save_Options();
+    void Save_Span();
 
     Dialogs& dialogs_;
 };
