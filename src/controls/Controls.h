@@ -101,6 +101,8 @@ class ComboBox {
 
     // Empties the list and the text; no handler runs.
     void Clear();
+    // The same, but the text stays.
+    void Clear_Items();
     void Add(std::string item);
     int Count() const { return static_cast<int>(items_.size()); }
     // Fails outside 0 .. Count - 1.

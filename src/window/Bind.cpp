@@ -196,8 +196,12 @@ class TextKeys final : public QObject {
 void Bind(QComboBox* widget, ComboBox& control) {
     auto* model = new ItemModel(control, widget);
     widget->setModel(model);
-    if (widget->isEditable())
+    if (widget->isEditable()) {
         widget->setCompleter(nullptr);
+        // By itself the box would choose the item whose text was typed, when the typing ends.
+        for (const auto end : {&QLineEdit::editingFinished, &QLineEdit::returnPressed})
+            QObject::disconnect(widget->lineEdit(), end, widget, nullptr);
+    }
     new ComboKeys(widget, control);
     const auto pull = [widget, model, &control] {
         const QSignalBlocker quiet(widget);
@@ -303,6 +307,7 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         remark->setText(To_Qt(control.Remark()));
         remark->setToolTip(remark->text());
         count->setText(To_Qt(control.Count()));
+        count->setMinimumWidth(count->sizeHint().width()); // short, and never cut
     });
     Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
 }
