@@ -27,19 +27,6 @@ const BeamRows& Rows_Of_Family(int position) {
     return position < FirstChannelFamily ? SShape_For_AllowableLoad : CShape_For_AllowableLoad;
 }
 
-// No speech while this stands.
-class Silence {
-  public:
-    explicit Silence(Desk& desk) : desk_(desk), before_(desk.ReadOut) { desk_.ReadOut = false; }
-    ~Silence() { desk_.ReadOut = before_; }
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-
-  private:
-    Desk& desk_;
-    bool before_;
-};
-
 } // namespace
 
 BeamPage::BeamPage(Desk& desk) : desk_(desk) {
@@ -152,7 +139,10 @@ void BeamPage::FyBox_Click() {
 }
 
 void BeamPage::AppliedCode_Click() {
-    const Silence silence(desk_);
+    desk_.Quietly([this] { Restore_Code(); });
+}
+
+void BeamPage::Restore_Code() {
     const bool choosesMethod = !Is_9th_Edition();
     CodeFrame.Enable(choosesMethod);
     CodeOpt[1].Enable(choosesMethod);

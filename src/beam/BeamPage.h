@@ -74,6 +74,7 @@ class BeamPage {
     void CFactor_LostFocus();
     void zShapeFlex_SelChange();
 
+    void Restore_Code();
     void Restore_Factor_And_Span();
     void Load_Span(const std::string& text);
     void Load_Factor(const std::string& text);

@@ -78,19 +78,3 @@ TEST_F(BeamModeTest, ExitSavesSizeAndSpanInOrder) {
     f.Query_Unload();
     EXPECT_EQ(machine.Store.Get("BeamSpan"), "12.5");
 }
-
-TEST_F(BeamModeTest, EachModeCopiesFromItsOwnGrid) {
-    MainFrm& f = Start();
-    Show_Mode(Mode::BeamLoad);
-    f.Beam.zShapeFlex.Press(3, 1);
-    Tensarix::Run(f.Beam.zShapeFlex.OnPopup);
-    f.mnuEdit1.mnuCopySelection1a.Click();
-    EXPECT_EQ(machine.Clip.Held, "44.00  ");
-    Show_Mode(Mode::Browse);
-    Tensarix::Run(f.Browse.ShapeFlex.OnPopup);
-    EXPECT_FALSE(f.mnuEdit1.mnuCopySelection1a.Enabled()); // nothing was clicked here yet
-    f.Browse.ShapeFlex.Press(1, 0);
-    Tensarix::Run(f.Browse.ShapeFlex.OnPopup);
-    f.mnuEdit1.mnuCopySelection1b.Click();
-    EXPECT_EQ(machine.Clip.Held, "W");
-}
