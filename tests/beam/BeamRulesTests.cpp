@@ -9,7 +9,7 @@ using namespace Tensarix;
 
 namespace {
 
-// Figures of the Manual, 13th Edition, part 1.
+// Dimensions and properties by the AISC Steel Construction Manual, 13th Edition.
 constexpr BeamSection w21x44{
     .Zx = 95.4, .Sx = 81.6, .d = 20.7, .tw = 0.35, .h_tw = 53.6, .bf_2tf = 7.22};
 constexpr BeamSection w44x230{
