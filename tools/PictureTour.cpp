@@ -1,6 +1,7 @@
 // Drives the real program through its screens without a display and saves a picture of each:
 //   picture_tour FOLDER
 // The user's own settings and data are left alone.
+#include "window/AboutForm.h"
 #include "window/Program.h"
 
 #include <QApplication>
@@ -52,6 +53,13 @@ class Tour {
         page.DimOption1.Select();
     }
 
+    void About(const QString& suffix) {
+        AboutFrm about(program_.Form().Shared);
+        AboutForm form(about, &program_.Window());
+        form.show();
+        Take(QStringLiteral("about") + suffix, form);
+    }
+
     bool Failed() const { return failed_; }
 
   private:
@@ -89,8 +97,10 @@ int main(int argc, char** argv) {
     Tour tour(program, QString::fromLocal8Bit(argv[1]));
     tour.Browse({});
     tour.Browse_Units();
+    tour.About({});
     QApplication::setPalette(Dark_Palette());
     tour.Browse(QStringLiteral("-dark"));
+    tour.About(QStringLiteral("-dark"));
     program.Window().close();
     return tour.Failed() ? 1 : 0;
 }

@@ -15,6 +15,15 @@ namespace {
 const QString geometryKey = QStringLiteral("Window/Geometry");
 constexpr QSize firstSize{1240, 700}; // fits a screen of 1366 x 768 with its task bar
 
+// The mode that shows is told by more than a shade.
+void Show_Chosen_In_Bold(QPushButton* button) {
+    QObject::connect(button, &QPushButton::toggled, button, [button](bool chosen) {
+        QFont font = button->font();
+        font.setBold(chosen);
+        button->setFont(font);
+    });
+}
+
 } // namespace
 
 MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
@@ -24,8 +33,10 @@ MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
     setWindowTitle(QString::fromStdString(form.Caption));
     QPushButton* const modes[] = {ui.OptButton0, ui.OptButton1, ui.OptButton2, ui.OptButton3,
                                   ui.OptButton4};
-    for (std::size_t i = 0; i < form.OptButton.size(); ++i)
+    for (std::size_t i = 0; i < form.OptButton.size(); ++i) {
+        Show_Chosen_In_Bold(modes[i]);
         Bind(modes[i], form.OptButton[i]);
+    }
     ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));
     Bind(ui.SelectionTab, form.SelectionTab);
     Bind(ui.StatBar, form.Shared.StatBar);

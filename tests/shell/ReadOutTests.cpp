@@ -1,0 +1,126 @@
+// What is said at which event: with the read-out off, nothing at all.
+#include "StandIns.h"
+#include "shell/AboutFrm.h"
+#include "shell/MainFrm.h"
+#include "shell/Version.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+struct NoDialogs final : Dialogs {
+    void Show_CalcMainFrm() override {}
+    void Show_WtCalcsFrm() override {}
+    void Show_WtCalcsFrmA() override {}
+    void Show_AboutFrm() override {}
+};
+
+struct SpokenEvent {
+    const char* Name;
+    void (*Happen)(MainFrm&);
+    std::vector<std::string> Said;
+};
+
+const SpokenEvent spokenEvents[] = {
+    {"a row of Browse",
+     [](MainFrm& f) { f.Browse.ShapeFlex.Move_To(2, 1); },
+     {"AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area"}},
+    {"the same row pressed again",
+     [](MainFrm& f) {
+         f.Browse.ShapeFlex.Move_To(2, 2);
+         f.Browse.ShapeFlex.Move_To(2, 3);
+     },
+     {"AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area",
+      "AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area"}},
+    {"a length of Browse in feet and inches",
+     [](MainFrm& f) {
+         f.Browse.DimOption2.Select();
+         f.Browse.ShapeFlex.Move_To(3, 1);
+     },
+     {"d = Three Feet and Eight Inches INCHES :: Overall Depth of Member"}},
+    {"a family with parentheses",
+     [](MainFrm& f) { f.Browse.ShapeType.Select(15); },
+     {"", "Double Angle Equal Legs"}},
+    {"another size", [](MainFrm& f) { f.Browse.ShapeSizeUS.Select(5); }, {}},
+    {"another profile", [](MainFrm& f) { f.Browse.ProfileOption2.Select(); }, {}},
+    {"another mode", [](MainFrm& f) { f.OptButton[1].Select(); }, {"", "Find Sections"}},
+    {"the same mode", [](MainFrm& f) { f.OptButton[0].Select(); }, {}},
+    {"the calculator opens", [](MainFrm& f) { f.mnuCalc.Click(); }, {""}},
+    {"a weight calculator opens", [](MainFrm& f) { f.mnuWtCalc.Click(); }, {""}},
+    {"the other weight calculator opens", [](MainFrm& f) { f.mnuWtCalcA.Click(); }, {""}},
+    {"the about box opens", [](MainFrm& f) { f.mnuAbout.Click(); }, {""}},
+    {"the window becomes the active one", [](MainFrm& f) { f.Activated(); }, {""}},
+    {"the window gets another size", [](MainFrm& f) { f.Resized(); }, {}},
+    {"the window stays above others", [](MainFrm& f) { f.mnuOnTop.Click(); }, {}},
+    {"the window closes", [](MainFrm& f) { f.Query_Unload(); }, {""}},
+};
+
+class ReadOutTest : public testing::Test {
+  protected:
+    TestMachine machine;
+    NoDialogs dialogs;
+
+    std::vector<std::string> Said_At(const SpokenEvent& event, bool readOut) {
+        machine.Store.Kept.clear();
+        MainFrm form(machine.Host, dialogs);
+        form.Load();
+        form.Shared.ReadOut = readOut;
+        machine.Speech.Spoken.clear();
+        event.Happen(form);
+        return machine.Speech.Spoken;
+    }
+};
+
+} // namespace
+
+TEST_F(ReadOutTest, EveryEventSaysItsTextAndNothingWhenOff) {
+    for (const SpokenEvent& event : spokenEvents) {
+        EXPECT_EQ(Said_At(event, true), event.Said) << event.Name;
+        EXPECT_EQ(Said_At(event, false), std::vector<std::string>{}) << event.Name;
+    }
+}
+
+// Switching off silences, which is said although the read-out is off by then.
+TEST_F(ReadOutTest, TheSwitchItselfSilences) {
+    MainFrm form(machine.Host, dialogs);
+    form.Load();
+    machine.Speech.Spoken.clear();
+    form.mnuReadOut.Click();
+    EXPECT_EQ(machine.Speech.Spoken, (std::vector<std::string>{""}));
+    form.mnuReadOut.Click();
+    EXPECT_EQ(machine.Speech.Spoken, (std::vector<std::string>{"", ""}));
+}
+
+// With the read-out on, a start says what the first mode and the first family say, in that order,
+// before anything that another page has to say.
+TEST_F(ReadOutTest, AStartWithTheReadOutOn) {
+    machine.Store.Set("ReadOutLoud", "1");
+    MainFrm form(machine.Host, dialogs);
+    form.Load();
+    const std::vector<std::string> first{"", "Browse Sections", "", "W-Shape"};
+    ASSERT_GE(machine.Speech.Spoken.size(), first.size());
+    EXPECT_TRUE(std::equal(first.begin(), first.end(), machine.Speech.Spoken.begin()));
+}
+
+TEST_F(ReadOutTest, TheAboutBoxReadsItsLabels) {
+    Desk desk(machine.Host);
+    AboutFrm about(desk);
+    about.Load();
+    about.Unload();
+    EXPECT_TRUE(machine.Speech.Spoken.empty());
+
+    desk.ReadOut = true;
+    about.Load();
+    EXPECT_EQ(machine.Speech.Spoken,
+              (std::vector<std::string>{"Tensarix", "Version 1.0", about.lblDescription.Caption(),
+                                        about.lblDisclaimer.Caption()}));
+    about.Unload();
+    EXPECT_EQ(machine.Speech.Spoken.back(), "");
+    for (const char* needed : {"13th Edition", "check every number", "not affiliated", "MIT"})
+        EXPECT_NE(about.lblDisclaimer.Caption().find(needed), std::string::npos) << needed;
+}
