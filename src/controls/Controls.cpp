@@ -37,7 +37,7 @@ void Button::Click() const {
         Run(OnClick);
 }
 
-void OptionButton::Group(std::vector<OptionButton*> buttons) {
+void OptionButton::Group(const std::vector<OptionButton*>& buttons) {
     for (OptionButton* button : buttons)
         button->group_ = buttons;
 }

@@ -21,6 +21,7 @@ using KeyHandler = std::function<void(int keyCode)>;
 namespace Keys {
 inline constexpr int Backspace = 8, Tab = 9, Enter = 13, Escape = 27, Blank = 32;
 inline constexpr int Left = 37, Up = 38, Right = 39, Down = 40, Delete = 46, F2 = 113;
+inline constexpr int BackTab = 0x109; // Shift+Tab; the codes of single keys end at 255
 } // namespace Keys
 
 class Label {
@@ -61,7 +62,7 @@ class OptionButton {
     View Shown;
 
     // The buttons of a group know each other; call once, when the screen is made.
-    static void Group(std::vector<OptionButton*> buttons);
+    static void Group(const std::vector<OptionButton*>& buttons);
 
     const std::string& Caption() const { return caption_; }
     void Set_Caption(std::string caption);

@@ -44,11 +44,14 @@ class FlexGrid {
     Handler OnMouseDown; // left button, after the cell under it has become current
     Handler OnPopup;     // right button up, or the keyboard's menu key
     Handler OnCopy;      // Ctrl+C
+    Handler OnPaste;     // Ctrl+V
     Handler OnDblClick;
     Handler OnScroll;
     std::function<void(double xTwips)> OnMouseMove; // from the grid's left edge
     std::function<void(int keyAscii)> OnKeyPress;
     KeyHandler OnKeyDown;
+    std::function<bool(bool back)> OnTab; // true: it has gone to another cell, the focus stays
+    Handler BringIntoView;                // the view's: scrolls until the current cell shows
     FocusPoint Focus;
     View Shown;
 
@@ -97,6 +100,9 @@ class FlexGrid {
     void Set_TopRow(int row);
     void Set_LeftCol(int col);
 
+    // Where the grid lies on its form.
+    const Placement& Place() const { return place_; }
+    void Set_Place(const Placement& place) { place_ = place; }
     // The current cell inside the grid, as far as row heights and column widths tell.
     Placement Cell_Place() const;
 
@@ -127,6 +133,7 @@ class FlexGrid {
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
     int topRow_ = 1, leftCol_ = 1;
     double heightMin_ = 0;
+    Placement place_;
     unsigned layoutVersion_ = 0;
 };
 

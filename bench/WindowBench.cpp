@@ -1,0 +1,77 @@
+// What a user waits for on the screen: the start, and a change of section up to the painted grid.
+#include "window/Program.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+namespace {
+
+using namespace Tensarix;
+
+void Start_To_Painted_Window(benchmark::State& state) {
+    QTemporaryDir home;
+    for (auto _ : state) {
+        Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+        program.Start();
+        program.Window().grab();
+        state.PauseTiming();
+        program.Window().close();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(Start_To_Painted_Window)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void Change_Of_Section_To_Painted_Grid(benchmark::State& state) {
+    QTemporaryDir home;
+    Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    program.Start();
+    ComboBox& sizes = program.Form().Browse.ShapeSizeUS;
+    int position = 0;
+    for (auto _ : state) {
+        sizes.Select(++position % sizes.Count());
+        QCoreApplication::processEvents(); // takes over the change
+        QCoreApplication::processEvents(); // paints it
+    }
+    program.Window().close();
+}
+BENCHMARK(Change_Of_Section_To_Painted_Grid)->Unit(benchmark::kMillisecond);
+
+// The share of the above that is not painting: handlers, store, texts.
+void Change_Of_Section_Unpainted(benchmark::State& state) {
+    QTemporaryDir home;
+    Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    program.Start();
+    ComboBox& sizes = program.Form().Browse.ShapeSizeUS;
+    int position = 0;
+    for (auto _ : state)
+        sizes.Select(++position % sizes.Count());
+    program.Window().close();
+}
+BENCHMARK(Change_Of_Section_Unpainted)->Unit(benchmark::kMillisecond);
+
+// The share of the store alone: open, look up, take the row.
+void Read_Of_One_Section(benchmark::State& state) {
+    for (auto _ : state) {
+        SectionRead read(TENSARIX_PROGRAM_DIR, Query_By_US_Label("W18x50"));
+        read.Records.MoveFirst();
+        benchmark::DoNotOptimize(read.Records.Number("IX"));
+    }
+}
+BENCHMARK(Read_Of_One_Section)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QTemporaryDir home;
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, home.path().toLocal8Bit());
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    Program::Prepare_Application();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,367 @@
+#include "connections/Balance.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+#include "common/Failure.h"
+#include "common/NumberText.h"
+#include "connections/Numbers.h"
+#include "connections/VectorMath.h"
+#include "connections/WeldConfigurations.h"
+#include "connections/WeldPass.h"
+
+namespace Tensarix {
+namespace {
+
+constexpr int MostBalancedBolts = 2000;
+constexpr int ElementsOfLongestLine = 64;
+constexpr int LeastElements = 8;
+constexpr int MostIterations = 30;
+constexpr double NearlyBalanced = 1e-4;    // good enough for a remark
+constexpr double Balanced = 1e-9;          // residual over the load
+constexpr double LeastEccentricity = 1e-6; // over the size of the group; less is concentric
+constexpr double LargestNumber = 1e9;      // of any input
+constexpr double NewtonDifference = 1e-6;
+constexpr int ConcentricParts = 50;
+
+// The instantaneous centre stands at (-a, -b) from the centroid, the load is vertical at +e.
+struct Centre {
+    double a = 0, b = 0;
+};
+
+// What the fasteners resist when they turn about a centre.
+struct Resistance {
+    double horizontal = 0, vertical = 0;
+    double moment = 0; // about the centre
+    double torque = 0; // about the centroid
+    double total = 0;  // of the magnitudes
+    double polar = 0;  // sum of r^2
+
+    // A force R on the fastener at (w, u), square to its radius r = (X, Y) from the centre.
+    void Add(double R, double X, double Y, double r, double w, double u) {
+        const double across = R * (X / r);
+        const double up = R * (Y / r);
+        vertical += across;
+        horizontal += up;
+        moment += R * r;
+        torque += across * w + up * u;
+        total += R;
+        polar += r * r;
+    }
+};
+
+// What the solver needs of a group.
+struct Problem {
+    double e = 0;      // > 0
+    double spread = 0; // radius of gyration
+    double count = 0;  // of fasteners
+};
+
+// By how much rotation and horizontal equilibrium are missed. Moments are taken about the centroid:
+// about the centre, any centre far enough away would seem to balance.
+struct Residual {
+    double rotation = 0, horizontal = 0;
+    double Size() const { return std::hypot(rotation, horizontal); }
+};
+
+Residual Residual_Of(const Problem& problem, const Resistance& forces) {
+    return {(forces.torque - forces.vertical * problem.e) /
+                (forces.total * (problem.e + problem.spread)),
+            forces.horizontal / forces.total};
+}
+
+// The step of an elastic group with the stiffness of this centre (G. D. Brandt, Rapid Determination
+// of Ultimate Strength of Eccentrically Loaded Bolt Groups, AISC Engineering Journal, 1982).
+Centre Elastic_Step(const Problem& problem, const Centre& at, const Resistance& forces) {
+    const double factor = forces.polar / (problem.count * forces.moment);
+    const double byMoment = forces.moment / (problem.e + at.a);
+    return {(byMoment - forces.vertical) * factor, -forces.horizontal * factor};
+}
+
+// Newton's step by differences; none where the equations are singular.
+template <typename Group>
+std::optional<Centre> Newton_Step(const Problem& problem, const Group& group, const Centre& at,
+                                  const Residual& here) {
+    const double h = NewtonDifference * (problem.spread + std::abs(at.a));
+    const Centre across{at.a + h, at.b};
+    const Centre up{at.a, at.b + h};
+    const Residual byA = Residual_Of(problem, group.About(across));
+    const Residual byB = Residual_Of(problem, group.About(up));
+    const double va = (byA.rotation - here.rotation) / h;
+    const double vb = (byB.rotation - here.rotation) / h;
+    const double ha = (byA.horizontal - here.horizontal) / h;
+    const double hb = (byB.horizontal - here.horizontal) / h;
+    const double determinant = va * hb - vb * ha;
+    const Centre step{(vb * here.horizontal - hb * here.rotation) / determinant,
+                      (ha * here.rotation - va * here.horizontal) / determinant};
+    if (!std::isfinite(step.a) || !std::isfinite(step.b))
+        return std::nullopt;
+    return step;
+}
+
+// The largest part of a step that brings the centre nearer to balance; none if none does.
+template <typename Group>
+std::optional<Centre> Better(const Problem& problem, const Group& group, const Centre& at,
+                             const Centre& step, double size) {
+    for (double part = 1; part > 1e-3; part /= 2) {
+        const Centre to{at.a + part * step.a, at.b + part * step.b};
+        if (problem.e + to.a > 0 &&
+            Residual_Of(problem, group.About(to)).Size() < size * (1 - 0.1 * part))
+            return to;
+    }
+    return std::nullopt;
+}
+
+// How near a centre came to balance, and the load there.
+struct Attained {
+    double size = 1e9;
+    double load = 0;
+};
+
+// Newton's steps, elastic ones where they don't help. Ends at balance, or where it goes no further.
+template <typename Group>
+Attained Approach(const Problem& problem, const Group& group, Centre at) {
+    Attained best;
+    for (int k = 0; k < MostIterations; ++k) {
+        const Resistance forces = group.About(at);
+        const Residual residual = Residual_Of(problem, forces);
+        const double size = residual.Size();
+        if (size < best.size && forces.vertical > 0)
+            best = {size, forces.vertical};
+        if (!std::isfinite(size) || size <= Balanced)
+            break;
+        const Centre elastic = Elastic_Step(problem, at, forces);
+        std::optional<Centre> next;
+        if (const auto newton = Newton_Step(problem, group, at, residual))
+            next = Better(problem, group, at, *newton, size);
+        if (!next)
+            next = Better(problem, group, at, elastic, size);
+        if (!next)
+            next = Centre{at.a + elastic.a, at.b + elastic.b};
+        if (problem.e + next->a <= 0)
+            break;
+        at = *next;
+    }
+    return best;
+}
+
+// From the elastic centre, and from others about it if that leads nowhere. Where the critical
+// element changes the equations have a kink, and a search may stop just beside balance.
+template <typename Group>
+std::optional<double> Solve(const Problem& problem, const Group& group) {
+    const double elastic = problem.spread * problem.spread / problem.e;
+    Attained best;
+    for (const double part : {1.0, 0.4, 2.5}) {
+        const Attained attained = Approach(problem, group, {elastic * part, 0});
+        if (attained.size < best.size)
+            best = attained;
+        if (best.size <= NearlyBalanced)
+            return best.load;
+    }
+    return std::nullopt;
+}
+
+struct Bolts {
+    std::vector<double> u, w;
+
+    // At a part of the rotation at which the farthest bolt reaches its limit.
+    Resistance About(const Centre& at, double part = 1) const {
+        std::vector<double> forces(u.size());
+        double dmax = 0;
+        for (std::size_t k = 0; k < u.size(); ++k) {
+            forces[k] = std::hypot(w[k] + at.a, u[k] + at.b);
+            dmax = std::max(dmax, forces[k]);
+        }
+        for (double& force : forces)
+            force = BoltExponentFactor * UltimateBoltDeformation * part * force / dmax;
+        Saturate_Each(forces.data(), forces.size(), BoltPower);
+        Resistance sum;
+        for (std::size_t k = 0; k < u.size(); ++k) {
+            const double d = std::hypot(w[k] + at.a, u[k] + at.b);
+            if (d > 0)
+                sum.Add(forces[k], w[k] + at.a, u[k] + at.b, d, w[k], u[k]);
+        }
+        return sum;
+    }
+};
+
+bool In_Range(std::initializer_list<double> inputs) {
+    return std::all_of(inputs.begin(), inputs.end(),
+                       [](double value) { return std::abs(value) <= LargestNumber; });
+}
+
+Bolts Turned_Bolts(const BoltGroup& group, double theta) {
+    Bolts bolts;
+    for (int i = 0; i < group.m; ++i) {
+        for (int j = 0; j < group.n; ++j) {
+            const double y = (i - (group.m - 1) / 2.0) * group.sv;
+            const double x = (j - (group.n - 1) / 2.0) * group.sh;
+            bolts.u.push_back(x * std::sin(theta) + y * std::cos(theta));
+            bolts.w.push_back(x * std::cos(theta) - y * std::sin(theta));
+        }
+    }
+    return bolts;
+}
+
+// One element of unit thickness 1/16: where it is, which way it lies, and its strength and limits
+// as they depend on the angle of its force.
+struct WeldPiece {
+    double x, y;
+    double cosine, sine; // of its axis
+    double area;
+};
+
+struct Welds {
+    std::vector<WeldPiece> pieces;
+
+    // At a part of the rotation at which the first element reaches its limit.
+    Resistance About(const Centre& at, double part = 1) const;
+};
+
+struct PieceState {
+    double r, X, Y, degrees, strength;
+};
+
+PieceState State_About(const WeldPiece& piece, const Centre& at) {
+    const double X = piece.x + at.a;
+    const double Y = piece.y + at.b;
+    const double r = std::hypot(X, Y);
+    // The force is square to the radius, so its angle to the axis is that of radius and normal.
+    const double sine = r > 0 ? std::min(1.0, std::abs(X * piece.cosine + Y * piece.sine) / r) : 0;
+    return {r, X, Y, std::asin(sine) * 180 / Pi, 1.0 + 0.5 * sine * std::sqrt(sine)};
+}
+
+Resistance Welds::About(const Centre& at, double part) const {
+    std::vector<PieceState> states;
+    states.reserve(pieces.size());
+    double critical = 0; // rotation at which the first element is at its limit
+    for (const WeldPiece& piece : pieces) {
+        const PieceState state = State_About(piece, at);
+        states.push_back(state);
+        if (state.r > 0) {
+            const double limit = WeldDeltaU(state.degrees) / state.r;
+            critical = critical > 0 ? std::min(critical, limit) : limit;
+        }
+    }
+    Resistance sum;
+    for (std::size_t k = 0; k < pieces.size(); ++k) {
+        const PieceState& state = states[k];
+        if (state.r == 0)
+            continue;
+        const double p = part * critical * state.r / WeldDeltaM(state.degrees);
+        const double R = state.strength * WeldStressFactor * ElectrodeStrength * pieces[k].area *
+                         std::pow(std::max(0.0, (1.9 - 0.9 * p) * p), WeldForcePower);
+        sum.Add(R, state.X, state.Y, state.r, pieces[k].x, pieces[k].y);
+    }
+    return sum;
+}
+
+double Length_Of(const WeldLine& line) {
+    return std::hypot(line.x2 - line.x1, line.y2 - line.y1);
+}
+
+void Add_Pieces(const WeldLine& line, double longest, double xc, double yc, double theta,
+                Welds& welds) {
+    const double length = Length_Of(line);
+    const int count = std::max(LeastElements, int(ElementsOfLongestLine * length / longest));
+    const double cosine = std::cos(theta);
+    const double sine = std::sin(theta);
+    const double dx = (line.x2 - line.x1) / length;
+    const double dy = (line.y2 - line.y1) / length;
+    for (int k = 0; k < count; ++k) {
+        const double along = (k + 0.5) / count * length;
+        const double x = line.x1 + dx * along - xc;
+        const double y = line.y1 + dy * along - yc;
+        welds.pieces.push_back({x * cosine - y * sine, x * sine + y * cosine,
+                                dx * cosine - dy * sine, dx * sine + dy * cosine,
+                                length / count * WeldThroat * WeldSize});
+    }
+}
+
+Welds Turned_Welds(std::vector<WeldLine> lines, double theta) {
+    const auto go = [] { return true; };
+    SearchYield yield(go);
+    NormalizeWeldLines(lines, yield);
+    const double xc = WeldCentroidX(lines);
+    const double yc = WeldCentroidY(lines);
+    double longest = 0;
+    for (const WeldLine& line : lines)
+        longest = std::max(longest, Length_Of(line));
+    Welds welds;
+    for (const WeldLine& line : lines)
+        Add_Pieces(line, longest, xc, yc, theta, welds);
+    return welds;
+}
+
+// Without eccentricity all move alike: the sum about a centre that is very far away. A weld is past
+// its strongest when the first element is at its limit, so the load on the way there counts too.
+template <typename Group>
+double Concentric(const Group& group, double spread) {
+    const Centre away{spread / (LeastEccentricity * LeastEccentricity), 0};
+    double most = 0;
+    for (int part = 1; part <= ConcentricParts; ++part)
+        most = std::max(most, group.About(away, double(part) / ConcentricParts).vertical);
+    return most;
+}
+
+template <typename Group, typename Fasteners>
+std::optional<double> Load(const Group& group, const Fasteners& places, double e) {
+    const Resistance about = group.About({0, 0});
+    const double count = double(places.size());
+    const double spread = std::sqrt(about.polar / count);
+    if (std::abs(e) <= LeastEccentricity * spread || e == 0)
+        return Concentric(group, spread);
+    if (spread == 0)
+        return 0.0; // all in one place: no moment can be resisted
+    return Solve({e, spread, count}, group);
+}
+
+} // namespace
+
+std::optional<double> BalancedBoltCoefficient(const BoltGroup& group, double ex, double angle) {
+    const int mn = int{group.m} * group.n;
+    if (group.m <= 0 || group.n <= 0 || mn > MostBalancedBolts ||
+        !In_Range({group.sv, group.sh, ex, angle}))
+        return std::nullopt;
+    const double theta = angle * Pi / 180;
+    const Bolts bolts = Turned_Bolts(group, theta);
+    // The group is symmetrical: the side of the load makes no difference.
+    return Load(bolts, bolts.u, std::abs(std::cos(theta) * ex));
+}
+
+std::optional<double> BalancedWeldCoefficient(int item, double L, double kL, double aL,
+                                              double angle) {
+    if (!In_Range({L, kL, aL, angle}) || L <= 0)
+        return std::nullopt;
+    const double scale = WeldScale(L);
+    const double base = L * scale;
+    const double theta = angle * Pi / 180;
+    double e = std::cos(theta) * std::abs(aL) * scale;
+    Welds welds = Turned_Welds(WeldConfigurationLines(item, base, kL * scale), theta);
+    if (e < 0) {
+        // Turned past a right angle the load stands on the other side: look at it from behind.
+        e = -e;
+        for (WeldPiece& piece : welds.pieces) {
+            piece.x = -piece.x;
+            piece.cosine = -piece.cosine;
+        }
+    }
+    const auto load = Load(welds, welds.pieces, e);
+    return load ? std::optional(WeldCoefficient(*load, base)) : std::nullopt;
+}
+
+std::string BalanceRemark(double shown, std::optional<double> balanced, double tolerance) {
+    if (!balanced || !(*balanced > 0) || !std::isfinite(shown))
+        return {};
+    const double excess = shown / *balanced - 1;
+    if (!(std::abs(excess) > tolerance))
+        return {};
+    std::string text = "The centre that satisfies all equilibrium conditions gives C = ";
+    text.append(Format_Number(*balanced, "0.000")).append(" (this value is ");
+    text.append(Format_Number(std::abs(excess) * 100, "0"));
+    return text.append(excess > 0 ? " % higher)" : " % lower)");
+}
+
+} // namespace Tensarix

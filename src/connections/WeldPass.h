@@ -1,0 +1,38 @@
+// One pass of the weld search: the elements of all lines about one position of the centre.
+#pragma once
+
+#include <vector>
+
+#include "connections/WeldFunctions.h"
+
+namespace Tensarix {
+
+// All weld forces are those of a 1/16 weld.
+inline constexpr double WeldSize = 0.0625;
+inline constexpr double WeldThroat = 0.707106781;
+inline constexpr double ElectrodeStrength = 70.0;
+inline constexpr double WeldStressFactor = 0.6;
+inline constexpr double WeldForcePower = 0.3; // of (1.9 - 0.9 p) p
+
+// Deformation at maximum stress and ultimate deformation at the angle between force and axis.
+double WeldDeltaM(double degrees);
+double WeldDeltaU(double degrees);
+
+// What a pass adds up, and the locals that a failing step leaves as they were, from pass to pass.
+struct WeldPass {
+    double SM = 0, SV = 0, SR = 0;
+    double dRatio = 0; // smallest deltaU / r
+    double dMax = 0;   // largest deltaM of the group, taken for every element: intended
+    double Delta = 0, rho = 0, f = 0, R = 0, V = 0;
+};
+
+// Elements, critical element and sums of one pass about the centre at -Ro. No element is stored:
+// the lines are gone through twice. Yields three times an element.
+void Take_Weld_Pass(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
+                    WeldPass& pass, SearchYield& yield);
+
+// The same with every step on its own, for numbers at which steps fail.
+void Take_Careful_Weld_Pass(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
+                            WeldPass& pass, SearchYield& yield);
+
+} // namespace Tensarix

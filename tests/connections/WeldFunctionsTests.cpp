@@ -1,0 +1,294 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "../../bench/PlainSearches.h"
+#include "common/Failure.h"
+#include "connections/SearchStandIns.h"
+#include "connections/WeldConfigurations.h"
+#include "connections/WeldPass.h"
+
+namespace Tensarix {
+namespace {
+
+double Coefficient(WeldBench& bench, int item, double L, double kL, double aL, double angle) {
+    return WeldConfigurationResult(item, L, kL, aL, angle, WeldModeC, bench.search);
+}
+
+double Plain_Coefficient(int item, double L, double kL, double aL, double angle, long most,
+                         long* passes) {
+    const double s = L > 100 ? 1 : 100 / L;
+    const Plain::Outcome outcome =
+        Plain::WeldLoad(WeldConfigurationLines(item, s * L, s * kL), std::abs(aL) * s, angle,
+                        item == 7 ? 1 : s, 4, most);
+    *passes = outcome.passes;
+    return outcome.value / (s * L);
+}
+
+TEST(SolveWeldGroup, AgreesWithThePlainLoopPassByPass) {
+    constexpr long most = 120;
+    int converged = 0;
+    for (int item = 1; item <= WeldConfigurationCount; ++item) {
+        for (const double angle : {0.0, 15.0, 45.0, 75.0, 120.0}) {
+            for (const double aL : {0.8, 3.0}) {
+                long passes = 0;
+                const double plain = Plain_Coefficient(item, 2, 1.2, aL, angle, most, &passes);
+                WeldBench bench;
+                // The last pass stands twice on the display.
+                bench.display.onStep = [&] {
+                    bench.state.StopRequested |= bench.display.steps == most;
+                };
+                const double C = Coefficient(bench, item, 2, 1.2, aL, angle);
+                EXPECT_NEAR(C, plain, 1e-9) << item << " at " << angle << ", " << aL;
+                EXPECT_EQ(bench.display.steps, passes + 1) << item << " at " << angle;
+                converged += passes < most;
+            }
+        }
+    }
+    EXPECT_GT(converged, 20);
+}
+
+// An element on the centre, or straight above it, takes angles of the element before.
+TEST(TakeWeldPass, FallsBackToSingleStepsWhereOneFails) {
+    const std::vector<WeldLine> upright{{0, -50, 0, 50, Plain::TruncatedPi / 2}};
+    std::vector<WeldLine> leaning{{-30, -40, 30, 40, 0}, {-20, 0, 20, 0, 0}};
+    leaning[0].lineAngle = WeldLineAngle(leaning[0]);
+    leaning[1].lineAngle = 1e-3; // keeps its elements near the horizontal, not on it
+    for (const auto& lines : {upright, leaning}) {
+        for (const double Ro : {0.0, 0.125, -0.125, 18.0, 1e61}) {
+            WeldBench bench;
+            WeldPass pass;
+            Take_Weld_Pass(lines, Ro, bench.state, pass, bench.yield);
+            const Plain::WeldSums plain = Plain::WeldPassSums(lines, Ro, 4);
+            EXPECT_NEAR(pass.SM / plain.SM, 1, 1e-12) << Ro;
+            EXPECT_NEAR(pass.SR / plain.SR, 1, 1e-12) << Ro;
+            EXPECT_NEAR(pass.SV, plain.SV, 1e-9) << Ro;
+        }
+    }
+}
+
+TEST(TakeWeldPass, BothWaysYieldThreeTimesAnElement) {
+    const std::vector<WeldLine> lines{{0, -50, 0, 50, Plain::TruncatedPi / 2}};
+    for (const auto take : {Take_Weld_Pass, Take_Careful_Weld_Pass}) {
+        WeldBench bench;
+        WeldPass pass;
+        take(lines, 5, bench.state, pass, bench.yield);
+        EXPECT_EQ(bench.turn.asked, 3 * 400);
+    }
+}
+
+TEST(SolveWeldGroup, ConcentricGroupsInClosedForm) {
+    constexpr double unit = 0.6 * 70 * 1.4142135623730951 / 2 * 0.0625; // of a line along the load
+    const auto turned = [](double degrees) {
+        return 1 + 0.5 * std::pow(std::sin(degrees * Plain::TruncatedPi / 180), 1.5);
+    };
+    struct Row {
+        int item;
+        double L, kL, angle, lines;
+    };
+    const Row rows[] = {
+        {1, 8, 0, 0, 2},
+        {2, 250, 70, 0, 2},
+        {2, 10, 5, 30, 2 * turned(30)},
+        {3, 10, 5, 0, 2 * 1.5},
+        {4, 10, 5, 0, 2 + 2 * 0.5 * 1.5},
+        {4, 10, 0, 0, 2},
+        {6, 10, 5, 0, 1 + 2 * 0.5 * 1.5},
+        {6, 10, 0, 0, 1},
+        {9, 10, 10, 30, turned(30) + turned(60)},
+    };
+    for (const Row& row : rows) {
+        WeldBench bench;
+        EXPECT_NEAR(Coefficient(bench, row.item, row.L, row.kL, 0, row.angle), row.lines * unit,
+                    1e-9)
+            << row.item;
+    }
+    WeldBench bench;
+    EXPECT_NEAR(Coefficient(bench, 2, 8, 3, 0, 0), 3.7123, 5e-5);
+}
+
+TEST(SolveWeldGroup, AConcentricGroupShowsNoMoment) {
+    WeldBench bench;
+    bench.state.ResumeRequested = true;
+    bench.state.SavedRo = 77;
+    Coefficient(bench, 1, 10, 0, 40, 90);
+    EXPECT_EQ(bench.display.steps, 1);
+    EXPECT_TRUE(
+        bench.display.text.starts_with(" -> Ro    = 0.00000 [Rotated 90°]\r\n    Fy[v] = "));
+    EXPECT_TRUE(bench.display.text.ends_with("    Fy[m] = N.A."));
+}
+
+TEST(SolveWeldGroup, StopAndResumeContinueFromTheSavedCentre) {
+    const auto converge = [](WeldBench& bench) { return Coefficient(bench, 6, 10, 5, 8, 0); };
+    WeldBench whole;
+    const double C = converge(whole);
+    const long passes = whole.display.steps - 1;
+    ASSERT_GT(passes, 10);
+
+    WeldBench stopped;
+    stopped.display.onStep = [&] { stopped.state.StopRequested = stopped.display.steps == 5; };
+    converge(stopped);
+    EXPECT_EQ(stopped.display.steps, 6);
+    EXPECT_GT(stopped.state.SavedRo, 0);
+
+    WeldBench resumed;
+    resumed.state.ResumeRequested = true;
+    resumed.state.SavedRo = stopped.state.SavedRo;
+    EXPECT_DOUBLE_EQ(converge(resumed), C);
+    EXPECT_EQ(resumed.display.steps - 1, passes - 5);
+
+    // A stop in the last pass comes too late: the centre saved stays the older one.
+    WeldBench late;
+    late.state.SavedRo = 1.5;
+    late.display.onStep = [&] { late.state.StopRequested |= late.display.steps == passes; };
+    EXPECT_DOUBLE_EQ(converge(late), C);
+    EXPECT_TRUE(late.state.StopRequested);
+    EXPECT_EQ(late.state.SavedRo, 1.5);
+}
+
+TEST(SolveWeldGroup, ASearchIsGivenUpAtAnyDepth) {
+    for (const long most : {1L, 3L, 7L, 100L, 1000L, 1500L, 5000L}) {
+        WeldBench bench;
+        bench.turn.most = most;
+        EXPECT_THROW(Coefficient(bench, 8, 10, 5, 8, 20), SearchAbandoned);
+        EXPECT_EQ(bench.turn.asked, most);
+        EXPECT_FALSE(bench.state.StopRequested);
+    }
+}
+
+TEST(SolveWeldGroup, NegativeBaseNeverConvergesAndStops) {
+    WeldBench bench;
+    bench.display.onStep = [&] { bench.state.StopRequested = bench.display.steps == 40; };
+    EXPECT_TRUE(std::isfinite(Coefficient(bench, 2, -10, 5, 4, 0)));
+    EXPECT_EQ(bench.display.steps, 41);
+}
+
+TEST(SolveWeldGroup, AbsurdNumbersFailOrEndOrCanBeGivenUp) {
+    WeldBench none;
+    EXPECT_THROW(Coefficient(none, 1, 0, 0, 4, 0), Failure);
+    EXPECT_THROW(Coefficient(none, 2, 1e-308, 5, 4, 0), Failure);
+    EXPECT_THROW(Coefficient(none, 2, 1e-10, 1e300, 4, 0), Failure);
+    EXPECT_EQ(none.turn.asked, 0);
+    struct Row {
+        double L, kL, aL, angle;
+    };
+    for (const Row& row : {Row{1e300, 5, 4, 0}, Row{10, 1e300, 4, 0}, Row{10, 5, 1e300, 0},
+                           Row{10, 5, 4, 1e308}, Row{1e300, 1e300, 1e300, 45}, Row{1e9, 5, 4, 0}}) {
+        for (const int item : {2, 4, 8}) {
+            WeldBench bench;
+            bench.turn.most = 20'000;
+            try {
+                EXPECT_TRUE(
+                    std::isfinite(Coefficient(bench, item, row.L, row.kL, row.aL, row.angle)));
+            } catch (const SearchAbandoned&) {
+                EXPECT_EQ(bench.turn.asked, bench.turn.most);
+            }
+        }
+    }
+}
+
+TEST(WeldLines, AreOrderedAndTheShortOnesDropped) {
+    WeldBench bench;
+    std::vector<WeldLine> lines{{5, 9, 5, 1}, {4, 2, 1, 2}, {0, 0, 0.1, 0}, {0, 0, 0, 0.11}};
+    NormalizeWeldLines(lines, bench.yield);
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[0].y1, 1);
+    EXPECT_EQ(lines[1].x1, 1);
+    EXPECT_EQ(lines[2].y2, 0.11);
+    EXPECT_EQ(bench.turn.asked, 4);
+    EXPECT_LT(WeldLineAngle({0, 0, -3, 4}), 0);
+    EXPECT_EQ(WeldLineAngle({2, 0, 2, 4}), Plain::TruncatedPi / 2);
+}
+
+TEST(WeldConfigurations, CentroidsInClosedForm) {
+    constexpr double L = 10;
+    struct Row {
+        int item;
+        double kL, xL, yL;
+    };
+    const Row rows[] = {
+        {1, 6, 0, 5},
+        {2, 6, 3, 5},
+        {3, 6, 5, 3},
+        {4, 6, 3, 5},
+        {5, 6, 5, 3},
+        {6, 6, 6.0 * 6 / 22, 5},
+        {7, 6, 6.0 * 6 / 22, 5},
+        {8, 6, 6.0 * 3 / 16, 10 * 5.0 / 16},
+        {9, 6, 6.0 * 3 / 16, 10 * 5.0 / 16},
+        {8, 10, 2.5, 2.5},
+        {6, 0, 0, 5},
+        {9, 0, 0, 5},
+    };
+    WeldBench bench;
+    for (const double unit : {1.0, 25.4}) {
+        for (const Row& row : rows) {
+            const auto of = [&](std::int16_t mode) {
+                return WeldConfigurationResult(row.item, L * unit, row.kL * unit, 0, 0, mode,
+                                               bench.search);
+            };
+            EXPECT_NEAR(of(WeldModeXL), row.xL * unit, 1e-12 * unit) << row.item;
+            EXPECT_NEAR(of(WeldModeYL), row.yL * unit, 1e-12 * unit) << row.item;
+            EXPECT_EQ(of(3), 0);
+        }
+    }
+}
+
+TEST(WeldConfigurations, DoubleAndSingleLinesWithoutALeg) {
+    const auto of = [](int item, double kL) {
+        WeldBench bench;
+        return Coefficient(bench, item, 10, kL, 3, 0);
+    };
+    const double twice = of(1, 4);
+    EXPECT_EQ(of(2, 0), twice);
+    EXPECT_EQ(of(4, 0), twice);
+    for (const int item : {6, 8, 9})
+        EXPECT_NEAR(of(item, 0) * 2, twice, 0.05) << item;
+}
+
+// Item 7 alone is shown, and converges, in scaled units.
+TEST(WeldConfigurations, OneItemIsShownScaled) {
+    const auto shown = [](int item) {
+        WeldBench bench;
+        Coefficient(bench, item, 10, 5, 0, 0);
+        const std::string label = "Fy[v] = ";
+        return std::stod(bench.display.text.substr(bench.display.text.find(label) + label.size()));
+    };
+    EXPECT_NEAR(shown(7), 10 * shown(6), 1e-3);
+}
+
+TEST(IterationReport, OneStepInItsWords) {
+    RecordingDisplay display;
+    WeldState state;
+    display.text = "  ";
+    display.now = 1'000;
+    state.IterationStart = 995;
+    state.LastClearTime = 995;
+    ShowIterationStep(22.5, 12.5, 100, -50, 12.5, false, state, display);
+    const std::string first = "   -> Ro    = 1.00000 [Rotated 22.5°]\r\n    Fy[v] = 8.0000\r\n"
+                              "    Fy[m] = -4.0000";
+    EXPECT_EQ(display.text, first);
+    EXPECT_EQ(display.elapsed, "Iteration Time »  00h:00m:05s ");
+    display.now = 1'010; // 15 seconds don't clear yet
+    ShowIterationStep(0, 0, 0, 0, 1, true, state, display);
+    EXPECT_TRUE(display.text.starts_with(first + "\r\n\r\n -> Ro"));
+    display.now = 1'011;
+    ShowIterationStep(0, 0, 0, 0, 1, true, state, display);
+    EXPECT_TRUE(display.text.starts_with(
+        "**Previous Iteration DELETED...[1]\r\n[Iteration Display is cleared every\r\n15 sec. to "
+        "maintain iteration speed]\r\n\r\n -> Ro    = 0.00000 [Rotated 0°]\r\n"));
+    EXPECT_EQ(state.ClearCount, 1);
+    EXPECT_EQ(state.ElapsedSeconds, 16);
+}
+
+TEST(IterationReport, TimesAreCutFromFractions) {
+    EXPECT_EQ(FormatIterationTime(0), "00h:00m:00s ");
+    EXPECT_EQ(FormatIterationTime(59), "00h:00m:59s ");
+    EXPECT_EQ(FormatIterationTime(125), "00h:02m:05s ");
+    EXPECT_EQ(FormatIterationTime(3'725), "01h:02m:05s ");
+    EXPECT_EQ(FormatIterationTime(3'660), "01h:00m:00s "); // a minute short, as ever
+    EXPECT_EQ(FormatIterationTime(360'000), "100h:00m:00s ");
+}
+
+} // namespace
+} // namespace Tensarix
