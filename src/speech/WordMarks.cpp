@@ -10,6 +10,11 @@ bool Is_Blank(char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == 0x7F;
 }
 
+// Words stand between blanks, or between the colons that make a pause.
+bool Is_Break(char c) {
+    return Is_Blank(c) || c == ':';
+}
+
 // Letters and digits; every byte of a character beyond ASCII counts as one.
 bool Is_Speakable(char c) {
     const auto byte = static_cast<unsigned char>(c);
@@ -39,8 +44,8 @@ void Append_Escaped(std::string& line, char c) {
 std::vector<WordPlace> Words_Of(std::string_view text) {
     std::vector<WordPlace> words;
     auto from = text.begin();
-    while ((from = std::find_if_not(from, text.end(), Is_Blank)) != text.end()) {
-        const auto to = std::find_if(from, text.end(), Is_Blank);
+    while ((from = std::find_if_not(from, text.end(), Is_Break)) != text.end()) {
+        const auto to = std::find_if(from, text.end(), Is_Break);
         const auto first = std::find_if(from, to, Is_Speakable);
         auto last = to;
         while (last != first && !Is_Speakable(*(last - 1)))
@@ -56,7 +61,7 @@ std::vector<WordPlace> Words_Of(std::string_view text) {
 std::string Marked_Text(std::string_view text, const std::vector<WordPlace>& words) {
     // A mark stands before the whole piece: between a sign and its number it would tear them apart.
     const auto piece = [text](std::size_t at) {
-        while (at > 0 && !Is_Blank(text[at - 1]))
+        while (at > 0 && !Is_Break(text[at - 1]))
             --at;
         return at;
     };

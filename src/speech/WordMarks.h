@@ -12,8 +12,8 @@ struct WordPlace {
     std::size_t At = 0, Length = 0; // bytes of the text
 };
 
-// The words of a text, in order: what stands between blanks, without the punctuation around it.
-// What is nothing but punctuation is no word.
+// The words of a text, in order: what stands between blanks or colons, without the punctuation
+// around it. What is nothing but punctuation is no word.
 std::vector<WordPlace> Words_Of(std::string_view text);
 
 // The text in one line of SSML (Speech Synthesis Markup Language, W3C), with a mark named 0, 1,

@@ -28,8 +28,8 @@ TEST(WordMarks, WordsAndMarkup) {
          "<mark name=\"0\"/>AREA = <mark name=\"1\"/>98.50 <mark name=\"2\"/>SQUARE "
          "<mark name=\"3\"/>INCHES :: <mark name=\"4\"/>area"},
         {"(one), two.:::three",
-         {"one", "two.:::three"},
-         "<mark name=\"0\"/>(one), <mark name=\"1\"/>two.:::three"},
+         {"one", "two", "three"},
+         "<mark name=\"0\"/>(one), <mark name=\"1\"/>two.:::<mark name=\"2\"/>three"},
         {"a<b & \"c\"\r\n.\n\x01-5",
          {"a<b", "c", "5"},
          "<mark name=\"0\"/>a&lt;b &amp; <mark name=\"1\"/>\"c\"  .  <mark name=\"2\"/>-5"},
