@@ -2,11 +2,8 @@
 #include "StandIns.h"
 #include "shell/AboutFrm.h"
 #include "shell/MainFrm.h"
-#include "shell/Version.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
