@@ -1,6 +1,7 @@
 // Drives the real program through its screens without a display and saves a picture of each:
 //   picture_tour FOLDER
 // The user's own settings and data are left alone.
+#include "window/AboutForm.h"
 #include "window/GridView.h"
 #include "window/Program.h"
 
@@ -53,6 +54,13 @@ class Tour {
         Take(QStringLiteral("browse-si"), program_.Window());
         page.ProfileOption1.Select();
         page.DimOption1.Select();
+    }
+
+    void About(const QString& suffix) {
+        AboutFrm about(program_.Form().Shared);
+        AboutForm form(about, &program_.Window());
+        form.show();
+        Take(QStringLiteral("about") + suffix, form);
     }
 
     void Find(const QString& suffix) {
@@ -167,11 +175,13 @@ int main(int argc, char** argv) {
     tour.View_All({});
     tour.Beam({});
     tour.Popup();
+    tour.About({});
     QApplication::setPalette(Dark_Palette());
     tour.Browse(QStringLiteral("-dark"));
     tour.Find(QStringLiteral("-dark"));
     tour.View_All(QStringLiteral("-dark"));
     tour.Beam(QStringLiteral("-dark"));
+    tour.About(QStringLiteral("-dark"));
     program.Window().close();
     return tour.Failed() ? 1 : 0;
 }

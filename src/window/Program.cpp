@@ -1,6 +1,8 @@
 #include "window/Program.h"
 
+#include "shell/AboutFrm.h"
 #include "shell/Version.h"
+#include "window/AboutForm.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -45,6 +47,10 @@ bool Program::Start() {
 void Program::Show_CalcMainFrm() {}
 void Program::Show_WtCalcsFrm() {}
 void Program::Show_WtCalcsFrmA() {}
-void Program::Show_AboutFrm() {}
+
+void Program::Show_AboutFrm() {
+    AboutFrm about(form_.Shared);
+    AboutForm(about, window_.get()).exec();
+}
 
 } // namespace Tensarix

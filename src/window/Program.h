@@ -2,6 +2,7 @@
 // The picture tour and the window tests drive it as main() does.
 #pragma once
 
+#include "window/DesktopVoice.h"
 #include "window/MainForm.h"
 
 #include <memory>
@@ -30,7 +31,7 @@ class Program final : public Dialogs {
   private:
     IniSettings settings_;
     DesktopClipboard clipboard_;
-    NoVoice voice_;
+    DesktopVoice voice_;
     MessageBoxes messages_;
     SteadyClock clock_;
     DesktopEvents events_;
