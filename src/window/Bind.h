@@ -8,6 +8,7 @@
 class QAbstractButton;
 class QAction;
 class QComboBox;
+class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -27,9 +28,12 @@ Link* Bind(QLineEdit* widget, TextBox& control);
 void Bind(QPushButton* widget, Button& control);
 void Bind(QAbstractButton* widget, OptionButton& control);
 void Bind(QLabel* widget, Label& control);
+void Bind(QGroupBox* widget, Frame& control);
 void Bind(QStackedWidget* widget, TabControl& control);
 // A bar of tabs and the pages that it chooses from. The handler runs before the page changes.
 void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control);
+// The strip's first tab is number 1.
+void Bind(QTabBar* widget, TabControl& control);
 void Bind(QStatusBar* widget, StatusBar& control);
 void Bind(QAction* action, MenuItem& control);
 void Bind(PictureView* widget, Picture& control);

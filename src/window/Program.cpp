@@ -1,6 +1,8 @@
 #include "window/Program.h"
 
+#include "shell/AboutFrm.h"
 #include "shell/Version.h"
+#include "window/AboutForm.h"
 #include "window/WtCalcsForm.h"
 
 #include <QApplication>
@@ -25,7 +27,7 @@ void Program::Prepare_Application() {
 }
 
 Program::Program(const Folders& folders)
-    : machine_{settings_, clipboard_,  voice_,    messages_,        clock_,
+    : machine_{settings_, clipboard_,  voice_,    messages_, clock_,
                events_,   mainWindow_, instance_, folders},
       form_(machine_, *this) {}
 
@@ -42,9 +44,13 @@ bool Program::Start() {
     return true;
 }
 
-// The dialogs are not there yet.
+// The calculator is not there yet.
 void Program::Show_CalcMainFrm() {}
-void Program::Show_AboutFrm() {}
+
+void Program::Show_AboutFrm() {
+    AboutFrm about(form_.Shared);
+    AboutForm(about, window_.get()).exec();
+}
 
 void Program::Show_WtCalcsFrm() {
     WtCalcsFrm form(form_.Shared, savedLengths_);

@@ -4,6 +4,7 @@
 
 #include "weights/WtCalcsFrm.h"
 #include "weights/WtCalcsFrmA.h"
+#include "window/DesktopVoice.h"
 #include "window/MainForm.h"
 
 #include <memory>
@@ -32,7 +33,7 @@ class Program final : public Dialogs {
   private:
     IniSettings settings_;
     DesktopClipboard clipboard_;
-    NoVoice voice_;
+    DesktopVoice voice_;
     MessageBoxes messages_;
     SteadyClock clock_;
     DesktopEvents events_;
