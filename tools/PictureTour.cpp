@@ -1,10 +1,12 @@
 // Drives the real program through its screens without a display and saves a picture of each:
 //   picture_tour FOLDER
 // The user's own settings and data are left alone.
+#include "window/GridView.h"
 #include "window/Program.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QMenu>
 #include <QPalette>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -52,6 +54,38 @@ class Tour {
         page.DimOption1.Select();
     }
 
+    // A compact, a noncompact and a channel section; below and above the boundary span.
+    void Beam(const QString& suffix) {
+        MainFrm& form = program_.Form();
+        BeamPage& page = form.Beam;
+        form.OptButton[static_cast<std::size_t>(Mode::BeamLoad)].Select();
+        page.zShapeFlex.Move_To(13, 1);
+        Take(QStringLiteral("beam-9th") + suffix, program_.Window());
+        page.AppliedCode.Select(Code13thEdition);
+        page.BeamSpanBox.Set_Text("25'-6 1/2\"");
+        page.CFactor.Set_Text("15.00");
+        Take(QStringLiteral("beam-13th") + suffix, program_.Window());
+        page.CodeOpt[1].Select();
+        page.zShapeType.Select(FirstChannelFamily);
+        Take(QStringLiteral("beam-channel") + suffix, program_.Window());
+        page.AppliedCode.Select(Code9thEdition);
+        page.zShapeType.Select(1);
+        Take(QStringLiteral("beam-m") + suffix, program_.Window());
+        page.zShapeType.Select(0);
+        form.OptButton[0].Select();
+    }
+
+    void Popup() {
+        program_.Window().findChild<GridView*>(QStringLiteral("ShapeFlex"))->setFocus();
+        FlexGrid& grid = program_.Form().Browse.ShapeFlex;
+        grid.Press(3, 1);
+        grid.Extend_To(5, 2);
+        Run(grid.OnPopup);
+        auto* menu = program_.Window().findChild<QMenu*>(QStringLiteral("mnuEdit1"));
+        Take(QStringLiteral("popup"), *menu);
+        menu->close();
+    }
+
     bool Failed() const { return failed_; }
 
   private:
@@ -89,8 +123,11 @@ int main(int argc, char** argv) {
     Tour tour(program, QString::fromLocal8Bit(argv[1]));
     tour.Browse({});
     tour.Browse_Units();
+    tour.Beam({});
+    tour.Popup();
     QApplication::setPalette(Dark_Palette());
     tour.Browse(QStringLiteral("-dark"));
+    tour.Beam(QStringLiteral("-dark"));
     program.Window().close();
     return tour.Failed() ? 1 : 0;
 }

@@ -54,6 +54,8 @@ void OptionButton::Select() {
     Run(OnClick);
 }
 
+void Frame::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
+
 void ComboBox::Clear() {
     items_.clear();
     text_.clear();

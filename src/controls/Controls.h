@@ -78,6 +78,18 @@ class OptionButton {
     bool value_ = false;
 };
 
+// What stands around a group; the controls inside can't be used while it is disabled.
+class Frame {
+  public:
+    View Shown;
+
+    bool Enabled() const { return enabled_; }
+    void Enable(bool enabled);
+
+  private:
+    bool enabled_ = true;
+};
+
 // A drop-down list, or one that can be typed in as well.
 class ComboBox {
   public:

@@ -1,6 +1,7 @@
 #include "shell/MainFrm.h"
 
 #include "common/Failure.h"
+#include "common/NumberText.h"
 #include "shell/Version.h"
 
 namespace Tensarix {
@@ -24,7 +25,15 @@ std::string Window_Caption() {
 }
 
 MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
-    : Shared(machine), Browse(Shared), dialogs_(dialogs) {
+    : Shared(machine), Browse(Shared), Beam(Shared), mnuEdit1(Shared, SelectionTab,
+                                                              {
+                                                                  &Browse.ShapeFlex,
+                                                                  nullptr,
+                                                                  nullptr,
+                                                                  &Beam.zShapeFlex,
+                                                                  nullptr,
+                                                              }),
+      dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
     for (int i = 0; i < ModeCount; ++i) {
         OptionButton& button = OptButton[static_cast<std::size_t>(i)];
@@ -71,6 +80,8 @@ void MainFrm::StartUp() {
     Start_Options();
     FillFamilyList(Browse.ShapeType);
     Attempt([&] { Browse.ShapeType.Select(Shared.Saved.Position(Setting::ShapeType)); });
+    Beam.Start_Families();
+    Beam.Start_Inputs();
     Shared.Show_No_Selection();
 }
 
@@ -97,6 +108,8 @@ void MainFrm::OptButton_Click(int index) {
     Shared.GridClicked = false;
     Shared.Show_No_Selection();
     SelectionTab.Select(index);
+    if (static_cast<Mode>(index) == Mode::BeamLoad)
+        Beam.AppliedCode_Click();
 }
 
 void MainFrm::Open_Dialog(void (Dialogs::*show)()) {
@@ -121,7 +134,9 @@ void MainFrm::mnuReadOut_Click() {
     Shared.Host.Speech.Speak(""); // silence, also when it has just been switched off
 }
 
-void MainFrm::Resized() { Shared.Host.Window.Set_On_Top(Shared.OnTop); }
+void MainFrm::Resized() {
+    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+}
 
 void MainFrm::Activated() {
     Shared.Host.Window.Set_On_Top(Shared.OnTop);
@@ -132,6 +147,7 @@ void MainFrm::Query_Unload() {
     Save_Families();
     Save_Sizes();
     Save_Options();
+    Save_Span();
     Shared.Say("");
 }
 
@@ -145,6 +161,9 @@ void MainFrm::Save_Sizes() {
     if (Browse.ShapeType.ListIndex() >= 0)
         saved.Save(Setting::ShapeSize, std::to_string(Browse.ShapeType.ListIndex()),
                    std::to_string(Browse.ShapeSizeUS.ListIndex()));
+    if (Beam.zShapeType.ListIndex() >= 0)
+        saved.Save(Setting::zShapeSize, std::to_string(Beam.zShapeType.ListIndex()),
+                   std::to_string(Beam.zShapeSizeUS.ListIndex()));
 }
 
 void MainFrm::Save_Options() {
@@ -153,6 +172,11 @@ void MainFrm::Save_Options() {
     };
     save(Setting::ProfileOption, Browse.ProfileOption1);
     save(Setting::DimOption, Browse.DimOption1);
+}
+
+void MainFrm::Save_Span() {
+    if (const std::optional<double> feet = Beam.Typed_Span())
+        Shared.Saved.Save(Setting::BeamSpan, General_Text(*feet));
 }
 
 } // namespace Tensarix

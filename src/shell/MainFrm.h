@@ -1,19 +1,18 @@
 // The main window without a toolkit: start-up, the five modes, the menu, the end.
 #pragma once
 
+#include "beam/BeamPage.h"
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
 #include "shell/Dialogs.h"
+#include "shell/GridPopup.h"
+#include "shell/Modes.h"
 
 #include <array>
 #include <string>
 
 namespace Tensarix {
-
-// The five modes; a mode's number is that of its button and of its tab.
-enum class Mode { Browse, Find, ViewAll, BeamLoad, Connection };
-inline constexpr int ModeCount = 5;
 
 class MainFrm {
   public:
@@ -24,6 +23,9 @@ class MainFrm {
     TabControl SelectionTab;
 
     BrowsePage Browse;
+    BeamPage Beam;
+
+    GridPopup mnuEdit1; // of the pages' grids
 
     MenuItem mnuCalc, mnuWtCalc, mnuWtCalcA, mnuTerminate;
     MenuItem mnuOnTop, mnuReadOut;
@@ -53,6 +55,7 @@ class MainFrm {
     void Save_Families();
     void Save_Sizes();
     void Save_Options();
+    void Save_Span();
 
     Dialogs& dialogs_;
 };

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -267,6 +269,19 @@ void Bind(QLabel* widget, Label& control) {
         widget->setText(To_Qt(control.Caption()));
         widget->setToolTip(To_Qt(control.Remark()));
     });
+}
+
+void Bind(QGroupBox* widget, Frame& control) {
+    new Link(widget, control.Shown, [widget, &control] { widget->setEnabled(control.Enabled()); });
+}
+
+void Bind(QTabBar* widget, TabControl& control) {
+    auto* link = new Link(widget, control.Shown, [widget, &control] {
+        const QSignalBlocker quiet(widget);
+        widget->setCurrentIndex(control.Tab() - 1);
+    });
+    QObject::connect(widget, &QTabBar::currentChanged, link,
+                     [&control](int index) { control.Select(index + 1); });
 }
 
 void Bind(QStackedWidget* widget, TabControl& control) {

@@ -174,7 +174,8 @@ void GridView::Place_Frozen() {
     verticalHeader()->setVisible(width > 0);
     verticalHeader()->setFixedWidth(std::max(width, 1));
     frozen_->setVisible(width > 0);
-    const int head = horizontalHeader()->isVisible() ? horizontalHeader()->height() : 0;
+    // Not "visible": a page that isn't shown yet is measured as well.
+    const int head = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
     frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + head);
     frozen_->raise();
 }
@@ -224,10 +225,7 @@ void GridView::Reveal_Current() {
 bool GridView::Go_To(int row, int col, bool extend) {
     row = std::clamp(row, grid_->FixedRows(), grid_->Rows() - 1);
     col = std::clamp(col, 0, grid_->Cols() - 1);
-    if (extend)
-        grid_->Extend_To(row, col);
-    else
-        grid_->Move_To(row, col);
+    grid_->Go_To(row, col, extend);
     Reveal_Current();
     return true;
 }
