@@ -131,6 +131,11 @@ void FlexGrid::Set_RowHeightMin(double twips) {
     Layout_Changed();
 }
 
+void FlexGrid::Set_WordWrap(bool wordWrap) {
+    wordWrap_ = wordWrap;
+    Layout_Changed();
+}
+
 double FlexGrid::ColWidth(int col) const {
     const double width = widths_[At(0, col)];
     return width < 0 ? standardWidth : width;

@@ -80,6 +80,9 @@ class FlexGrid {
     double RowHeight(int row) const;
     void Set_RowHeight(int row, double twips);
     void Set_RowHeightMin(double twips);
+    // Heads that are wider than their column go on in the next line.
+    bool WordWrap() const { return wordWrap_; }
+    void Set_WordWrap(bool wordWrap);
     double ColWidth(int col) const;
     void Set_ColWidth(int col, double twips);
 
@@ -135,6 +138,7 @@ class FlexGrid {
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
     int topRow_ = 1, leftCol_ = 1;
     double heightMin_ = 0;
+    bool wordWrap_ = false;
     Placement place_;
     unsigned layoutVersion_ = 0;
 };

@@ -25,13 +25,13 @@ std::string Window_Caption() {
 }
 
 MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
-    : Shared(machine), Browse(Shared), Beam(Shared), mnuEdit1(Shared, SelectionTab,
+    : Shared(machine), Browse(Shared), Beam(Shared), Design(Shared), mnuEdit1(Shared, SelectionTab,
                                                               {
                                                                   &Browse.ShapeFlex,
                                                                   nullptr,
                                                                   nullptr,
                                                                   &Beam.zShapeFlex,
-                                                                  nullptr,
+                                                                  &Design.Bolts.cFlex,
                                                               }),
       dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
@@ -82,7 +82,7 @@ void MainFrm::StartUp() {
     Attempt([&] { Browse.ShapeType.Select(Shared.Saved.Position(Setting::ShapeType)); });
     Beam.Start_Families();
     Beam.Start_Inputs();
-    Shared.Show_No_Selection();
+    Design.Start();
 }
 
 void MainFrm::Start_Flags() {
@@ -107,6 +107,10 @@ void MainFrm::OptButton_Click(int index) {
     }
     Shared.GridClicked = false;
     Shared.Show_No_Selection();
+    if (static_cast<Mode>(index) == Mode::Connection)
+        Design.Show_Selection();
+    else
+        Design.Leave();
     SelectionTab.Select(index);
     if (static_cast<Mode>(index) == Mode::BeamLoad)
         Beam.AppliedCode_Click();
@@ -144,10 +148,12 @@ void MainFrm::Activated() {
 }
 
 void MainFrm::Query_Unload() {
+    Design.Request_Stop();
     Save_Families();
     Save_Sizes();
     Save_Options();
     Save_Span();
+    Design.Save_Settings();
     Shared.Say("");
 }
 

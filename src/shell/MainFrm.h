@@ -2,6 +2,7 @@
 #pragma once
 
 #include "beam/BeamPage.h"
+#include "connections/DesignPage.h"
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
@@ -24,6 +25,7 @@ class MainFrm {
 
     BrowsePage Browse;
     BeamPage Beam;
+    DesignPage Design;
 
     GridPopup mnuEdit1; // of the pages' grids
 
