@@ -12,6 +12,7 @@
 #include <QItemSelection>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -137,14 +138,16 @@ void GridView::Measure_Columns() {
     frozen_->horizontalHeader()->setFixedHeight(height);
 }
 
-// The names in a fixed column are never cut, nor are the heads.
+// The names in a fixed column are never cut, nor are the heads, or their words where they wrap.
 int GridView::Fitting_Width(int col) const {
+    static const QRegularExpression words(QStringLiteral("\\s")), lines(QStringLiteral("\n"));
     int width = 0;
     for (int row = 0; row < grid_->Rows(); ++row) {
         if (col >= grid_->FixedCols() && row >= grid_->FixedRows())
             break;
         for (const QString& line :
-             QString::fromStdString(grid_->Text(row, col)).split(QLatin1Char('\n')))
+             QString::fromStdString(grid_->Text(row, col))
+                 .split(row < grid_->FixedRows() && grid_->WordWrap() ? words : lines))
             width = std::max(width, fontMetrics().horizontalAdvance(line));
     }
     return width == 0 ? 0 : width + cellMargin;
