@@ -120,9 +120,9 @@ class Tour {
         WeldPage& welds = page.Welds;
         program_.Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
         page.DesignSSTab.Select(WeldTab);
-        welds.WeldView.Click(6);
+        welds.WeldView.Click(5);
         Take(QStringLiteral("weld-before") + suffix, program_.Window());
-        Type_Row(welds.WeldFlex, welds.EdiTxtA, 0, 1, {"10", "5", "8", "30"}, true);
+        Type_Row(welds.WeldFlex, welds.EdiTxtA, 0, 1, {"10", "5", "0.5", "45"}, true);
         QTimer::singleShot(300, [&] {
             Take(QStringLiteral("weld-during") + suffix, program_.Window());
             welds.StopIterationButton.Click();

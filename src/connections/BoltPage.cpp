@@ -115,7 +115,7 @@ void BoltPage::Save_Settings() const {
 }
 
 void BoltPage::Init_cFlex() {
-    const double widths[BoltColumn::Count] = {550, 1450, 1450, 1250, 1250, 1250, 1450, 1350, 1350};
+    const double widths[BoltColumn::Count] = {600, 1700, 1700, 1550, 1550, 1550, 1700, 1750, 1750};
     const char* heads[BoltColumn::Count] = {"No.",
                                             "Number of Bolt Rows on the Vertical",
                                             "Number of Bolt Rows on the Horizontal",
@@ -181,7 +181,7 @@ void BoltPage::LoadBoltEntries() {
     }
 }
 
-void BoltPage::Show_Values() {
+void BoltPage::Show_Selected() {
     const int row = cFlex.Row();
     const auto text = [this, row](int col) -> const std::string& { return cFlex.Text(row, col); };
     for (int i = 0; i < ccFlex.Rows(); ++i)
@@ -190,11 +190,7 @@ void BoltPage::Show_Values() {
         const int col = BoltColumn::ex + i;
         xxFlex.Set_Text(i, 1, With_Blanks(text(col), col == BoltColumn::Angle ? "°  " : "  "));
     }
-}
-
-void BoltPage::Show_Selected() {
-    Show_Values();
-    desk_.StatBar.Set_Remark(cFlex.Remark(cFlex.Row(), BoltColumn::C));
+    RowRemark.Set_Caption(cFlex.Remark(row, BoltColumn::C));
 }
 
 // Each number of its own; one that is out of range stays 0.
@@ -226,12 +222,8 @@ void BoltPage::Calculate_C(int row) {
             return; // the program is closing, or the row is no longer what it was
         }
     }
-    if (row != cFlex.Row())
-        return;
-    Show_Values();
-    // Not while another page uses the status bar.
-    if (desk_.StatBar.Remark() == computingRemark)
-        desk_.StatBar.Set_Remark(cFlex.Remark(row, BoltColumn::C));
+    if (row == cFlex.Row())
+        Show_Selected();
 }
 
 double BoltPage::Search(int row, const Inputs& inputs, unsigned search) {

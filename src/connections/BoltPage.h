@@ -38,6 +38,7 @@ class BoltPage {
   public:
     FlexGrid cFlex;          // the table
     FlexGrid ccFlex, xxFlex; // the current row once more
+    Label RowRemark;         // what is to be said about it
     TextBox EdiTxt;          // over the cell that is being edited
     Button AddRowButton, RemRowButton, SaveButton, ClearButton;
 
@@ -64,8 +65,7 @@ class BoltPage {
     };
 
     void Add_Editing();
-    void Show_Selected(); // the current row in the small grids, its remark in the status bar
-    void Show_Values();
+    void Show_Selected(); // the current row in the small grids
     void Take_Row_Count();
     void Lay_Out_Row(int row);
     void AddRow_Click();

@@ -15,10 +15,10 @@ namespace {
 
 // A small grid shows all its rows.
 void Fit_Rows(GridView* view, const FlexGrid& grid) {
-    double height = 0;
+    long height = 0;
     for (int row = 0; row < grid.Rows(); ++row)
-        height += std::ceil(grid.RowHeight(row) * view->Twip_Scale());
-    view->setFixedHeight(static_cast<int>(height) + 2 * view->frameWidth() + 1);
+        height += std::lround(grid.RowHeight(row) * view->Twip_Scale());
+    view->setFixedHeight(static_cast<int>(height) + 2 * view->frameWidth());
     view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
@@ -34,6 +34,7 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     Bind(ui.xxFlex, page.xxFlex);
     Fit_Rows(ui.ccFlex, page.ccFlex);
     Fit_Rows(ui.xxFlex, page.xxFlex);
+    Bind(ui.RowRemark, page.RowRemark);
     Bind(ui.AddRowButton, page.AddRowButton);
     Bind(ui.RemRowButton, page.RemRowButton);
     Bind(ui.SaveButton, page.SaveButton);
