@@ -122,7 +122,7 @@ class Tour {
         page.DesignSSTab.Select(WeldTab);
         welds.WeldView.Click(5);
         Take(QStringLiteral("weld-before") + suffix, program_.Window());
-        Type_Row(welds.WeldFlex, welds.EdiTxtA, 0, 1, {"10", "5", "0.5", "45"}, true);
+        Type_Row(welds.WeldFlex, welds.EdiTxtA, 0, 1, {"100", "50", "5", "45"}, true);
         QTimer::singleShot(300, [&] {
             Take(QStringLiteral("weld-during") + suffix, program_.Window());
             welds.StopIterationButton.Click();
