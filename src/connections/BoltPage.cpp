@@ -115,7 +115,7 @@ void BoltPage::Save_Settings() const {
 }
 
 void BoltPage::Init_cFlex() {
-    const double widths[BoltColumn::Count] = {600, 1700, 1700, 1550, 1550, 1550, 1700, 1750, 1750};
+    const double widths[BoltColumn::Count] = {550, 1550, 1600, 1400, 1450, 1450, 1550, 1650, 1650};
     const char* heads[BoltColumn::Count] = {"No.",
                                             "Number of Bolt Rows on the Vertical",
                                             "Number of Bolt Rows on the Horizontal",
@@ -255,8 +255,8 @@ void BoltPage::Empty_Results(int row) {
 }
 
 void BoltPage::AddRow_Click() {
-    if (cFlex.Rows() > MostBoltRows)
-        return; // a further row could not be saved
+    if (!Commit_Editor() || cFlex.Rows() > MostBoltRows)
+        return; // closing, or a further row could not be saved
     BoltRowCount_ = BoltRowCount_ + 1;
     cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
     const int row = cFlex.Rows() - 1;

@@ -38,7 +38,7 @@ WeldPage::WeldPage(Desk& desk)
     StopIterationButton.OnClick = [this] { StopIteration_Click(); };
     ClearDisplayButton.OnClick = [this] { ClearDisplay_Click(); };
     WeldView.OnItemClick = [this] { WeldView_Click(); };
-    WeldStripBox.OnChange = [this] { WeldStripIndex_ = WeldStripBox.ListIndex(); };
+    WeldStripBox.OnChange = [this] { WeldStripBox_Change(); };
     Add_Editing();
 }
 
@@ -186,6 +186,11 @@ void WeldPage::UpdateWeldCentroids() {
 void WeldPage::Show_Centroid(int row, std::string text, Alignment alignment) {
     WeldFlex.Set_Style(row, 1, {.Align = alignment});
     WeldFlex.Set_Text(row, 1, std::move(text));
+}
+
+void WeldPage::WeldStripBox_Change() {
+    if (WeldStripBox.ListIndex() >= 0)
+        WeldStripIndex_ = WeldStripBox.ListIndex();
 }
 
 void WeldPage::StartIteration_Click() {

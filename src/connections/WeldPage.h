@@ -73,6 +73,7 @@ class WeldPage {
     bool Can_Edit(int row, int col) const;
 
     void WeldView_Click();
+    void WeldStripBox_Change();
     void Committed(const std::string& before);
     void StartIteration_Click();
     void StopIteration_Click();

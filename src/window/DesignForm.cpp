@@ -13,6 +13,8 @@ namespace Tensarix {
 
 namespace {
 
+constexpr int remarkLines = 4;
+
 // A small grid shows all its rows.
 void Fit_Rows(GridView* view, const FlexGrid& grid) {
     long height = 0;
@@ -57,6 +59,8 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.ElapsedIndicator, page.ElapsedIndicator);
     Bind(ui.CBox, page.CBox);
     Bind(ui.CRemark, page.CRemark);
+    // Its room is kept, so that nothing moves when a run ends.
+    ui.CRemark->setMinimumHeight(remarkLines * ui.CRemark->fontMetrics().lineSpacing());
     Bind(ui.StartIterationButton, page.StartIterationButton);
     Bind(ui.StopIterationButton, page.StopIterationButton);
     Bind(ui.ClearDisplayButton, page.ClearDisplayButton);

@@ -295,6 +295,24 @@ TEST_F(BoltPageTest, ARowRemovedWhileItIsComputed) {
         EXPECT_EQ(Cell(16, col), "") << col;
 }
 
+// A click on the last row commits first; by the time the row is gone.
+TEST_F(BoltPageTest, TheRowThatIsGoneToIsRemovedMeanwhile) {
+    BoltPage& p = Start();
+    p.AddRowButton.Click();
+    Type_Row(1, {"6", "2", "3", "3", "6"});
+    p.cFlex.Move_To(1, 6);
+    p.cFlex.OnKeyDown(Keys::F2);
+    p.EdiTxt.Set_Text("75");
+    machine.Events.OnYield = [&] {
+        p.RemRowButton.Click();
+        return true;
+    };
+    p.cFlex.Press(16, 1);
+    EXPECT_EQ(p.cFlex.Rows(), 16);
+    EXPECT_EQ(p.cFlex.Row(), 1);
+    EXPECT_EQ(Cell(1, 7), "12.000  ");
+}
+
 TEST_F(BoltPageTest, ClosingEndsSearchesAtAnyDepthAndShowsNoMessage) {
     BoltPage& p = Start();
     Type_Row(2, sixInLine);

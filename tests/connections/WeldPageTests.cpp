@@ -177,9 +177,11 @@ TEST_F(WeldPageTest, NumbersThatFailLeaveNoButtonsRunning) {
         EXPECT_EQ(p.CBox.Text(), "");
         EXPECT_EQ(Buttons(), idle);
     }
-    p.WeldFlex.Set_Text(0, 1, "1E999");
-    p.StartIterationButton.Click();
-    EXPECT_EQ(Buttons(), idle);
+    for (const char* L : {"1E999", "1E300", "-1E300"}) {
+        p.WeldFlex.Set_Text(0, 1, L);
+        p.StartIterationButton.Click();
+        EXPECT_EQ(Buttons(), idle) << L;
+    }
 }
 
 TEST_F(WeldPageTest, StopAndResumeGoOnFromTheSavedCentre) {
@@ -258,6 +260,11 @@ TEST_F(WeldPageTest, WhatHappensBeforeTheStopIsSeen) {
     EXPECT_EQ(Report().find("**"), Report().rfind("**"));
 
     after_stop([&] { Type(WeldRow::aL, "9"); }); // its result would be of the old inputs
+    EXPECT_EQ(Report() + p.CBox.Text(), "");
+    EXPECT_EQ(Buttons(), idle);
+
+    Type(WeldRow::L, "2000000000"); // hours to the pass
+    after_stop([&] { Type(WeldRow::L, "10"); });
     EXPECT_EQ(Report() + p.CBox.Text(), "");
     EXPECT_EQ(Buttons(), idle);
 
