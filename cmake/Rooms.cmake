@@ -54,5 +54,12 @@ function(tensarix_tests name)
     TENSARIX_SOURCE_DIR="${CMAKE_SOURCE_DIR}" TENSARIX_PROGRAM_DIR="${CMAKE_BINARY_DIR}/program")
   target_link_libraries(${name}_tests PRIVATE ${name} ${ARGN} GTest::gtest GTest::gtest_main
     tensarix_flags)
-  add_test(NAME ${name} COMMAND ${name}_tests)
+  tensarix_add_test(${name} ${name}_tests)
+endfunction()
+
+# add_test, and what the sanitizers have to know of the libraries around us.
+function(tensarix_add_test name)
+  add_test(NAME ${name} COMMAND ${ARGN})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+    "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
 endfunction()

@@ -27,7 +27,8 @@ class Tour {
     Tour(Program& program, const QString& folder) : program_(program), folder_(folder) {}
 
     void Take(const QString& name, QWidget& widget) {
-        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(); // takes over the change
+        QCoreApplication::processEvents(); // lays out anew what it has widened
         const QString path = folder_ + QLatin1Char('/') + name + QStringLiteral(".png");
         if (!widget.grab().save(path))
             failed_ = true;
@@ -54,6 +55,45 @@ class Tour {
         Take(QStringLiteral("browse-si"), program_.Window());
         page.ProfileOption1.Select();
         page.DimOption1.Select();
+    }
+
+    void Find(const QString& suffix) {
+        program_.Form().OptButton[1].Select();
+        FindPage& page = program_.Form().Find;
+        Take(QStringLiteral("find-empty") + suffix, program_.Window());
+        page.fPoperty.Select(13);
+        page.fCriterion.Select(4);
+        page.fValue.Set_Text("500");
+        page.FindButton.Click();
+        page.fShapeFlex.Press(2, 15);
+        Take(QStringLiteral("find-zx") + suffix, program_.Window());
+        page.fProfileOption2.Select();
+        Take(QStringLiteral("find-si") + suffix, program_.Window());
+        page.fProfileOption1.Select();
+        page.fShapeType.Select(13);
+        page.fPoperty.Select(24);
+        Take(QStringLiteral("find-no-column") + suffix, program_.Window());
+        page.fShapeType.Select(0);
+    }
+
+    void View_All(const QString& suffix) {
+        program_.Form().OptButton[2].Select();
+        ViewPage& page = program_.Form().ViewAll;
+        for (const int family : {0, 4, 10, 12, 16}) {
+            page.xShapeType.Select(family);
+            page.xShapeFlex.Press(3, 13);
+            Take(QStringLiteral("view-%1%2").arg(family, 2, 10, QLatin1Char('0')).arg(suffix),
+                 program_.Window());
+        }
+        page.xDimOption2.Select();
+        Take(QStringLiteral("view-imperial") + suffix, program_.Window());
+        page.xProfileOption2.Select();
+        page.xShapeFlex.Set_TopRow(200);
+        page.xShapeFlex.Set_LeftCol(5);
+        Take(QStringLiteral("view-si") + suffix, program_.Window());
+        page.xProfileOption1.Select();
+        page.xDimOption1.Select();
+        program_.Form().OptButton[0].Select();
     }
 
     // A compact, a noncompact and a channel section; below and above the boundary span.
@@ -194,12 +234,16 @@ int main(int argc, char** argv) {
     Tour tour(program, QString::fromLocal8Bit(argv[1]));
     tour.Browse({});
     tour.Browse_Units();
+    tour.Find({});
+    tour.View_All({});
     tour.Beam({});
     tour.Popup();
     tour.Bolts({});
     tour.Welds({});
     QApplication::setPalette(Dark_Palette());
     tour.Browse(QStringLiteral("-dark"));
+    tour.Find(QStringLiteral("-dark"));
+    tour.View_All(QStringLiteral("-dark"));
     tour.Beam(QStringLiteral("-dark"));
     tour.Bolts(QStringLiteral("-dark"));
     tour.Welds(QStringLiteral("-dark"));

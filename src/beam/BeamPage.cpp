@@ -236,10 +236,14 @@ void BeamPage::BeamSpanBox_KeyDown(int keyCode) {
 }
 
 void BeamPage::BeamSpanBox_LostFocus() {
+    if (messageOpen_)
+        return; // the focus wanders while the user reads; the text goes back afterwards
     if (Typed_Span()) {
         ModifySpanMode();
     } else {
+        messageOpen_ = true;
         desk_.Host.Boxes.Show("Invalid Distance Input! ", "Warning", MessageIcon::Stop);
+        messageOpen_ = false;
         Load_Span(Length_Text(LastGoodSpan));
     }
     if (Typed_Span())

@@ -96,6 +96,7 @@ class BeamPage {
     double LastGoodSpan = 0; // feet, the last text that was a length
     double span_ = 0;        // feet, in force for the results
     double boundary_ = 0;    // feet
+    bool messageOpen_ = false;
 };
 
 } // namespace Tensarix

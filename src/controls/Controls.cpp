@@ -37,7 +37,7 @@ void Button::Click() const {
         Run(OnClick);
 }
 
-void OptionButton::Group(std::vector<OptionButton*> buttons) {
+void OptionButton::Group(const std::vector<OptionButton*>& buttons) {
     for (OptionButton* button : buttons)
         button->group_ = buttons;
 }
@@ -57,8 +57,12 @@ void OptionButton::Select() {
 void Frame::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
 
 void ComboBox::Clear() {
-    items_.clear();
     text_.clear();
+    Clear_Items();
+}
+
+void ComboBox::Clear_Items() {
+    items_.clear();
     listIndex_ = -1;
     ++itemsVersion_;
     Shown.Changed();

@@ -62,7 +62,7 @@ class OptionButton {
     View Shown;
 
     // The buttons of a group know each other; call once, when the screen is made.
-    static void Group(std::vector<OptionButton*> buttons);
+    static void Group(const std::vector<OptionButton*>& buttons);
 
     const std::string& Caption() const { return caption_; }
     void Set_Caption(std::string caption);
@@ -101,6 +101,8 @@ class ComboBox {
 
     // Empties the list and the text; no handler runs.
     void Clear();
+    // The same, but the text stays.
+    void Clear_Items();
     void Add(std::string item);
     int Count() const { return static_cast<int>(items_.size()); }
     // Fails outside 0 .. Count - 1.

@@ -6,6 +6,8 @@
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
+#include "sections/FindPage.h"
+#include "sections/ViewPage.h"
 #include "shell/Dialogs.h"
 #include "shell/GridPopup.h"
 #include "shell/Modes.h"
@@ -24,6 +26,8 @@ class MainFrm {
     TabControl SelectionTab;
 
     BrowsePage Browse;
+    FindPage Find;
+    ViewPage ViewAll;
     BeamPage Beam;
     DesignPage Design;
 
@@ -50,7 +54,9 @@ class MainFrm {
     void Wire_Menu();
     void Start_Flags();
     void Start_Options();
+    void Start_Families();
     void OptButton_Click(int index);
+    void Show_Count();
     void Open_Dialog(void (Dialogs::*show)());
     void mnuOnTop_Click();
     void mnuReadOut_Click();

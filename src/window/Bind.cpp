@@ -159,6 +159,20 @@ class ComboKeys final : public QObject {
     QElapsedTimer sinceTyped_;
 };
 
+// The wheel passes over what it would change unasked.
+class NoWheel final : public QObject {
+  public:
+    explicit NoWheel(QWidget* widget) : QObject(widget) { widget->installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 // Keys of a text box: every character passes the control's filter first.
 class TextKeys final : public QObject {
   public:
@@ -198,8 +212,12 @@ class TextKeys final : public QObject {
 Link* Bind(QComboBox* widget, ComboBox& control) {
     auto* model = new ItemModel(control, widget);
     widget->setModel(model);
-    if (widget->isEditable())
+    if (widget->isEditable()) {
         widget->setCompleter(nullptr);
+        // By itself the box would choose the item whose text was typed, when the typing ends.
+        for (const auto end : {&QLineEdit::editingFinished, &QLineEdit::returnPressed})
+            QObject::disconnect(widget->lineEdit(), end, widget, nullptr);
+    }
     new ComboKeys(widget, control);
     const auto pull = [widget, model, &control] {
         const QSignalBlocker quiet(widget);
@@ -278,6 +296,7 @@ void Bind(QGroupBox* widget, Frame& control) {
 }
 
 void Bind(QTabBar* widget, TabControl& control) {
+    new NoWheel(widget);
     auto* link = new Link(widget, control.Shown, [widget, &control] {
         const QSignalBlocker quiet(widget);
         widget->setCurrentIndex(control.Tab() - 1);
@@ -329,6 +348,7 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         remark->setText(To_Qt(control.Remark()));
         remark->setToolTip(remark->text());
         count->setText(To_Qt(control.Count()));
+        count->setMinimumWidth(count->sizeHint().width()); // short, and never cut
     });
     Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
 }

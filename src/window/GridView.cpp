@@ -177,7 +177,6 @@ void GridView::Place_Frozen() {
     verticalHeader()->setVisible(width > 0);
     verticalHeader()->setFixedWidth(std::max(width, 1));
     frozen_->setVisible(width > 0);
-    // Not "visible": a page that isn't shown yet is measured as well.
     const int head = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
     frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + head);
     frozen_->raise();
@@ -260,6 +259,11 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     }
     if (event->matches(QKeySequence::Paste)) {
         Run(grid_->OnPaste);
+        return;
+    }
+    // The menu key comes as a context menu event; not every desktop sends one for this.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        Popup_By_Key();
         return;
     }
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
@@ -356,8 +360,12 @@ void GridView::Release(QMouseEvent* event) {
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() != QContextMenuEvent::Keyboard)
-        return; // the mouse opens the popup when its button comes up
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Popup_By_Key();
+    // The mouse opens the popup when its button comes up.
+}
+
+void GridView::Popup_By_Key() {
     popupPoint_ = mapToGlobal(Cell_Rect(grid_->Row(), grid_->Col()).center());
     Run(grid_->OnPopup);
 }

@@ -5,7 +5,9 @@
 #include "window/Bind.h"
 #include "window/BrowseForm.h"
 #include "window/DesignForm.h"
+#include "window/FindForm.h"
 #include "window/PopupMenu.h"
+#include "window/ViewForm.h"
 
 #include <QCloseEvent>
 #include <QEvent>
@@ -42,8 +44,8 @@ MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
     }
     // One page a mode, in their order.
     ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));
-    ui.SelectionTab->addWidget(new QWidget(this));
-    ui.SelectionTab->addWidget(new QWidget(this));
+    ui.SelectionTab->addWidget(Make_Find_Form(form.Find, this));
+    ui.SelectionTab->addWidget(Make_View_Form(form.ViewAll, this));
     ui.SelectionTab->addWidget(Make_Beam_Form(form.Beam, this));
     ui.SelectionTab->addWidget(Make_Design_Form(form.Design, this));
     Bind(ui.SelectionTab, form.SelectionTab);

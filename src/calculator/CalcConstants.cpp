@@ -1,0 +1,132 @@
+#include "calculator/CalcConstants.h"
+
+#include "calculator/CalcDisplay.h"
+#include "calculator/CalcEntry.h"
+#include "calculator/CalcFraction.h"
+#include "common/NumberText.h"
+
+#include <algorithm>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr CalcConstant constants[] = {
+    // CODATA recommended values, 2018 (NIST SP 961, May 2019). The first eleven are exact, the
+    // Planck constant over two pi and the gas constant cut to the digits printed there.
+    {"299792458", "m/s", "c, speed of light in vacuum"},
+    {"6.62607015E-34", "J s", "h, Planck constant"},
+    {"1.054571817E-34", "J s", "h/2pi, reduced Planck constant"},
+    {"1.602176634E-19", "C", "e, elementary charge"},
+    {"1.380649E-23", "J/K", "k, Boltzmann constant"},
+    {"6.02214076E+23", "per mol", "N_A, Avogadro constant"},
+    {"8.314462618", "J/(mol K)", "R, molar gas constant"},
+    {"96485.33212", "C/mol", "F, Faraday constant"},
+    {"5.670374419E-08", "W/(m2 K4)", "sigma, Stefan-Boltzmann constant"},
+    {"9.80665", "m/s2", "g, standard acceleration of gravity"},
+    {"101325", "Pa", "atm, standard atmosphere"},
+    {"6.67430E-11", "m3/(kg s2)", "G, Newtonian constant of gravitation"},
+    {"9.1093837015E-31", "kg", "m_e, electron mass"},
+    {"1.67262192369E-27", "kg", "m_p, proton mass"},
+    {"1.67492749804E-27", "kg", "m_n, neutron mass"},
+    {"1.66053906660E-27", "kg", "u, atomic mass constant"},
+    {"8.8541878128E-12", "F/m", "epsilon_0, vacuum electric permittivity"},
+    {"1.25663706212E-06", "N/A2", "mu_0, vacuum magnetic permeability"},
+    {"376.730313668", "ohm", "Z_0, characteristic impedance of vacuum"},
+    {"7.2973525693E-03", "", "alpha, fine-structure constant"},
+    {"10973731.568160", "per m", "R_inf, Rydberg constant"},
+    {"5.29177210903E-11", "m", "a_0, Bohr radius"},
+    {"2.8179403262E-15", "m", "r_e, classical electron radius"},
+    {"9.2740100783E-24", "J/T", "mu_B, Bohr magneton"},
+    {"5.0507837461E-27", "J/T", "mu_N, nuclear magneton"},
+    {"2.067833848E-15", "Wb", "Phi_0, magnetic flux quantum"},
+    {"2.897771955E-03", "m K", "b, Wien wavelength displacement constant"},
+    {"2.241396954E-02", "m3/mol", "V_m, molar volume of ideal gas at 273.15 K and 101.325 kPa"},
+
+    // Properties of structural steel: E and G as in the symbols of AISC 360; weight and thermal
+    // expansion as in the general tables of the AISC Steel Construction Manual; metric values of
+    // the same.
+    {"29000", "ksi", "E, modulus of elasticity of steel"},
+    {"11200", "ksi", "G, shear modulus of elasticity of steel"},
+    {"200000", "MPa", "E, modulus of elasticity of steel"},
+    {"77200", "MPa", "G, shear modulus of elasticity of steel"},
+    {"0.3", "", "Poisson's ratio of steel"},
+    {"490", "lb/ft3", "weight of steel"},
+    {"7850", "kg/m3", "density of steel"},
+    {"0.0000065", "per degF", "thermal expansion of steel"},
+    {"0.0000117", "per degC", "thermal expansion of steel"},
+
+    // Conversion factors: NIST Special Publication 811 (2008), Appendix B; those of the inch, foot
+    // and pound are exact.
+    {"25.4", "mm/in", "length, inches to millimetres"},
+    {"0.3048", "m/ft", "length, feet to metres"},
+    {"645.16", "mm2/in2", "area, square inches to square millimetres"},
+    {"0.09290304", "m2/ft2", "area, square feet to square metres"},
+    {"16387.064", "mm3/in3", "section modulus, in3 to mm3"},
+    {"416231.4256", "mm4/in4", "moment of inertia, in4 to mm4"},
+    {"0.45359237", "kg/lb", "mass, pounds to kilograms"},
+    {"1.488164", "(kg/m)/(lb/ft)", "mass per length, lb/ft to kg/m"},
+    {"4.882428", "(kg/m2)/(lb/ft2)", "mass per area, lb/ft2 to kg/m2"},
+    {"16.01846", "(kg/m3)/(lb/ft3)", "density, lb/ft3 to kg/m3"},
+    {"4.4482216", "kN/kip", "force, kips to kilonewtons"},
+    {"14.59390", "(kN/m)/(kip/ft)", "force per length, kip/ft to kN/m"},
+    {"1.355818", "(kN m)/(kip ft)", "moment, kip-feet to kilonewton metres"},
+    {"0.1129848", "(kN m)/(kip in)", "moment, kip-inches to kilonewton metres"},
+    {"6.894757", "MPa/ksi", "stress, ksi to megapascals"},
+    {"47.88026", "Pa/psf", "load per area, psf to pascals"},
+};
+
+} // namespace
+
+std::span<const CalcConstant> Constants() {
+    return constants;
+}
+
+std::string Constant_Text(const CalcConstant& constant) {
+    std::string text{constant.Number};
+    if (!constant.Unit.empty())
+        text.append(" ").append(constant.Unit);
+    return text.append(" : ").append(constant.Name);
+}
+
+void Key_Constant(CalcMainFrm& form) {
+    CalcVariables& vars = form.Vars;
+    CalcConstantFrm dialog(vars);
+    if (form.Host.Show_Constants)
+        form.Host.Show_Constants(dialog);
+    if (vars.ConstantPick.empty())
+        return;
+    Drop_Fraction(vars);
+    vars.SexaCount.reset();
+    End_Entry(vars);
+    Show_Result(form, Leading_Value(vars.ConstantPick));
+}
+
+CalcConstantFrm::CalcConstantFrm(CalcVariables& vars) : vars_(vars) {
+    vars_.ConstantPick.clear();
+    for (const CalcConstant& each : constants)
+        ConstantBox.push_back(Constant_Text(each));
+}
+
+void CalcConstantFrm::Select_Row(int row) {
+    if (row < 0 || row >= static_cast<int>(ConstantBox.size()))
+        return;
+    Selected = row;
+    OKEnabled = true;
+    ConstLab = "Constant No. " + Format_Number(row + 1, "000");
+    TextBox1 = ConstantBox[static_cast<std::size_t>(row)];
+}
+
+void CalcConstantFrm::OKButton() {
+    if (!OKEnabled)
+        return;
+    vars_.ConstantPick = ConstantBox[static_cast<std::size_t>(Selected)];
+    Closed = true;
+}
+
+void CalcConstantFrm::ExitButton() {
+    vars_.ConstantPick.clear();
+    Closed = true;
+}
+
+} // namespace Tensarix

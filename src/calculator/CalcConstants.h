@@ -1,0 +1,42 @@
+// The table of constants, and the dialog CalcConstantFrm that puts one on the display.
+#pragma once
+
+#include "calculator/CalcMainFrm.h"
+
+#include <span>
+#include <vector>
+
+namespace Tensarix {
+
+// A row's text is number, unit and name. It reads, from its start, as the constant's value: so no
+// unit begins with a digit, because a number is read across blanks.
+struct CalcConstant {
+    std::string_view Number, Unit, Name;
+};
+
+std::span<const CalcConstant> Constants();
+std::string Constant_Text(const CalcConstant& constant);
+
+// "cnst"
+void Key_Constant(CalcMainFrm& form);
+
+// What the dialog shows, and what its controls do.
+struct CalcConstantFrm {
+    explicit CalcConstantFrm(CalcVariables& vars);
+
+    std::vector<std::string> ConstantBox;
+    int Selected = -1;
+    std::string ConstLab = "Constant No. ***";
+    std::string TextBox1;
+    bool OKEnabled = false;
+    bool Closed = false;
+
+    void Select_Row(int row);
+    void OKButton();
+    void ExitButton(); // also closing by the frame
+
+  private:
+    CalcVariables& vars_;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,249 @@
+#include "calculator/CalcMemory.h"
+
+#include "calculator/CalcDisplay.h"
+#include "calculator/CalcEntry.h"
+#include "calculator/CalcFraction.h"
+#include "calculator/CalcMemoryFrm.h"
+#include "calculator/CalcText.h"
+#include "common/Failure.h"
+#include "common/NumberText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <system_error>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr std::string_view memorySection = "Setting", memoryKey = "MemoryIn";
+constexpr std::size_t maxDescription = 65535; // bytes, what two bytes of length can count
+
+bool Is_Continuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+std::string Cut_Description(const std::string& text) {
+    std::size_t length = std::min(text.size(), maxDescription);
+    while (length > 0 && length < text.size() && Is_Continuation(text[length]))
+        --length;
+    return text.substr(0, length);
+}
+
+// Bytes that follow the first byte of a UTF-8 character; -1 if none begins so.
+int Following_Bytes(unsigned char first) {
+    if (first < 0x80)
+        return 0;
+    if (first >= 0xC2 && first < 0xE0)
+        return 1;
+    if (first >= 0xE0 && first < 0xF0)
+        return 2;
+    return first >= 0xF0 && first < 0xF5 ? 3 : -1;
+}
+
+bool Is_Utf8(std::string_view text) {
+    for (std::size_t i = 0; i < text.size();) {
+        const int following = Following_Bytes(static_cast<unsigned char>(text[i++]));
+        if (following < 0)
+            return false;
+        for (int k = 0; k < following; ++k, ++i)
+            if (i >= text.size() || !Is_Continuation(text[i]))
+                return false;
+    }
+    return true;
+}
+
+std::string To_Utf8(const std::string& text) {
+    if (Is_Utf8(text))
+        return text;
+    std::string result;
+    for (const char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        if (code < 0x80) {
+            result += c;
+        } else {
+            result += static_cast<char>(0xC0 | code >> 6);
+            result += static_cast<char>(0x80 | (code & 0x3F));
+        }
+    }
+    return result;
+}
+
+// The description that a file cut short still holds.
+std::string Rest_Of_Description(ByteReader& reader) {
+    if (reader.Left() <= 2)
+        return {};
+    reader.Int16();
+    std::string text = reader.Text(reader.Left());
+    std::string whole = text;
+    while (!whole.empty() && Is_Continuation(whole.back()))
+        whole.pop_back();
+    if (!whole.empty() && !Is_Utf8(text))
+        whole.pop_back(); // the first byte of a broken character
+    return Is_Utf8(text) ? text : To_Utf8(Is_Utf8(whole) ? whole : text);
+}
+
+void Show_Memory_Indicator(CalcMainFrm& form) {
+    form.Panel.Mem_Indicator = IsZero(form.Vars.MemValue) ? "" : "MEM";
+}
+
+double Stored_Memory(const CalcHost& host) {
+    const auto text =
+        host.Read_Setting ? host.Read_Setting(memorySection, memoryKey) : std::nullopt;
+    return Leading_Value(text.value_or("0"));
+}
+
+// The fraction counts with its value, although it is finished only on a choice.
+double Value_In_Sight(const CalcVariables& vars) {
+    double value = Shown_Value(vars);
+    if (vars.FractionEntry)
+        Attempt([&] { value = Fraction_Value(vars.FractionText); });
+    return value;
+}
+
+// Runs the dialog; the chosen register, or none if it was left.
+Register* Choose_Register(CalcMainFrm& form, MemoryMode mode) {
+    CalcVariables& vars = form.Vars;
+    CalcMemoryFrm dialog(vars, mode, Value_In_Sight(vars), form.Host.Ask);
+    if (form.Host.Show_Memory)
+        form.Host.Show_Memory(dialog);
+    const int chosen = vars.SelectedRegister;
+    if (chosen < 0 || chosen >= static_cast<int>(registerCount))
+        return nullptr;
+    return &vars.Registers[static_cast<std::size_t>(chosen)];
+}
+
+void Add_To_Register(CalcMainFrm& form, MemoryMode mode, double sign) {
+    if (!Direct_Key_Begins(form))
+        return;
+    Register* const chosen = Choose_Register(form, mode);
+    if (!chosen)
+        return;
+    Finish_Fraction(form);
+    if (form.Vars.ErrorLatched)
+        return;
+    Keep(chosen->Value, chosen->Value + sign * Shown_Value(form.Vars));
+    Entry_To_Operand(form.Vars);
+}
+
+} // namespace
+
+// The file and the setting
+
+Bytes Registers_Image(const RegisterList& registers) {
+    ByteWriter writer;
+    for (const Register& each : registers) {
+        writer.Double(each.Value);
+        writer.Text_With_Length(Cut_Description(each.Description));
+    }
+    return writer.Written();
+}
+
+RegisterList Registers_From(const Bytes& bytes) {
+    RegisterList registers{};
+    ByteReader reader(bytes);
+    Attempt([&] {
+        for (Register& each : registers) {
+            Keep(each.Value, reader.Double());
+            if (!Attempt([&] { each.Description = To_Utf8(reader.Text_With_Length()); }))
+                each.Description = Rest_Of_Description(reader);
+        }
+    });
+    return registers;
+}
+
+void Open_Memory(CalcMainFrm& form) {
+    CalcVariables& vars = form.Vars;
+    Attempt([&] { vars.MemValue = Stored_Memory(form.Host); });
+    Show_Memory_Indicator(form);
+    if (!form.Host.DataFolder || vars.RegistersUnsaved)
+        return;
+    const auto path = *form.Host.DataFolder / registerFileName;
+    std::error_code error;
+    if (std::filesystem::symlink_status(path, error).type() ==
+        std::filesystem::file_type::not_found)
+        Replace_File(path, {});
+    if (const auto bytes = Read_Whole_File(path))
+        vars.Registers = Registers_From(*bytes);
+}
+
+void Close_Memory(CalcMainFrm& form) {
+    CalcVariables& vars = form.Vars;
+    if (form.Host.Write_Setting)
+        form.Host.Write_Setting(memorySection, memoryKey, Number_Text(vars.MemValue));
+    vars.RegistersUnsaved =
+        !form.Host.DataFolder ||
+        !Replace_File(*form.Host.DataFolder / registerFileName, Registers_Image(vars.Registers));
+}
+
+// The keys
+
+void key_Min(CalcMainFrm& form) {
+    CalcVariables& vars = form.Vars;
+    if (vars.ClockRunning)
+        key_Time(form);
+    vars.SexaCount.reset();
+    Finish_Fraction_As_Operand(form);
+    vars.MemValue = Shown_Value(vars);
+    vars.ResumeText = Number_Text(vars.MemValue);
+    Show_Memory_Indicator(form);
+}
+
+void key_Kin(CalcMainFrm& form) {
+    CalcVariables& vars = form.Vars;
+    if (vars.ClockRunning)
+        key_Time(form);
+    Register* const chosen = vars.ErrorLatched ? nullptr : Choose_Register(form, memoryIn);
+    if (!chosen)
+        return;
+    vars.SexaCount.reset();
+    Finish_Fraction_As_Operand(form);
+    if (vars.ErrorLatched)
+        return;
+    chosen->Value = Shown_Value(vars);
+    chosen->Description = vars.RegisterDescription;
+}
+
+void key_Mplus(CalcMainFrm& form) {
+    Add_To_Register(form, memoryAdd, 1);
+}
+
+void key_Mminus(CalcMainFrm& form) {
+    Add_To_Register(form, memoryMinus, -1);
+}
+
+void key_KAC(CalcMainFrm& form) {
+    if (Direct_Key_Begins(form))
+        Choose_Register(form, memoryDelete);
+}
+
+void Key_Memory_Recall(CalcMainFrm& form) {
+    Show_Result(form, form.Vars.MemValue);
+}
+
+void Key_Register_Recall(CalcMainFrm& form) {
+    const Register* const chosen = Choose_Register(form, memoryRecall);
+    if (!chosen)
+        return;
+    Drop_Fraction(form.Vars);
+    form.Vars.SexaCount.reset();
+    End_Entry(form.Vars);
+    Show_Result(form, chosen->Value);
+}
+
+void Key_Register_Swap(CalcMainFrm& form) {
+    CalcVariables& vars = form.Vars;
+    Register* const chosen = Choose_Register(form, memorySwap);
+    if (!chosen)
+        return;
+    Finish_Fraction(form);
+    if (vars.ErrorLatched)
+        return;
+    vars.SexaCount.reset();
+    End_Entry(vars);
+    const double shown = Shown_Value(vars);
+    Show_Result(form, chosen->Value);
+    chosen->Value = shown;
+}
+
+} // namespace Tensarix

@@ -1,0 +1,140 @@
+// The engineering shift keys and the clock.
+#include "calculator/CalcDisplay.h"
+#include "calculator/CalcFraction.h"
+#include "calculator/CalcText.h"
+#include "common/NumberText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int shiftPlaces = 3;
+constexpr std::string_view shiftPattern = "#0.";
+
+std::string Signed_Exponent(int exponent) {
+    return (exponent < 0 ? "E-" : "E+") + Format_Number(std::abs(exponent), "00");
+}
+
+// Zeros for the point to pass, where fewer digits than it needs stand.
+std::string Zeros_For(std::size_t digits) {
+    return std::string(digits < shiftPlaces ? shiftPlaces - digits : 0, '0');
+}
+
+std::string Point_To_The_Right(std::string mantissa) {
+    const std::size_t point = mantissa.find('.');
+    mantissa += Zeros_For(mantissa.size() - point - 1);
+    mantissa.erase(point, 1);
+    return mantissa.insert(point + shiftPlaces, 1, '.');
+}
+
+std::string Point_To_The_Left(std::string mantissa) {
+    mantissa.insert(0, Zeros_For(mantissa.find('.')));
+    const std::size_t point = mantissa.find('.');
+    mantissa.erase(point, 1);
+    return mantissa.insert(point - shiftPlaces, 1, '.');
+}
+
+// Shows the shifted form, unless it needs more than the panel has. The number itself stays.
+void Show_Shifted(CalcMainFrm& form, bool negative, const std::string& mantissa, int exponent) {
+    const double value = Leading_Value(mantissa);
+    const std::string text =
+        Format_Number(value, std::string{shiftPattern} + std::string(100, '#'));
+    if (std::abs(exponent) > maxExponent || static_cast<int>(text.size()) - 1 > maxDigits)
+        return;
+    ShowText(form, (negative ? "-" : "") + text + " " + Signed_Exponent(exponent),
+             Shown_Value(form.Vars));
+}
+
+// The display text within fifteen digits; the number itself where a text stands beside it, such as
+// an angle.
+std::string Text_To_Shift(const CalcVariables& vars) {
+    const std::string text = Replace_All(vars.DisplayText, " ", "");
+    return TrimFifteen(Is_Numeric(text) ? text : Number_Text(Shown_Value(vars)));
+}
+
+void Shift(CalcMainFrm& form, bool right) {
+    if (!Direct_Key_Begins(form))
+        return;
+    Finish_Fraction_As_Operand(form);
+    if (form.Vars.ErrorLatched)
+        return;
+    const std::string text = Text_To_Shift(form.Vars);
+    if (IsZero(Leading_Value(text)))
+        return;
+    const std::size_t e = text.find('E');
+    const bool negative = text.starts_with('-');
+    if (e == std::string::npos) // brings the number into exponent form only
+        return ShowText(form, Number_Text(Leading_Value(text)) + " E+00", Shown_Value(form.Vars));
+    std::string mantissa = text.substr(negative ? 1 : 0, e - (negative ? 1 : 0));
+    if (!HasPoint(mantissa))
+        mantissa += '.';
+    const int exponent = Exponent_Of(text) + (right ? -shiftPlaces : shiftPlaces);
+    Show_Shifted(form, negative, right ? Point_To_The_Right(mantissa) : Point_To_The_Left(mantissa),
+                 exponent);
+}
+
+constexpr std::string_view weekdays[] = {"SUNDAY",   "MONDAY", "TUESDAY", "WEDNESDAY",
+                                         "THURSDAY", "FRIDAY", "SATURDAY"};
+constexpr std::string_view months[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
+                                       "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
+
+std::string Two_Digits(double number) {
+    return Format_Number(number, "00");
+}
+
+std::string Date_Text(std::chrono::local_days day) {
+    const std::chrono::year_month_day date{day};
+    const auto weekday = std::chrono::weekday{day}.c_encoding();
+    const auto month = static_cast<unsigned>(date.month()) - 1;
+    return std::string{weekdays[weekday]} + ", " + std::string{months[month]} + " " +
+           Two_Digits(static_cast<unsigned>(date.day())) + ", " +
+           Format_Number(static_cast<int>(date.year()), "0000");
+}
+
+std::string Time_Text(std::chrono::microseconds sinceMidnight) {
+    const std::chrono::hh_mm_ss time{sinceMidnight};
+    const auto hours = static_cast<int>(time.hours().count());
+    return Two_Digits(hours % 12 == 0 ? 12 : hours % 12) + ":" +
+           Two_Digits(static_cast<double>(time.minutes().count())) + ":" +
+           Two_Digits(static_cast<double>(time.seconds().count())) + (hours < 12 ? " AM" : " PM");
+}
+
+void Show_Clock(CalcMainFrm& form) {
+    const CalcTime now = form.Host.Now();
+    const auto day = std::chrono::floor<std::chrono::days>(now);
+    form.Panel.DateBox = Date_Text(day);
+    form.Panel.DisplayBox = Time_Text(now - day);
+}
+
+} // namespace
+
+void key_EngL(CalcMainFrm& form) {
+    Shift(form, false);
+}
+
+void key_EngR(CalcMainFrm& form) {
+    Shift(form, true);
+}
+
+void key_Time(CalcMainFrm& form) {
+    CalcVariables& vars = form.Vars;
+    if (vars.ErrorLatched || !form.Host.Now || !form.Host.Yield)
+        return;
+    const bool wasRunning = vars.ClockRunning;
+    End_Clock(form);
+    form.Panel.ExpoBox.clear();
+    if (wasRunning)
+        return Redisplay(form);
+    vars.ClockRunning = true;
+    while (vars.ClockRunning) {
+        Show_Clock(form);
+        if (!form.Host.Yield())
+            End_Clock(form);
+    }
+}
+
+} // namespace Tensarix

@@ -1,0 +1,213 @@
+// Generated calculations, all with fixed seeds: operator chains against plain evaluation by
+// priority, and random keys that must leave the panel in one of its forms.
+#include "calculator/CalcConstants.h"
+#include "calculator/CalcMemoryFrm.h"
+#include "calculator/CalcStatistics.h"
+#include "calculator/CalcTestSupport.h"
+#include "common/NumberText.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+using namespace Tensarix;
+
+namespace {
+
+using Random = std::mt19937;
+
+int Pick(Random& random, int count) {
+    return static_cast<int>(random() % static_cast<unsigned>(count));
+}
+
+struct Chain {
+    std::vector<double> Numbers;
+    std::vector<std::string> Operators;
+
+    void Add(Random& random, const std::string& op) {
+        Operators.push_back(op);
+        Numbers.push_back((11 + Pick(random, 20)) / 10.0);
+    }
+
+    std::string Keys() const {
+        std::string keys = General_Text(Numbers[0]);
+        for (std::size_t i = 0; i < Operators.size(); ++i)
+            keys += " " + Operators[i] + " " + General_Text(Numbers[i + 1]);
+        return keys + " =";
+    }
+};
+
+// Sums of products, where a power or a root stands at the end of a product; a root behind "*" and
+// "/" only where a sum precedes it. What else is keyed may exceed the reach of the undo.
+Chain Random_Chain(Random& random) {
+    Chain chain;
+    chain.Numbers.push_back((11 + Pick(random, 20)) / 10.0);
+    const int terms = 1 + Pick(random, 4);
+    for (int term = 0; term < terms; ++term) {
+        if (term > 0)
+            chain.Add(random, Pick(random, 2) == 0 ? "+" : "-");
+        const int factors = Pick(random, 4);
+        for (int i = 0; i < factors; ++i)
+            chain.Add(random, Pick(random, 2) == 0 ? "*" : "/");
+        const int ending = Pick(random, 3);
+        if (ending == 1)
+            chain.Add(random, "xy");
+        else if (ending == 2 && (term > 0 || factors == 0))
+            chain.Add(random, "root");
+    }
+    return chain;
+}
+
+// Powers first, then products, then sums, each from the left.
+double By_Priority(const Chain& chain) {
+    double sum = 0, product = 0, factor = chain.Numbers[0];
+    char sumSign = '+', productSign = ' ';
+    const auto close_factor = [&] {
+        product = productSign == '*'   ? product * factor
+                  : productSign == '/' ? product / factor
+                                       : factor;
+    };
+    for (std::size_t i = 0; i < chain.Operators.size(); ++i) {
+        const std::string& op = chain.Operators[i];
+        const double number = chain.Numbers[i + 1];
+        if (op == "xy" || op == "root") {
+            factor = std::pow(factor, op == "xy" ? number : 1 / number);
+            continue;
+        }
+        close_factor();
+        productSign = op[0];
+        if (op == "+" || op == "-") {
+            sum += sumSign == '+' ? product : -product;
+            sumSign = op[0];
+            productSign = ' ';
+        }
+        factor = number;
+    }
+    close_factor();
+    return sum + (sumSign == '+' ? product : -product);
+}
+
+// The text with every run of digits as one "9", and without its sign.
+std::string Shape_Of(std::string_view text) {
+    std::string shape;
+    for (const char c : text.substr(text.starts_with('-') ? 1 : 0)) {
+        const bool isDigit = c >= '0' && c <= '9';
+        if (!isDigit || !shape.ends_with('9'))
+            shape += isDigit ? '9' : c;
+    }
+    return shape;
+}
+
+bool Is_Message(std::string_view text) {
+    for (const char* words : {"Error", "Divide by Zero", "Invalid Power", "Infinity",
+                              "Out of Range", "Undefined", "Empty Data"})
+        if (text.size() > 2 && text.front() == '*' && text.back() == '*' &&
+            text.substr(1, text.size() - 2) == words)
+            return true;
+    return false;
+}
+
+// A number, with or without an exponent; and alone: a fraction, an angle, or a message.
+bool Is_Allowed_Panel(const CalcPanel& panel) {
+    const std::string& text = panel.DisplayBox;
+    const std::string shape = Shape_Of(text);
+    const std::string expo = Shape_Of(panel.ExpoBox);
+    if (shape == "9." || shape == "9.9")
+        return panel.ExpoBox.empty() ||
+               (panel.ExpoBox.size() == 3 && (expo == "9" || expo == " 9"));
+    const bool isFraction = shape.starts_with('9') && shape.ends_with('.') &&
+                            shape.find('/') != std::string::npos &&
+                            shape.find_first_not_of("9./ ") == std::string::npos;
+    const bool isAngle = shape == "9°9'9\"." || shape == "9°9'9.9\"";
+    return panel.ExpoBox.empty() && (isFraction || isAngle || Is_Message(text));
+}
+
+// A user who chooses something in each dialog, or leaves it.
+void Answer_Dialogs(CalcMainFrm& form, Random& random) {
+    form.Host.Ask = [&random](const CalcQuestion&) { return Pick(random, 2) == 0; };
+    form.Host.Show_Memory = [&random](CalcMemoryFrm& dialog) {
+        dialog.Select_Row(Pick(random, 3));
+        Pick(random, 4) == 0 ? dialog.ExitButton() : dialog.OKButton();
+    };
+    form.Host.Show_Data = [&random](CalcDataFrm& dialog) {
+        dialog.Toggle_Row(Pick(random, 3), true);
+        dialog.DeleteButton();
+    };
+    form.Host.Show_Constants = [&random](CalcConstantFrm& dialog) {
+        dialog.Select_Row(Pick(random, 50));
+        Pick(random, 4) == 0 ? dialog.ExitButton() : dialog.OKButton();
+    };
+}
+
+} // namespace
+
+TEST(CalcChains, FollowThePriorityOfTheOperators) {
+    Random random(7);
+    int withPowers = 0;
+    for (int i = 0; i < 4000; ++i) {
+        const Chain chain = Random_Chain(random);
+        const std::string keys = chain.Keys();
+        withPowers += keys.find("xy") != std::string::npos ? 1 : 0;
+        CalcTest calc;
+        calc.Keys(keys);
+        const double expected = By_Priority(chain);
+        ASSERT_NEAR(calc.Vars.Running.value_or(NAN), expected,
+                    1e-9 * std::max(1.0, std::abs(expected)))
+            << keys;
+    }
+    EXPECT_GT(withPowers, 1000);
+}
+
+TEST(CalcFuzz, ThePanelHoldsOneOfItsForms) {
+    Random random(11);
+    std::vector<const CalcKey*> keys;
+    for (const CalcKey& key : CalcKeys())
+        keys.push_back(&key);
+    for (int run = 0; run < 600; ++run) {
+        CalcTest calc;
+        Answer_Dialogs(calc.Form, random);
+        std::string pressed;
+        for (int i = 0; i < 60; ++i) {
+            // Mostly digits and operators, so that long calculations come about.
+            const CalcKey& key = Pick(random, 2) == 0
+                                     ? *keys[static_cast<std::size_t>(Pick(random, 23))]
+                                     : *keys[random() % keys.size()];
+            if (key.Name == "key_AC" && Pick(random, 4) != 0)
+                continue;
+            pressed += std::string{key.Name} + " ";
+            Press(calc.Form, key);
+            ASSERT_TRUE(Is_Allowed_Panel(calc.Form.Panel)) << pressed << ": " << calc.Shown();
+            ASSERT_LE(calc.Vars.EntryText.size(), 24u) << pressed;
+            ASSERT_TRUE(!calc.Vars.DisplayValue || std::isfinite(*calc.Vars.DisplayValue));
+            const std::string copied = Display_As_Number(calc.Form);
+            ASSERT_TRUE(calc.Vars.ErrorLatched ? copied.empty() : Is_Numeric(copied)) << pressed;
+            if (calc.Vars.ErrorLatched && Pick(random, 2) == 0)
+                KeyPress(calc.Form, "AC");
+        }
+    }
+}
+
+// What stands on the panel is the number that the next key takes, apart from its rounding.
+TEST(CalcFuzz, ThePanelShowsTheNumberInWork) {
+    Random random(13);
+    const char* const tokens[] = {"1", "2",  "7",    "0",   "dot",  "+",   "-",   "*",   "/",
+                                  "=", "pm", "sqrt", "sqr", "rcp",  "ers", "C",   "exp", "ln",
+                                  "9", "PI", "xy",   "x-y", "root", "sin", "alog"};
+    int compared = 0;
+    for (int i = 0; i < 60000; ++i) {
+        static CalcTest calc;
+        KeyPress(calc.Form, tokens[random() % std::size(tokens)]);
+        if (calc.Vars.ErrorLatched) {
+            KeyPress(calc.Form, "AC");
+            continue;
+        }
+        const double shown = Leading_Value(Display_As_Number(calc.Form));
+        const double value = *calc.Vars.DisplayValue;
+        if (std::abs(value) < 1e-99) // shown as zero
+            continue;
+        ++compared;
+        ASSERT_NEAR(shown, value, 1e-13 * std::abs(value) + 1e-14) << calc.Shown();
+    }
+    EXPECT_GT(compared, 30000);
+}

@@ -1,0 +1,413 @@
+// The registers, the data list, the constants: their dialogs, and the files that keep them.
+#include "calculator/CalcConstants.h"
+#include "calculator/CalcMemory.h"
+#include "calculator/CalcMemoryFrm.h"
+#include "calculator/CalcStatistics.h"
+#include "calculator/CalcTestSupport.h"
+#include "common/Failure.h"
+#include "common/NumberText.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <cmath>
+#include <map>
+
+using namespace Tensarix;
+namespace fs = std::filesystem;
+
+namespace {
+
+// A calculator whose dialogs are answered by the test: row, description, Yes or No.
+struct DialogTest : CalcTest {
+    int Row = 0;
+    const char* Description = nullptr; // typed over what the box shows
+    bool Yes = true, Leave = false;
+    std::vector<std::string> Questions;
+    std::string RowSeen, BoxSeen;
+
+    DialogTest() {
+        Form.Host.Ask = [this](const CalcQuestion& question) {
+            EXPECT_EQ(question.Title, "Warning");
+            Questions.push_back(question.Text);
+            return Yes;
+        };
+        Form.Host.Show_Memory = [this](CalcMemoryFrm& dialog) {
+            EXPECT_FALSE(dialog.OKEnabled);
+            dialog.Select_Row(Row);
+            RowSeen = dialog.ItemBox[static_cast<std::size_t>(Row)].Name +
+                      dialog.ItemBox[static_cast<std::size_t>(Row)].Value;
+            BoxSeen = dialog.DescBox;
+            if (Description)
+                dialog.DescBox = Description;
+            Leave ? dialog.ExitButton() : dialog.OKButton();
+            if (!dialog.Closed)
+                dialog.ExitButton();
+        };
+    }
+    Register& At(std::size_t row) { return Vars.Registers[row]; }
+};
+
+class CalcFiles : public testing::Test {
+  protected:
+    void SetUp() override {
+        folder = fs::temp_directory_path() / ("tensarix-calc-" + std::to_string(getpid()));
+        fs::create_directories(folder);
+    }
+    void TearDown() override {
+        fs::permissions(folder, fs::perms::owner_all);
+        fs::remove_all(folder);
+    }
+    CalcHost Host() {
+        CalcHost host;
+        host.DataFolder = folder;
+        host.Read_Setting = [this](std::string_view section, std::string_view key) {
+            const auto found = settings.find(std::string{section} + "/" + std::string{key});
+            return found == settings.end() ? std::nullopt : std::optional(found->second);
+        };
+        host.Write_Setting = [this](std::string_view section, std::string_view key,
+                                    std::string_view text) {
+            settings[std::string{section} + "/" + std::string{key}] = text;
+        };
+        return host;
+    }
+    void Write(const std::string& name, const Bytes& bytes) {
+        ASSERT_TRUE(Replace_File(folder / name, bytes));
+    }
+    fs::path folder;
+    std::map<std::string, std::string> settings;
+};
+
+Bytes Cut(Bytes bytes, std::size_t length) {
+    bytes.resize(length);
+    return bytes;
+}
+
+} // namespace
+
+TEST(CalcRegisters, EveryModeDoesItsWork) {
+    DialogTest calc;
+    calc.Row = 6;
+    calc.Description = "  roof load  ";
+    calc.Keys("12.5 key_Kin");
+    EXPECT_TRUE(calc.Questions.empty());
+    EXPECT_EQ(calc.RowSeen, "Reg-07=   12.5");
+    EXPECT_EQ(calc.BoxSeen, "No specified description");
+    EXPECT_EQ(calc.At(6).Value, 12.5);
+    EXPECT_EQ(calc.At(6).Description, "roof load");
+    EXPECT_EQ(calc.Keys("5").Shown(), "12.55"); // the entry goes on
+
+    calc.Description = nullptr;
+    calc.Keys("AC 2 + 3 key_Mplus");
+    EXPECT_EQ(calc.Questions.back(), "Do you wish to OVERWRITE Reg-07 ?");
+    EXPECT_EQ(calc.RowSeen, "Reg-07=   15.5");
+    EXPECT_EQ(calc.BoxSeen, "roof load");
+    EXPECT_EQ(calc.At(6).Value, 15.5);
+    EXPECT_EQ(calc.Keys("=").Shown(), "5."); // the entry became the operand
+
+    calc.Keys("AC 1 frc 2 key_Mminus");
+    EXPECT_EQ(calc.RowSeen, "Reg-07=   15");
+    EXPECT_EQ(calc.At(6).Value, 15);
+
+    calc.Keys("AC 2 + 99 ko");
+    EXPECT_EQ(calc.RowSeen, "Reg-07=   15");
+    EXPECT_EQ(calc.Shown(), "15.");
+    EXPECT_EQ(calc.Keys("=").Shown(), "17.");
+
+    calc.Keys("AC 8 xk");
+    EXPECT_EQ(calc.RowSeen, "Reg-07=   8");
+    EXPECT_EQ(calc.Shown(), "15.");
+    EXPECT_EQ(calc.At(6).Value, 8);
+    EXPECT_EQ(calc.At(6).Description, "roof load");
+
+    calc.At(99) = {0, "set to zero"};
+    calc.Row = 99;
+    calc.Questions.clear();
+    calc.Keys("AC 1 frc 4 key_Kin");
+    EXPECT_TRUE(calc.Questions.empty()); // a value of 0 counts as empty
+    EXPECT_EQ(calc.RowSeen, "Reg-100=   0.25");
+    EXPECT_EQ(calc.At(99).Value, 0.25);
+}
+
+TEST(CalcRegisters, LeavingTheDialogLeavesEverything) {
+    for (const char* key : {"key_Kin", "ko", "xk", "key_Mplus", "key_Mminus", "key_KAC", "cnst"})
+        for (const bool refused : {false, true}) {
+            DialogTest calc;
+            calc.At(0) = {7, "kept"};
+            calc.Leave = !refused;
+            calc.Yes = false;
+            if (std::string_view{key} == "ko" && refused)
+                continue; // recalling asks nothing
+            calc.Keys(std::string{"2 + 1 frc 2 "} + key);
+            EXPECT_EQ(calc.At(0).Value, 7) << key;
+            EXPECT_EQ(calc.At(0).Description, "kept") << key;
+            EXPECT_EQ(calc.Shown(), "1/2.") << key;
+            EXPECT_EQ(calc.Keys("5 =").Shown(), "2.04") << key;
+        }
+}
+
+TEST(CalcRegisters, TheDialogShowsItsModeAndDeletesInside) {
+    CalcVariables vars;
+    int asked = 0;
+    bool answer = false;
+    const auto ask = [&](const CalcQuestion& question) {
+        EXPECT_EQ(question.Text, "Are you sure you want to delete Selected Data?");
+        EXPECT_TRUE(question.WarningSign);
+        ++asked;
+        return answer;
+    };
+    for (std::size_t i = 0; i < 5; ++i)
+        vars.Registers[i] = {static_cast<double>(i) + 1, "used"};
+    CalcMemoryFrm dialog(vars, memoryDelete, 0, ask);
+    EXPECT_EQ(dialog.Title + "|" + dialog.Prompt + "|" + dialog.OkCaption + "|" +
+                  dialog.FrameCaption,
+              "Memory DELETE|Choose memory address to DELETE value.|Delete|Description");
+    EXPECT_TRUE(dialog.DeleteFrame && dialog.DescriptionLocked && !dialog.OKEnabled);
+    dialog.OKButton();
+    dialog.Toggle_Row(1, true);
+    dialog.Toggle_Row(3, true);
+    dialog.Toggle_Row(1, false);
+    EXPECT_TRUE(dialog.OKEnabled);
+    dialog.OKButton();
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(vars.Registers[3].Value, 4);
+    answer = true;
+    dialog.OKButton();
+    EXPECT_FALSE(dialog.OKEnabled || dialog.Closed);
+    EXPECT_EQ(vars.Registers[3].Value, 0);
+    EXPECT_EQ(vars.Registers[3].Description, "");
+    EXPECT_EQ(vars.Registers[1].Value, 2);
+    EXPECT_EQ(dialog.ItemBox[3].Value, "=   0");
+    dialog.SelectAllButton();
+    dialog.CLRButton();
+    EXPECT_FALSE(dialog.OKEnabled);
+    dialog.SelectAllButton();
+    dialog.OKButton();
+    for (const Register& each : vars.Registers)
+        EXPECT_EQ(each.Value, 0);
+
+    CalcMemoryFrm other(vars, memoryMinus, 2, ask);
+    EXPECT_EQ(other.FrameCaption, "Specify Description");
+    other.Select_Row(0);
+    other.Select_Row(1); // the preview goes with the selection
+    EXPECT_EQ(other.ItemBox[0].Value, "=   0");
+    EXPECT_EQ(other.ItemBox[1].Value, "=   -2");
+    EXPECT_EQ(vars.Registers[1].Value, 0);
+    other.Select_Row(100);
+    other.SelectAllButton();
+    EXPECT_EQ(std::count(other.Selected.begin(), other.Selected.end(), true), 1);
+}
+
+TEST(CalcRegisters, RowsShowFifteenDigits) {
+    EXPECT_EQ(Row_Value(0.1 + 0.2), "0.3");
+    EXPECT_EQ(Row_Value(-12345678.5), "-12345678.5");
+    EXPECT_EQ(Row_Value(1.5e20), "1.5E+20");
+    EXPECT_EQ(Row_Value(1e-30), "1E-30");
+    EXPECT_EQ(Row_Name("Reg-", 8), "Reg-09");
+}
+
+TEST(CalcData, TheDialogPrunesTheList) {
+    CalcVariables vars;
+    vars.DataList = {1.5, 2, 3};
+    bool answer = false;
+    CalcDataFrm dialog(vars, [&](const CalcQuestion&) { return answer; });
+    EXPECT_EQ(dialog.ItemBox[0].Name + dialog.ItemBox[0].Value, "Data-01=    1.5");
+    dialog.Toggle_Row(1, true);
+    dialog.Toggle_Row(7, true);
+    dialog.DeleteButton();
+    EXPECT_EQ(vars.DataList.size(), 3u);
+    answer = true;
+    dialog.DeleteButton();
+    EXPECT_EQ(vars.DataList, (std::vector<double>{1.5, 3}));
+    EXPECT_EQ(dialog.ItemBox[1].Name + dialog.ItemBox[1].Value, "Data-02=    3");
+    EXPECT_FALSE(dialog.DeleteEnabled);
+    dialog.AllButton();
+    dialog.ClearButton();
+    dialog.DeleteButton();
+    dialog.AllButton();
+    dialog.DeleteButton();
+    EXPECT_TRUE(vars.DataList.empty() && dialog.ItemBox.empty());
+    dialog.AllButton();
+    EXPECT_FALSE(dialog.DeleteEnabled);
+}
+
+TEST(CalcConstantsTable, EveryRowReadsAsItsNumber) {
+    CalcVariables vars;
+    CalcConstantFrm dialog(vars);
+    dialog.OKButton();
+    EXPECT_FALSE(dialog.Closed || dialog.OKEnabled);
+    EXPECT_EQ(dialog.ConstLab, "Constant No. ***");
+    ASSERT_EQ(dialog.ConstantBox.size(), Constants().size());
+    for (std::size_t i = 0; i < Constants().size(); ++i) {
+        const CalcConstant& each = Constants()[i];
+        EXPECT_EQ(Leading_Value(dialog.ConstantBox[i]), Text_Number(each.Number)) << each.Name;
+        EXPECT_NE(each.Name, "");
+    }
+    dialog.Select_Row(2);
+    EXPECT_EQ(dialog.ConstLab, "Constant No. 003");
+    EXPECT_EQ(dialog.TextBox1, dialog.ConstantBox[2]);
+}
+
+// Relations that hold between the rows, to the digits that the rows have.
+TEST(CalcConstantsTable, TheRowsAgreeWithEachOther) {
+    std::map<std::string, double> by;
+    for (const CalcConstant& each : Constants())
+        by[std::string{each.Name.substr(0, each.Name.find(','))} + "|" + std::string{each.Unit}] =
+            Text_Number(each.Number);
+    const double pi = std::acos(-1.0), c = by.at("c|m/s"), e = by.at("e|C"), h = by.at("h|J s"),
+                 k = by.at("k|J/K"), avogadro = by.at("N_A|per mol"), r = by.at("R|J/(mol K)"),
+                 epsilon = by.at("epsilon_0|F/m"), electron = by.at("m_e|kg"),
+                 alpha = by.at("alpha|"), hbar = by.at("h/2pi|J s");
+    const double inch = 0.0254, pound = 0.45359237, force = pound * 9.80665;
+    struct Relation {
+        const char* Name;
+        double Row, Computed;
+    };
+    const Relation laws[] = {
+        {"hbar", hbar, h / (2 * pi)},
+        {"R", r, k * avogadro},
+        {"F", by.at("F|C/mol"), e * avogadro},
+        {"sigma", by.at("sigma|W/(m2 K4)"),
+         2 * std::pow(pi, 5) * std::pow(k, 4) / (15 * std::pow(h, 3) * c * c)},
+        {"mu_0", by.at("mu_0|N/A2"), 1 / (epsilon * c * c)},
+        {"Z_0", by.at("Z_0|ohm"), 1 / (epsilon * c)},
+        {"alpha", alpha, e * e / (4 * pi * epsilon * hbar * c)},
+        {"R_inf", by.at("R_inf|per m"), alpha * alpha * electron * c / (2 * h)},
+        {"a_0", by.at("a_0|m"), hbar / (electron * c * alpha)},
+        {"r_e", by.at("r_e|m"), alpha * hbar / (electron * c)},
+        {"mu_B", by.at("mu_B|J/T"), e * hbar / (2 * electron)},
+        {"mu_N", by.at("mu_N|J/T"), e * hbar / (2 * by.at("m_p|kg"))},
+        {"Phi_0", by.at("Phi_0|Wb"), h / (2 * e)},
+        {"b", by.at("b|m K"), h * c / (k * 4.965114231744276)},
+        {"V_m", by.at("V_m|m3/mol"), r * 273.15 / 101325},
+        {"u", by.at("u|kg"), 1e-3 / avogadro},
+    };
+    const Relation factors[] = {
+        {"in2", by.at("area|mm2/in2"), inch * inch * 1e6},
+        {"ft2", by.at("area|m2/ft2"), 144 * inch * inch},
+        {"in3", by.at("section modulus|mm3/in3"), std::pow(25.4, 3)},
+        {"in4", by.at("moment of inertia|mm4/in4"), std::pow(25.4, 4)},
+        {"lb/ft", by.at("mass per length|(kg/m)/(lb/ft)"), pound / (12 * inch)},
+        {"lb/ft2", by.at("mass per area|(kg/m2)/(lb/ft2)"), pound / (144 * inch * inch)},
+        {"lb/ft3", by.at("density|(kg/m3)/(lb/ft3)"), pound / std::pow(12 * inch, 3)},
+        {"kip", by.at("force|kN/kip"), force},
+        {"kip/ft", by.at("force per length|(kN/m)/(kip/ft)"), force / (12 * inch)},
+        {"kip ft", by.at("moment|(kN m)/(kip ft)"), force * 12 * inch},
+        {"kip in", by.at("moment|(kN m)/(kip in)"), force * inch},
+        {"ksi", by.at("stress|MPa/ksi"), force / (inch * inch) / 1000},
+        {"psf", by.at("load per area|Pa/psf"), force / (144 * inch * inch)},
+    };
+    for (const auto& each : laws)
+        EXPECT_NEAR(each.Row / each.Computed, 1, 1e-9) << each.Name;
+    for (const auto& each : factors) // of seven digits
+        EXPECT_NEAR(each.Row / each.Computed, 1, 3e-7) << each.Name;
+}
+
+TEST(CalcConstantsTable, AChosenConstantIsAResult) {
+    CalcTest calc;
+    calc.Form.Host.Show_Constants = [](CalcConstantFrm& dialog) {
+        dialog.Select_Row(0);
+        dialog.OKButton();
+    };
+    EXPECT_EQ(calc.Keys("2 * 5 frc 7 cnst").Shown(), "299792458.");
+    EXPECT_EQ(calc.Keys("=").Shown(), "599584916.");
+}
+
+TEST_F(CalcFiles, WhatIsClosedIsThereWhenOpened) {
+    CalcTest calc;
+    calc.Form.Host = Host();
+    calc.Vars.Registers[0] = {-2.5, "\xC3\x98 of bolt"};
+    calc.Vars.Registers[99].Value = 1e-99;
+    calc.Keys("0.1 key_Min AC 3 data 4 data");
+    Close(calc.Form);
+    EXPECT_EQ(settings.at("Setting/MemoryIn"), "0.1");
+
+    CalcVariables vars;
+    CalcMainFrm form{vars, Host(), {}};
+    Open(form);
+    EXPECT_EQ(vars.MemValue, 0.1);
+    EXPECT_EQ(form.Panel.Mem_Indicator, "MEM");
+    EXPECT_EQ(vars.Registers[0].Value, -2.5);
+    EXPECT_EQ(vars.Registers[0].Description, "\xC3\x98 of bolt");
+    EXPECT_EQ(vars.Registers[99].Value, 1e-99);
+    EXPECT_EQ(vars.DataList, (std::vector<double>{3, 4}));
+}
+
+TEST_F(CalcFiles, TheBytesOfTheFiles) {
+    RegisterList registers{};
+    registers[1] = {1, "ab"};
+    const Bytes image = Registers_Image(registers);
+    EXPECT_EQ(image.size(), 100u * 10 + 2);
+    const Bytes second(image.begin() + 10, image.begin() + 22);
+    EXPECT_EQ(second, (Bytes{0, 0, 0, 0, 0, 0, 0xF0, 0x3F, 2, 0, 'a', 'b'}));
+    EXPECT_EQ(Data_Image({}), (Bytes{0, 0}));
+    EXPECT_EQ(Data_Image({1}), (Bytes{0x0C, 0x20, 1, 0, 1, 0, 0, 0, 0,    0,   0, 0, //
+                                      5,    0,    0, 0, 0, 0, 0, 0, 0xF0, 0x3F}));
+    // A description that the length cannot count is cut, at a whole character.
+    registers[1].Description = "x";
+    for (int i = 0; i < 40000; ++i)
+        registers[1].Description += "\xC3\x98";
+    registers[2].Description = "next";
+    const RegisterList read = Registers_From(Registers_Image(registers));
+    EXPECT_EQ(read[1].Description.size(), 65535u);
+    EXPECT_EQ(read[2].Description, "next");
+    registers[1].Description.insert(0, 1, 'x');
+    EXPECT_EQ(Registers_From(Registers_Image(registers))[1].Description.size(), 65534u);
+}
+
+TEST_F(CalcFiles, DamagedFilesGiveWhatTheyHold) {
+    RegisterList registers{};
+    registers[0] = {1, "first"};
+    registers[1] = {2, "second"};
+    registers[2] = {std::nan(""), "no number"};
+    registers[3] = {4, "\xD8 old"}; // 8-bit text
+    const Bytes image = Registers_Image(registers);
+    for (std::size_t length = 0; length <= image.size(); ++length) {
+        const RegisterList read = Registers_From(Cut(image, length));
+        EXPECT_EQ(read[0].Value, length >= 8 ? 1 : 0);
+        EXPECT_EQ(read[1].Value, length >= 23 ? 2 : 0);
+        EXPECT_EQ(read[0].Description,
+                  std::string{"first"}.substr(0, length > 10 ? length - 10 : 0));
+        EXPECT_EQ(read[2].Value, 0);
+    }
+    EXPECT_EQ(Registers_From(image)[2].Description, "no number");
+    EXPECT_EQ(Registers_From(image)[3].Description, "\xC3\x98 old");
+
+    const Bytes data = Data_Image({1, 2, 3});
+    for (std::size_t length = 12; length <= data.size(); ++length)
+        EXPECT_EQ(Data_From(Cut(data, length)).size(), (length - 12) / 10);
+    Bytes damaged = data;
+    damaged[4] = damaged[5] = damaged[6] = 0xFF; // a count of millions
+    EXPECT_EQ(Data_From(damaged), (std::vector<double>{1, 2, 3}));
+    damaged = data;
+    damaged[22] = 8; // another tag
+    EXPECT_EQ(Data_From(damaged), (std::vector<double>{1}));
+    EXPECT_EQ(Data_From(Data_Image({1, INFINITY, 3})), (std::vector<double>{1, 3}));
+    EXPECT_THROW(Data_From({1, 2, 3, 4}), Failure);
+}
+
+TEST_F(CalcFiles, MissingAndUnwritableFiles) {
+    settings["Setting/MemoryIn"] = "no number";
+    Write("SdfInput.sdf", {9, 9, 9});
+    CalcVariables vars;
+    CalcMainFrm form{vars, Host(), {}};
+    Open(form);
+    EXPECT_EQ(vars.MemValue, 0);
+    EXPECT_TRUE(fs::exists(folder / "CalcMem.mem"));
+    EXPECT_TRUE(vars.DataList.empty());
+
+    // A folder that takes no file: what was stored stays for the run.
+    form.Host.DataFolder = folder / "none";
+    vars.Registers[0].Value = 5;
+    vars.DataList = {6};
+    Close(form);
+    form.Host.DataFolder = folder;
+    Open(form);
+    EXPECT_EQ(vars.Registers[0].Value, 5);
+    EXPECT_EQ(vars.DataList, (std::vector<double>{6}));
+    Close(form);
+    fs::remove(folder / "CalcMem.mem");
+    Open(form);
+    EXPECT_EQ(vars.Registers[0].Value, 0);
+}
