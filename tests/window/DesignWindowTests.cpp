@@ -108,30 +108,6 @@ TEST_F(DesignWindowTest, ARowIsTypedAndSavedAndComesBack) {
     EXPECT_EQ(Design().Bolts.cFlex.Text(2, 7), "4.558  ");
 }
 
-TEST_F(DesignWindowTest, TheEditorsKeysInTheBoltTable) {
-    auto& grid = Find<GridView>("cFlex");
-    Type_Bolt_Row(1, {"6"});
-    auto& editor = Find<QLineEdit>("EdiTxt");
-    grid.setFocus();
-    Design().Bolts.cFlex.Move_To(1, 1);
-    Settle();
-    Key(Qt::Key_F2);
-    EXPECT_TRUE(editor.isVisible());
-    EXPECT_EQ(editor.text(), "6.000");
-    Keys_("-x,");
-    EXPECT_EQ(editor.text(), "6.000");
-    Key(Qt::Key_Escape);
-    EXPECT_EQ(QApplication::focusWidget(), &grid);
-    Keys_("7");
-    EXPECT_EQ(editor.text(), "7"); // typing replaces
-    Key(Qt::Key_Right);
-    EXPECT_EQ(Design().Bolts.cFlex.Text(1, 1), "7.000  ");
-    EXPECT_EQ(Design().Bolts.cFlex.Col(), 2);
-    Key(Qt::Key_Left);
-    Key(Qt::Key_Delete);
-    EXPECT_EQ(Design().Bolts.cFlex.Text(1, 1), "");
-}
-
 TEST_F(DesignWindowTest, AddedRowsAreInView) {
     for (int i = 0; i < 20; ++i)
         Click("AddRowButton");
