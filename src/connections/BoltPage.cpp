@@ -38,6 +38,7 @@ void Lay_Out_Values(FlexGrid& grid, std::initializer_list<const char*> names) {
         grid.Set_Text(row++, 0, name);
     }
     grid.Select_Range(0, 1, 0, 1);
+    grid.Set_Highlight(false); // it shows, nothing is chosen in it
 }
 
 std::string With_Blanks(const std::string& text, std::string_view behind) {

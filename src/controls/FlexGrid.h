@@ -95,6 +95,12 @@ class FlexGrid {
     bool Move_To(int row, int col);
     // The selection goes from the current cell to this one.
     void Extend_To(int row, int col);
+    // Whether the selection is shown.
+    bool Highlight() const { return highlight_; }
+    void Set_Highlight(bool highlight) {
+        highlight_ = highlight;
+        Shown.Changed();
+    }
     // Selects from one cell to another; the first is the current one then. No handler runs.
     void Select_Range(int row, int col, int rowSel, int colSel);
 
@@ -138,7 +144,7 @@ class FlexGrid {
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
     int topRow_ = 1, leftCol_ = 1;
     double heightMin_ = 0;
-    bool wordWrap_ = false;
+    bool wordWrap_ = false, highlight_ = true;
     Placement place_;
     unsigned layoutVersion_ = 0;
 };

@@ -196,7 +196,7 @@ void GridView::Pull_Selection() {
         return;
     selectionModel()->setCurrentIndex(Index(grid_->Row(), grid_->Col()),
                                       QItemSelectionModel::NoUpdate);
-    if (bottom < grid_->FixedRows())
+    if (bottom < grid_->FixedRows() || !grid_->Highlight())
         selectionModel()->clearSelection();
     else
         selectionModel()->select(QItemSelection(Index(top, left), Index(bottom, right)),
