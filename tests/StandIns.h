@@ -4,9 +4,13 @@
 #include "desk/Desk.h"
 #include "platform/Machine.h"
 
+#include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -110,8 +114,27 @@ class TestInstance final : public Instance {
     void Raise_Other() override { ++Raises; }
 };
 
-// All of it, with the built store as the program's.
+// A folder of its own, gone with it.
+class FreshFolder {
+  public:
+    FreshFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "tensarix-XXXXXX").string();
+        if (!mkdtemp(name.data()))
+            throw std::runtime_error("no temporary folder");
+        Path = name;
+    }
+    ~FreshFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(Path, ignored);
+    }
+    FreshFolder(const FreshFolder&) = delete;
+
+    std::filesystem::path Path;
+};
+
+// All of it, with the built store as the program's, and no data files.
 struct TestMachine {
+    FreshFolder Data;
     MapSettings Store;
     KeptClipboard Clip;
     RecordedVoice Speech;
@@ -122,7 +145,7 @@ struct TestMachine {
     TestInstance Guard;
     Machine Host{Store,  Clip,   Speech, Boxes,
                  Time,   Events, Window, Guard,
-                 {TENSARIX_PROGRAM_DIR, std::filesystem::temp_directory_path()}};
+                 {TENSARIX_PROGRAM_DIR, Data.Path}};
 };
 
 } // namespace Tensarix::Tests

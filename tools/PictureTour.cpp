@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPalette>
@@ -146,6 +147,69 @@ class Tour {
         form.OptButton[0].Select();
     }
 
+    // Typed in as the user would.
+    void Type_Row(FlexGrid& grid, TextBox& editor, int row, int col,
+                  std::initializer_list<const char*> texts, bool down) {
+        for (const char* text : texts) {
+            grid.Move_To(row, col);
+            Run(grid.OnDblClick);
+            editor.Set_Text(text);
+            editor.OnKeyDown(Keys::Enter);
+            (down ? row : col) += 1;
+        }
+    }
+
+    void Bolts(const QString& suffix) {
+        DesignPage& page = program_.Form().Design;
+        BoltPage& bolts = page.Bolts;
+        program_.Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
+        page.DesignSSTab.Select(BoltTab);
+        Take(QStringLiteral("bolts-before") + suffix, program_.Window());
+        const auto type = [&](int row, std::initializer_list<const char*> texts) {
+            Type_Row(bolts.cFlex, bolts.EdiTxt, row, 1, texts, false);
+        };
+        type(1, {"6", "1", "3", "3", "4", "0"});
+        type(2, {"6", "2", "3", "3", "6", "0"});
+        type(3, {"3", "1", "3", "3", "8", "0"});
+        type(4, {"4", "2", "3", "3", "8", "30"});
+        bolts.cFlex.Move_To(3, 7);
+        Take(QStringLiteral("bolts-after") + suffix, program_.Window());
+        QTimer::singleShot(200, [&] {
+            bolts.cFlex.Move_To(5, 1);
+            Run(bolts.cFlex.OnDblClick);
+            Take(QStringLiteral("bolts-during") + suffix, program_.Window());
+            bolts.EdiTxt.OnKeyDown(Keys::Escape);
+            bolts.cFlex.Move_To(5, 1);
+            bolts.cFlex.OnKeyDown(Keys::Delete); // ends the search
+        });
+        type(5, {"12", "8", "3", "3", "6", "75"});
+    }
+
+    void Welds(const QString& suffix) {
+        DesignPage& page = program_.Form().Design;
+        WeldPage& welds = page.Welds;
+        program_.Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
+        page.DesignSSTab.Select(WeldTab);
+        welds.WeldView.Click(5);
+        Take(QStringLiteral("weld-before") + suffix, program_.Window());
+        Type_Row(welds.WeldFlex, welds.EdiTxtA, 0, 1, {"100", "50", "5", "45"}, true);
+        QTimer::singleShot(300, [&] {
+            Take(QStringLiteral("weld-during") + suffix, program_.Window());
+            welds.StopIterationButton.Click();
+        });
+        welds.WeldStripBox.Select(3);
+        welds.StartIterationButton.Click();
+        Wait(300);
+        Take(QStringLiteral("weld-stopped") + suffix, program_.Window());
+        welds.WeldView.Click(2);
+        Type_Row(welds.WeldFlex, welds.EdiTxtA, 0, 1, {"10", "5", "4", "0"}, true);
+        welds.WeldStripBox.Select(1);
+        welds.StartIterationButton.Click();
+        Wait(300);
+        Take(QStringLiteral("weld-after") + suffix, program_.Window());
+        program_.Form().OptButton[0].Select();
+    }
+
     void Popup() {
         program_.Window().findChild<GridView*>(QStringLiteral("ShapeFlex"))->setFocus();
         FlexGrid& grid = program_.Form().Browse.ShapeFlex;
@@ -155,6 +219,12 @@ class Tour {
         auto* menu = program_.Window().findChild<QMenu*>(QStringLiteral("mnuEdit1"));
         Take(QStringLiteral("popup"), *menu);
         menu->close();
+    }
+
+    static void Wait(int milliseconds) {
+        QEventLoop loop;
+        QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+        loop.exec();
     }
 
     bool Failed() const { return failed_; }
@@ -224,6 +294,8 @@ int main(int argc, char** argv) {
     tour.Popup();
     tour.About({});
     tour.Weights({});
+    tour.Bolts({});
+    tour.Welds({});
     QApplication::setPalette(Dark_Palette());
     tour.Browse(QStringLiteral("-dark"));
     tour.Find(QStringLiteral("-dark"));
@@ -231,6 +303,8 @@ int main(int argc, char** argv) {
     tour.Beam(QStringLiteral("-dark"));
     tour.About(QStringLiteral("-dark"));
     tour.Weights(QStringLiteral("-dark"));
+    tour.Bolts(QStringLiteral("-dark"));
+    tour.Welds(QStringLiteral("-dark"));
     program.Window().close();
     return tour.Failed() ? 1 : 0;
 }

@@ -131,6 +131,11 @@ void FlexGrid::Set_RowHeightMin(double twips) {
     Layout_Changed();
 }
 
+void FlexGrid::Set_WordWrap(bool wordWrap) {
+    wordWrap_ = wordWrap;
+    Layout_Changed();
+}
+
 double FlexGrid::ColWidth(int col) const {
     const double width = widths_[At(0, col)];
     return width < 0 ? standardWidth : width;
@@ -146,7 +151,8 @@ bool FlexGrid::Move_To(int row, int col) {
     const bool moves = row != row_ || col != col_;
     if (moves)
         Run(OnLeaveCell);
-    At(row, col); // the handler may have made the grid smaller
+    if (row >= rows_ || col >= cols_)
+        return false; // the handler has made the grid smaller
     row_ = rowSel_ = row;
     col_ = colSel_ = col;
     Shown.Changed();

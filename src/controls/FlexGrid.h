@@ -80,6 +80,9 @@ class FlexGrid {
     double RowHeight(int row) const;
     void Set_RowHeight(int row, double twips);
     void Set_RowHeightMin(double twips);
+    // Heads that are wider than their column go on in the next line.
+    bool WordWrap() const { return wordWrap_; }
+    void Set_WordWrap(bool wordWrap);
     double ColWidth(int col) const;
     void Set_ColWidth(int col, double twips);
 
@@ -88,10 +91,16 @@ class FlexGrid {
     int RowSel() const { return rowSel_; }
     int ColSel() const { return colSel_; }
     // Makes the cell the current one and the selection; true if it wasn't the current one. Runs
-    // OnLeaveCell before and OnSelChange after.
+    // OnLeaveCell before and OnSelChange after. A cell that OnLeaveCell has taken away is not gone to.
     bool Move_To(int row, int col);
     // The selection goes from the current cell to this one.
     void Extend_To(int row, int col);
+    // Whether the selection is shown.
+    bool Highlight() const { return highlight_; }
+    void Set_Highlight(bool highlight) {
+        highlight_ = highlight;
+        Shown.Changed();
+    }
     // Selects from one cell to another; the first is the current one then. No handler runs.
     void Select_Range(int row, int col, int rowSel, int colSel);
 
@@ -135,6 +144,7 @@ class FlexGrid {
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
     int topRow_ = 1, leftCol_ = 1;
     double heightMin_ = 0;
+    bool wordWrap_ = false, highlight_ = true;
     Placement place_;
     unsigned layoutVersion_ = 0;
 };

@@ -25,14 +25,14 @@ std::string Window_Caption() {
 }
 
 MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
-    : Shared(machine), Browse(Shared), Find(Shared), ViewAll(Shared), Beam(Shared),
+    : Shared(machine), Browse(Shared), Find(Shared), ViewAll(Shared), Beam(Shared), Design(Shared),
       mnuEdit1(Shared, SelectionTab,
                {
                    &Browse.ShapeFlex,
                    &Find.fShapeFlex,
                    &ViewAll.xShapeFlex,
                    &Beam.zShapeFlex,
-                   nullptr,
+                   &Design.Bolts.cFlex,
                }),
       dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
@@ -84,7 +84,7 @@ void MainFrm::StartUp() {
     Beam.Start_Families();
     Beam.Start_Inputs();
     Find.Restore_Search(); // again, now that the criteria exist
-    Shared.Show_No_Selection();
+    Design.Start();
 }
 
 void MainFrm::Start_Flags() {
@@ -124,6 +124,10 @@ void MainFrm::OptButton_Click(int index) {
     }
     Shared.GridClicked = false;
     Shared.Show_No_Selection();
+    if (static_cast<Mode>(index) == Mode::Connection)
+        Design.Show_Selection();
+    else
+        Design.Leave();
     SelectionTab.Select(index);
     if (static_cast<Mode>(index) == Mode::BeamLoad)
         Beam.AppliedCode_Click();
@@ -170,11 +174,13 @@ void MainFrm::Activated() {
 }
 
 void MainFrm::Query_Unload() {
+    Design.Request_Stop();
     Save_Families();
     Save_Sizes();
     Find.Save_Search();
     Save_Options();
     Save_Span();
+    Design.Save_Settings();
     Shared.Say("");
 }
 

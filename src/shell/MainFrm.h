@@ -2,6 +2,7 @@
 #pragma once
 
 #include "beam/BeamPage.h"
+#include "connections/DesignPage.h"
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
@@ -28,6 +29,7 @@ class MainFrm {
     FindPage Find;
     ViewPage ViewAll;
     BeamPage Beam;
+    DesignPage Design;
 
     GridPopup mnuEdit1; // of the pages' grids
 

@@ -5,6 +5,7 @@
 #include "window/Link.h"
 #include "window/MouseWatch.h"
 #include "window/PictureView.h"
+#include "window/Theme.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -22,6 +23,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QTabWidget>
 
 #include <algorithm>
 
@@ -303,6 +305,26 @@ void Bind(QTabBar* widget, TabControl& control) {
     });
     QObject::connect(widget, &QTabBar::currentChanged, link,
                      [&control](int index) { control.Select(index + 1); });
+}
+
+void Bind(QTabWidget* widget, TabControl& control) {
+    auto* link = new Link(widget, control.Shown, [widget, &control] {
+        const QSignalBlocker quiet(widget);
+        widget->setCurrentIndex(control.Tab());
+    });
+    QObject::connect(widget, &QTabWidget::currentChanged, link,
+                     [&control](int index) { control.Select(index); });
+}
+
+void Bind(QLineEdit* widget, ResultBox& control) {
+    widget->setReadOnly(true);
+    new Link(widget, control.Shown, [widget, &control] {
+        widget->setText(To_Qt(control.Text()));
+        QPalette palette;
+        if (control.Fore() != Colours::Standard)
+            palette.setColor(QPalette::Text, Shown_Colour(control.Fore(), palette));
+        widget->setPalette(palette);
+    });
 }
 
 void Bind(QStackedWidget* widget, TabControl& control) {

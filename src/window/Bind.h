@@ -4,6 +4,7 @@
 
 #include "controls/Controls.h"
 #include "controls/FlexGrid.h"
+#include "controls/ResultBox.h"
 
 class QAbstractButton;
 class QAction;
@@ -15,6 +16,7 @@ class QPushButton;
 class QStackedWidget;
 class QStatusBar;
 class QTabBar;
+class QTabWidget;
 
 namespace Tensarix {
 
@@ -34,6 +36,9 @@ void Bind(QStackedWidget* widget, TabControl& control);
 void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control);
 // The strip's first tab is number 1.
 void Bind(QTabBar* widget, TabControl& control);
+// The first tab is number 0.
+void Bind(QTabWidget* widget, TabControl& control);
+void Bind(QLineEdit* widget, ResultBox& control);
 void Bind(QStatusBar* widget, StatusBar& control);
 void Bind(QAction* action, MenuItem& control);
 void Bind(PictureView* widget, Picture& control);

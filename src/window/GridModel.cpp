@@ -75,7 +75,10 @@ QVariant GridModel::Cell(int row, int col, int role) const {
     const CellStyle& style = grid_.Style(row, col);
     switch (role) {
     case Qt::DisplayRole: return QString::fromStdString(grid_.Text(row, col));
-    case Qt::TextAlignmentRole: return Cell_Alignment(style.Align);
+    case Qt::TextAlignmentRole: {
+        const bool wraps = row < grid_.FixedRows() && grid_.WordWrap();
+        return Cell_Alignment(style.Align) | (wraps ? Qt::TextWordWrap : 0);
+    }
     case Qt::FontRole: return Cell_Font(view_->font(), style);
     case Qt::ForegroundRole:
         if (style.Fore != Colours::Standard)

@@ -12,6 +12,7 @@
 #include <QItemSelection>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -141,14 +142,16 @@ int GridView::Column_Pixels(int col) const {
                     Fitting_Width(col));
 }
 
-// The names in a fixed column are never cut, nor are the heads.
+// The names in a fixed column are never cut, nor are the heads, or their words where they wrap.
 int GridView::Fitting_Width(int col) const {
+    static const QRegularExpression words(QStringLiteral("\\s")), lines(QStringLiteral("\n"));
     int width = 0;
     for (int row = 0; row < grid_->Rows(); ++row) {
         if (col >= grid_->FixedCols() && row >= grid_->FixedRows())
             break;
         for (const QString& line :
-             QString::fromStdString(grid_->Text(row, col)).split(QLatin1Char('\n')))
+             QString::fromStdString(grid_->Text(row, col))
+                 .split(row < grid_->FixedRows() && grid_->WordWrap() ? words : lines))
             width = std::max(width, fontMetrics().horizontalAdvance(line));
     }
     return width == 0 ? 0 : width + cellMargin;
@@ -203,7 +206,7 @@ void GridView::Pull_Selection() {
         return;
     selectionModel()->setCurrentIndex(Index(grid_->Row(), grid_->Col()),
                                       QItemSelectionModel::NoUpdate);
-    if (bottom < grid_->FixedRows())
+    if (bottom < grid_->FixedRows() || !grid_->Highlight())
         selectionModel()->clearSelection();
     else
         selectionModel()->select(QItemSelection(Index(top, left), Index(bottom, right)),

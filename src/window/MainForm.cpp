@@ -4,6 +4,7 @@
 #include "window/BeamForm.h"
 #include "window/Bind.h"
 #include "window/BrowseForm.h"
+#include "window/DesignForm.h"
 #include "window/FindForm.h"
 #include "window/PopupMenu.h"
 #include "window/ViewForm.h"
@@ -46,7 +47,7 @@ MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
     ui.SelectionTab->addWidget(Make_Find_Form(form.Find, this));
     ui.SelectionTab->addWidget(Make_View_Form(form.ViewAll, this));
     ui.SelectionTab->addWidget(Make_Beam_Form(form.Beam, this));
-    ui.SelectionTab->addWidget(new QWidget(this));
+    ui.SelectionTab->addWidget(Make_Design_Form(form.Design, this));
     Bind(ui.SelectionTab, form.SelectionTab);
     Make_Grid_Popup(form.mnuEdit1, this);
     Bind(ui.StatBar, form.Shared.StatBar);

@@ -140,3 +140,53 @@ TEST_F(MainFrmTest, MenuTogglesAreSavedAtOnce) {
     EXPECT_FALSE(f.mnuReadOut.Checked());
     EXPECT_TRUE(f.mnuOnTop.Checked());
 }
+
+TEST_F(MainFrmTest, ConnectionDesignAndTheModes) {
+    MainFrm& f = Start();
+    OptionButton& connection = f.OptButton[static_cast<std::size_t>(Mode::Connection)];
+    connection.Select();
+    EXPECT_EQ(f.Shared.StatBar.Panel1(), " SELECTION:   None");
+    f.Design.DesignSSTab.Select(WeldTab);
+    f.Design.Welds.WeldView.Click(3);
+    f.OptButton[0].Select();
+    connection.Select();
+    EXPECT_EQ(f.Shared.StatBar.Panel1(), " SELECTION:   Weld Configuration 3");
+
+    WeldPage& welds = f.Design.Welds;
+    for (int row = 0; row < 4; ++row)
+        welds.WeldFlex.Set_Text(row, 1, "5");
+    long yields = 0;
+    machine.Events.OnYield = [&] {
+        if (++yields == 5)
+            f.OptButton[1].Select(); // leaves the page
+        return true;
+    };
+    welds.StartIterationButton.Click();
+    EXPECT_EQ(welds.StopIterationButton.Caption(), "Resume Iteration");
+    EXPECT_TRUE(welds.CBox.Text().starts_with("** "));
+}
+
+TEST_F(MainFrmTest, ConnectionDesignIsSavedLastAtExit) {
+    MainFrm& f = Start();
+    f.Design.Bolts.AddRowButton.Click();
+    f.Design.Welds.WeldView.Click(9);
+    machine.Store.Written.clear();
+    f.Query_Unload();
+    const std::vector<std::string>& written = machine.Store.Written;
+    ASSERT_GE(written.size(), 4u);
+    EXPECT_TRUE(written.end()[-4].starts_with("BeamSpan="));
+    EXPECT_EQ(std::vector<std::string>(written.end() - 3, written.end()),
+              (std::vector<std::string>{"cFlexRows=17", "WeldStrip=1", "WeldView=9"}));
+    MainFrm& next = Start();
+    EXPECT_EQ(next.Design.Bolts.cFlex.Rows(), 17);
+    EXPECT_EQ(next.Design.Welds.WeldView.SelectedItem(), 9);
+    EXPECT_EQ(next.Shared.StatBar.Panel1(), " SELECTION:   None");
+}
+
+TEST_F(MainFrmTest, CopyAllOfTheBoltTable) {
+    MainFrm& f = Start();
+    f.OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
+    f.mnuEdit1.mnuCopySelection1d.Click();
+    EXPECT_TRUE(machine.Clip.Held.starts_with("No.\tNumber of Bolt Rows on the Vertical\t"));
+    EXPECT_NE(machine.Clip.Held.find("Bolt Group Coefficient [C']\r1\t"), std::string::npos);
+}

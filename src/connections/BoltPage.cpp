@@ -1,0 +1,346 @@
+#include "connections/BoltPage.h"
+
+#include "common/Extremes.h"
+#include "common/Failure.h"
+#include "common/NumberText.h"
+#include "connections/Balance.h"
+#include "connections/Search.h"
+#include "measures/InputFilters.h"
+
+#include <system_error>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr std::string_view inputPattern = "0.000##  ";
+constexpr std::string_view resultPattern = "##,##0.000  ";
+constexpr std::string_view computingRemark = "Computing ...";
+constexpr int rowsBelowTop = 11; // an added row stands so many rows below the top
+
+bool Is_Input(int row, int col) {
+    return row > 0 && col >= BoltColumn::FirstInput && col <= BoltColumn::LastInput;
+}
+
+// Lays out one of the two small grids: names on the left, values on the right.
+void Lay_Out_Values(FlexGrid& grid, std::initializer_list<const char*> names) {
+    grid.Clear();
+    grid.Set_Cols(2);
+    grid.Set_Rows(static_cast<int>(names.size()));
+    grid.Set_Fixed(0, 1);
+    grid.Set_RowHeightMin(340);
+    grid.Set_ColWidth(0, 700);
+    grid.Set_ColWidth(1, 1500);
+    int row = 0;
+    for (const char* name : names) {
+        grid.Set_Style(row, 0, {.Align = Alignment::Centre, .Fore = Colours::SymbolText});
+        grid.Set_Style(row, 1, {.Align = Alignment::Right});
+        grid.Set_Text(row++, 0, name);
+    }
+    grid.Select_Range(0, 1, 0, 1);
+    grid.Set_Highlight(false); // it shows, nothing is chosen in it
+}
+
+std::string With_Blanks(const std::string& text, std::string_view behind) {
+    const std::string value = Trim(text);
+    return value.empty() ? value : value + std::string{behind};
+}
+
+} // namespace
+
+bool IsBoltRowComplete(const FlexGrid& grid, int row) {
+    for (int col = BoltColumn::FirstInput; col <= BoltColumn::LastInput; ++col)
+        if (Trim(grid.Text(row, col)).empty())
+            return false;
+    return true;
+}
+
+int CountBoltRows(const FlexGrid& grid) {
+    int count = 0;
+    for (int row = 1; row < grid.Rows(); ++row)
+        count += IsBoltRowComplete(grid, row) ? 1 : 0;
+    return count;
+}
+
+void ModifyTextC(TextBox& editor) {
+    if (!Trim(editor.Text()).empty())
+        editor.Set_Text(Format_Number(Leading_Value(editor.Text()), inputPattern));
+}
+
+BoltPage::BoltPage(Desk& desk)
+    : desk_(desk), editing_(cFlex, [this] { desk_.Host.Events.Turn(); }) {
+    AddRowButton.Set_Caption("Add Row");
+    RemRowButton.Set_Caption("Remove Row");
+    SaveButton.Set_Caption("Save Entries");
+    ClearButton.Set_Caption("Clear Entries");
+    AddRowButton.OnClick = [this] { AddRow_Click(); };
+    RemRowButton.OnClick = [this] { RemRow_Click(); };
+    SaveButton.OnClick = [this] { Save_Click(); };
+    ClearButton.OnClick = [this] { Clear_Click(); };
+    cFlex.OnSelChange = [this] { Show_Selected(); };
+    cFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
+    Add_Editing();
+}
+
+void BoltPage::Add_Editing() {
+    editing_.Add(CellEditing::TextCells{
+        EdiTxt,
+        Is_Input,
+        Filter_Decimal,
+        [this](int keyAscii) { return Filter_Single_Point(keyAscii, EdiTxt.Text()); },
+        {},
+        [this] { Attempt([this] { ModifyTextC(EdiTxt); }); },
+        [this](const std::string&) { Calculate_C(cFlex.Row()); }});
+}
+
+void BoltPage::Start() {
+    Take_Row_Count();
+    Init_cFlex();
+    Init_valFlex();
+    LoadBoltEntries();
+    Show_Selected();
+}
+
+void BoltPage::Take_Row_Count() {
+    Attempt([this] {
+        const double saved =
+            Largest_Of({LeastBoltRowCount, desk_.Saved.Number(Setting::cFlexRows)});
+        if (saved > MostBoltRows + 1)
+            throw Failure("too many rows");
+        BoltRowCount_ = static_cast<float>(saved);
+    });
+}
+
+void BoltPage::Save_Settings() const {
+    desk_.Saved.Save(Setting::cFlexRows, General_Text(static_cast<double>(BoltRowCount_)));
+}
+
+void BoltPage::Init_cFlex() {
+    const double widths[BoltColumn::Count] = {550, 1550, 1600, 1400, 1450, 1450, 1550, 1650, 1650};
+    const char* heads[BoltColumn::Count] = {"No.",
+                                            "Number of Bolt Rows on the Vertical",
+                                            "Number of Bolt Rows on the Horizontal",
+                                            "Bolt Spacing on the Vertical",
+                                            "Bolt Spacing on the Horizontal",
+                                            "Load Eccentricity",
+                                            "Load Angle from the Vertical [degrees]",
+                                            "Bolt Group Coefficient\n[C]",
+                                            "Bolt Group Coefficient\n[C']"};
+    cFlex.Clear();
+    cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
+    cFlex.Set_Cols(BoltColumn::Count);
+    cFlex.Set_Fixed(1, 1);
+    cFlex.Set_RowHeightMin(350);
+    cFlex.Set_WordWrap(true);
+    for (int col = 0; col < BoltColumn::Count; ++col) {
+        cFlex.Set_ColWidth(col, widths[col]);
+        cFlex.Set_Style(0, col,
+                        {.Align = Alignment::Centre,
+                         .Tahoma = true,
+                         .Fore = Colours::HeadText,
+                         .Back = Colours::HeadBack});
+        cFlex.Set_Text(0, col, heads[col]);
+    }
+    for (int row = 1; row < cFlex.Rows(); ++row)
+        Lay_Out_Row(row);
+    cFlex.Select_Range(1, 1, 1, 1);
+    RemRowButton.Enable(BoltRowCount_ > LeastBoltRowCount);
+}
+
+void BoltPage::Lay_Out_Row(int row) {
+    for (int col = 0; col < BoltColumn::Count; ++col) {
+        CellStyle style;
+        style.Align = col <= BoltColumn::n ? Alignment::Centre : Alignment::Right;
+        if (col == BoltColumn::Number || col >= BoltColumn::C)
+            style.Fore = Colours::SymbolText;
+        cFlex.Set_Style(row, col, style);
+    }
+    cFlex.Set_Text(row, BoltColumn::Number, std::to_string(row));
+}
+
+void BoltPage::Init_valFlex() {
+    Lay_Out_Values(ccFlex, {"m", "n", "sv", "sh"});
+    Lay_Out_Values(xxFlex, {"ex", "Ø", "C", "C'"});
+}
+
+void BoltPage::LoadBoltEntries() {
+    bool failed = false;
+    ReadBoltFile(BoltEntries_, File(), failed, desk_.Host.Boxes);
+    if (failed)
+        return;
+    for (const BoltRow& entry : BoltEntries_) {
+        // Only a damaged file has a row number below 1.
+        if (entry.RowNumber < 1 || entry.RowNumber > cFlex.Rows() - 1)
+            continue;
+        int col = BoltColumn::FirstInput;
+        for (const std::string& text : entry.Texts)
+            cFlex.Set_Text(entry.RowNumber, col++, text);
+        // The results stay as saved; what is to be said about them is found anew.
+        Attempt([&] {
+            Remark_On(entry.RowNumber, Leading_Value(cFlex.Text(entry.RowNumber, BoltColumn::C)));
+        });
+    }
+}
+
+void BoltPage::Show_Selected() {
+    const int row = cFlex.Row();
+    const auto text = [this, row](int col) -> const std::string& { return cFlex.Text(row, col); };
+    for (int i = 0; i < ccFlex.Rows(); ++i)
+        ccFlex.Set_Text(i, 1, With_Blanks(text(BoltColumn::m + i), "  "));
+    for (int i = 0; i < xxFlex.Rows(); ++i) {
+        const int col = BoltColumn::ex + i;
+        xxFlex.Set_Text(i, 1, With_Blanks(text(col), col == BoltColumn::Angle ? "°  " : "  "));
+    }
+    RowRemark.Set_Caption(cFlex.Remark(row, BoltColumn::C));
+}
+
+// Each number of its own; one that is out of range stays 0.
+BoltPage::Inputs BoltPage::Row_Inputs(int row) const {
+    Inputs inputs;
+    const auto value = [this, row](int col) { return Leading_Value(cFlex.Text(row, col)); };
+    Attempt([&] { inputs.Group.m = Whole_16(value(BoltColumn::m)); });
+    Attempt([&] { inputs.Group.n = Whole_16(value(BoltColumn::n)); });
+    Attempt([&] { inputs.Group.sv = value(BoltColumn::sv); });
+    Attempt([&] { inputs.Group.sh = value(BoltColumn::sh); });
+    Attempt([&] { inputs.ex = value(BoltColumn::ex); });
+    Attempt([&] { inputs.Angle = value(BoltColumn::Angle); });
+    return inputs;
+}
+
+void BoltPage::Calculate_C(int row) {
+    const unsigned search = ++newestSearch_[row];
+    Empty_Results(row);
+    if (IsBoltRowComplete(cFlex, row)) {
+        const Inputs inputs = Row_Inputs(row);
+        cFlex.Set_Remark(row, BoltColumn::C, std::string{computingRemark});
+        if (row == cFlex.Row())
+            Show_Selected();
+        try {
+            const double CPrime = BoltCoefficientCPrime(inputs.Group);
+            const double C = Search(row, inputs, search);
+            Show_Results(row, C, CPrime);
+        } catch (const SearchAbandoned&) {
+            return; // the program is closing, or the row is no longer what it was
+        }
+    }
+    if (row == cFlex.Row())
+        Show_Selected();
+}
+
+double BoltPage::Search(int row, const Inputs& inputs, unsigned search) {
+    auto turn = [this, row, search] {
+        return desk_.Host.Events.Yield() && newestSearch_[row] == search;
+    };
+    SearchYield yield{turn, BoltYieldStride};
+    return BoltCoefficientC(inputs.Group, inputs.ex, inputs.Angle, yield);
+}
+
+void BoltPage::Show_Results(int row, double C, double CPrime) {
+    Empty_Results(row);
+    Attempt([&] { cFlex.Set_Text(row, BoltColumn::C, Format_Number(C, resultPattern)); });
+    Attempt([&] { cFlex.Set_Text(row, BoltColumn::CPrime, Format_Number(CPrime, resultPattern)); });
+    Remark_On(row, C);
+}
+
+void BoltPage::Remark_On(int row, double C) {
+    if (!IsBoltRowComplete(cFlex, row))
+        return;
+    const Inputs inputs = Row_Inputs(row);
+    const auto balanced = BalancedBoltCoefficient(inputs.Group, inputs.ex, inputs.Angle);
+    cFlex.Set_Remark(row, BoltColumn::C, BalanceRemark(C, balanced, BoltRemarkTolerance));
+}
+
+void BoltPage::Empty_Results(int row) {
+    cFlex.Set_Text(row, BoltColumn::C, {});
+    cFlex.Set_Text(row, BoltColumn::CPrime, {});
+}
+
+void BoltPage::AddRow_Click() {
+    if (!Commit_Editor() || cFlex.Rows() > MostBoltRows)
+        return; // closing, or a further row could not be saved
+    BoltRowCount_ = BoltRowCount_ + 1;
+    cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
+    const int row = cFlex.Rows() - 1;
+    cFlex.Set_TopRow(cFlex.Rows() - rowsBelowTop);
+    Lay_Out_Row(row);
+    cFlex.Move_To(row, cFlex.Col());
+    RemRowButton.Enable(true);
+}
+
+void BoltPage::RemRow_Click() {
+    BoltRowCount_ =
+        static_cast<float>(Largest_Of({LeastBoltRowCount, static_cast<double>(BoltRowCount_) - 1}));
+    const int rows = Whole_32(static_cast<double>(BoltRowCount_));
+    for (int row = rows; row < cFlex.Rows(); ++row)
+        ++newestSearch_[row];
+    if (cFlex.Row() >= rows)
+        editing_.Hide(); // what is being typed there goes with the row
+    cFlex.Set_Rows(rows);
+    RemRowButton.Enable(BoltRowCount_ > LeastBoltRowCount);
+    Show_Selected();
+}
+
+// What is still in the editor counts. False: the program is closing.
+bool BoltPage::Commit_Editor() {
+    editing_.Leave();
+    return desk_.Host.Events.Yield();
+}
+
+void BoltPage::Fill_BoltEntries() {
+    BoltEntries_.clear();
+    for (int row = 1; row < cFlex.Rows(); ++row) {
+        if (!IsBoltRowComplete(cFlex, row))
+            continue;
+        BoltRow& entry = BoltEntries_.emplace_back();
+        entry.RowNumber = static_cast<std::int16_t>(row);
+        int col = BoltColumn::FirstInput;
+        for (std::string& text : entry.Texts)
+            text = cFlex.Text(row, col++);
+    }
+}
+
+// The last message comes after the one of a file that could not be written, too: intended.
+void BoltPage::Save_Click() {
+    if (!Commit_Editor())
+        return;
+    Messages& boxes = desk_.Host.Boxes;
+    if (CountBoltRows(cFlex) < 1) {
+        boxes.Show("No Entries to Save ! ", "For Your Info:", MessageIcon::Exclamation);
+        return;
+    }
+    Fill_BoltEntries();
+    WriteBoltFile(BoltEntries_, File(), boxes);
+    boxes.Show("Entries succesfully Saved ! ", "Warning:", MessageIcon::Information);
+}
+
+void BoltPage::Clear_Click() {
+    if (!Commit_Editor())
+        return;
+    Messages& boxes = desk_.Host.Boxes;
+    if (CountBoltRows(cFlex) < 1) {
+        boxes.Show("No Entries to Clear ! ", "Warning:", MessageIcon::Exclamation);
+        return;
+    }
+    if (!boxes.Ask_Yes_No("Are you sure you really want to clear Entries?",
+                          "Warning:", MessageIcon::Stop))
+        return;
+    editing_.Hide();
+    Clear_Rows();
+    Show_Selected();
+    std::error_code ignored;
+    std::filesystem::remove(File(), ignored);
+}
+
+void BoltPage::Clear_Rows() {
+    for (int row = 1; row < cFlex.Rows(); ++row) {
+        ++newestSearch_[row];
+        for (int col = BoltColumn::FirstInput; col < BoltColumn::Count; ++col)
+            cFlex.Set_Text(row, col, {});
+    }
+}
+
+std::filesystem::path BoltPage::File() const {
+    return desk_.Host.Places.Data / BoltFileName;
+}
+
+} // namespace Tensarix

@@ -1,0 +1,92 @@
+// The bolt coefficient page: a table of bolt groups, one a row, computed as they are typed in. It
+// is kept from run to run in a file that only Save writes and only Clear deletes.
+#pragma once
+
+#include "connections/BoltFunctions.h"
+#include "connections/DataHandling.h"
+#include "controls/CellEditing.h"
+#include "controls/Controls.h"
+#include "controls/FlexGrid.h"
+#include "desk/Desk.h"
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace Tensarix {
+
+// The columns of the table. Lengths are in any one unit, the angle in degrees.
+namespace BoltColumn {
+inline constexpr int Number = 0, m = 1, n = 2, sv = 3, sh = 4, ex = 5, Angle = 6;
+inline constexpr int C = 7, CPrime = 8;
+inline constexpr int Count = 9;
+inline constexpr int FirstInput = m, LastInput = Angle;
+} // namespace BoltColumn
+
+inline constexpr int LeastBoltRowCount = 16; // the head row counts
+
+// True if no input of the row is blank.
+bool IsBoltRowComplete(const FlexGrid& grid, int row);
+// Of the rows below the head.
+int CountBoltRows(const FlexGrid& grid);
+// A text that isn't blank becomes a number with three to five decimals. Whole numbers too:
+// intended. Fails beyond the range of a number.
+void ModifyTextC(TextBox& editor);
+
+class BoltPage {
+  public:
+    FlexGrid cFlex;          // the table
+    FlexGrid ccFlex, xxFlex; // the current row once more
+    Label RowRemark;         // what is to be said about it
+    TextBox EdiTxt;          // over the cell that is being edited
+    Button AddRowButton, RemRowButton, SaveButton, ClearButton;
+
+    explicit BoltPage(Desk& desk);
+    BoltPage(const BoltPage&) = delete;
+
+    // Once at start: the saved count of rows, the grids, the saved entries.
+    void Start();
+    void Save_Settings() const;
+
+    void Init_cFlex();
+    void Init_valFlex();
+    void LoadBoltEntries();
+    // The two results of a row, or blanks if an input is missing. Lets the event loop turn, so that
+    // rows can be edited meanwhile; of several searches of one row the newest counts, and one whose
+    // row is emptied or removed meanwhile writes nothing.
+    void Calculate_C(int row);
+
+  private:
+    struct Inputs {
+        BoltGroup Group;
+        double ex = 0;
+        double Angle = 0;
+    };
+
+    void Add_Editing();
+    void Show_Selected(); // the current row in the small grids
+    void Take_Row_Count();
+    void Lay_Out_Row(int row);
+    void AddRow_Click();
+    void RemRow_Click();
+    void Save_Click();
+    void Clear_Click();
+    void Fill_BoltEntries();
+    Inputs Row_Inputs(int row) const;
+    double Search(int row, const Inputs& inputs, unsigned search);
+    void Show_Results(int row, double C, double CPrime);
+    void Remark_On(int row, double C);
+    void Empty_Results(int row);
+    void Clear_Rows();
+    bool Commit_Editor();
+    std::filesystem::path File() const;
+
+    Desk& desk_;
+    float BoltRowCount_ = LeastBoltRowCount;
+    std::vector<BoltRow> BoltEntries_;
+    std::map<int, unsigned> newestSearch_; // by row
+    CellEditing editing_;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,142 @@
+// One run of the search on the weld page.
+#include "common/Failure.h"
+#include "common/NumberText.h"
+#include "connections/Balance.h"
+#include "connections/WeldPage.h"
+
+#include <cmath>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr std::int16_t stripsPerUnit[] = {4, 8, 16, 32}; // by the position in the list
+constexpr std::string_view resultPattern = "0.00000  ";
+constexpr Colour black = 0x000000;
+constexpr Colour red = 0x0000FF;
+
+// The empty lines around the headings repeat the first character of a line break alone: intended.
+std::string Ending(std::string_view heading, std::string_view reference,
+                   std::string_view referenceNextLine) {
+    const std::string twoReturns(2, ReportLineBreak.front());
+    std::string text = twoReturns;
+    text.append(heading).append(twoReturns);
+    for (const std::string_view line :
+         {reference, referenceNextLine, std::string_view{" Note: Weld stress calculation is"},
+          std::string_view{"       based on 1/16\" weld size."}})
+        text.append(line).append(ReportLineBreak);
+    return text;
+}
+
+} // namespace
+
+// The page as the search sees it.
+class WeldPage::Display final : public WeldDisplay {
+  public:
+    explicit Display(WeldPage& page) : page_(page) {}
+
+    std::int64_t Now() override {
+        return static_cast<std::int64_t>(std::floor(page_.desk_.Host.Time.Seconds()));
+    }
+    bool HasText() override {
+        return page_.IterationDisplayBox.Text().find_first_not_of(' ') != std::string::npos;
+    }
+    void Replace_Text(std::string_view text) override { page_.IterationDisplayBox.Set_Text(text); }
+    void Append_Text(std::string_view text) override { page_.IterationDisplayBox.Append(text); }
+    void Show_Elapsed(std::string_view caption) override {
+        page_.ElapsedIndicator.Set_Caption(std::string{caption});
+    }
+
+  private:
+    WeldPage& page_;
+};
+
+// What is typed in, trimmed; none if any of it is empty.
+std::optional<std::array<std::string, 4>> WeldPage::Typed_Inputs() const {
+    std::array<std::string, 4> typed;
+    for (int row = WeldRow::L; row <= WeldRow::Angle; ++row) {
+        std::string& text = typed[static_cast<std::size_t>(row)];
+        text = Trim(WeldFlex.Text(row, 1));
+        if (text.empty())
+            return std::nullopt;
+    }
+    return typed;
+}
+
+WeldPage::Outcome WeldPage::RunWeldIteration(unsigned run) {
+    state_.StripsPerUnit = stripsPerUnit[WeldStripIndex_];
+    const auto typed = Typed_Inputs();
+    if (!typed) {
+        desk_.Host.Boxes.Show("Incomplete Parameter Input ! ", "Warning:", MessageIcon::Stop);
+        return Outcome::Incomplete;
+    }
+    try {
+        const auto value = [&typed](int row) {
+            return Leading_Value((*typed)[static_cast<std::size_t>(row)]);
+        };
+        const Inputs inputs{value(WeldRow::L), value(WeldRow::kL), value(WeldRow::aL),
+                            value(WeldRow::Angle)};
+        state_.StopRequested = false;
+        Empty_Report();
+        return Search(inputs, run);
+    } catch (const Failure&) {
+        return Outcome::Failed; // a base length of 0, or numbers out of range
+    } catch (const SearchAbandoned&) {
+        return Outcome::Abandoned;
+    }
+}
+
+WeldPage::Outcome WeldPage::Search(const Inputs& inputs, unsigned run) {
+    Display display(*this);
+    auto turn = [this, run] { return desk_.Host.Events.Yield() && newest_ == run; };
+    SearchYield yield{turn, WeldYieldStride};
+    WeldSearch search{state_, display, yield};
+    const double C = WeldConfigurationResult(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL,
+                                             inputs.Angle, WeldModeC, search);
+    if (state_.StopRequested) {
+        Show_Aborted(inputs, C);
+        return Outcome::Stopped;
+    }
+    Show_Converged(inputs, C);
+    return Outcome::Finished;
+}
+
+void WeldPage::Show_Converged(const Inputs& inputs, double C) {
+    IterationDisplayBox.Append(Ending(" ** Instantaneous Center LOCATED !",
+                                      " Reference: AISC Steel Construction",
+                                      "            Manual, 13th Edition"));
+    CBox.Set_Fore(black);
+    CBox.Set_Text(Format_Number(C, resultPattern));
+    CRemark.Set_Caption(Balance_Remark(inputs, C));
+}
+
+// Its reference is worded in another way: intended.
+void WeldPage::Show_Aborted(const Inputs& inputs, double C) {
+    IterationDisplayBox.Append(Ending(" ** Iteration ABORTED !",
+                                      " Reference: AISC Construction Manual",
+                                      "            13th Edition"));
+    CBox.Set_Fore(red);
+    CBox.Set_Text("** " + Format_Number(C, resultPattern));
+    const std::string balance = Balance_Remark(inputs, C);
+    CRemark.Set_Caption("Stopped by hand before the search had come to its end." +
+                        (balance.empty() ? balance : "\n" + balance));
+}
+
+std::string WeldPage::Balance_Remark(const Inputs& inputs, double C) const {
+    const auto balanced =
+        BalancedWeldCoefficient(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
+    return BalanceRemark(C, balanced, WeldRemarkTolerance);
+}
+
+double WeldPage::Centroid(std::int16_t mode) {
+    WeldState state;
+    Display display(*this);
+    auto turn = [] { return true; };
+    SearchYield yield{turn};
+    WeldSearch search{state, display, yield}; // of which a centroid makes no use
+    return WeldConfigurationResult(WeldConfigIndex_, Leading_Value(WeldFlex.Text(WeldRow::L, 1)),
+                                   Leading_Value(WeldFlex.Text(WeldRow::kL, 1)), 0, 0, mode,
+                                   search);
+}
+
+} // namespace Tensarix

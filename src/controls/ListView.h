@@ -1,0 +1,45 @@
+// A list of items with icons, of which one is the current one.
+#pragma once
+
+#include "controls/View.h"
+
+#include <string>
+#include <vector>
+
+namespace Tensarix {
+
+struct ListItem {
+    std::string Key;
+    std::string Text;
+    std::string Icon; // the name under which the program holds the drawing
+};
+
+// Items count from 1.
+class ListView {
+  public:
+    Handler OnItemClick; // an item was chosen, or the current one once more
+    View Shown;
+
+    void Clear();
+    void Add(ListItem item);
+    int Count() const { return static_cast<int>(items_.size()); }
+    // Fails outside 1 .. Count.
+    const ListItem& Item(int index) const;
+
+    // 0: none.
+    int SelectedItem() const { return selected_; }
+    // Makes it the current one; no handler runs. Fails outside 1 .. Count.
+    void Select(int index);
+    // What the user does. Without effect on a disabled list; fails outside 1 .. Count.
+    void Click(int index);
+
+    bool Enabled() const { return enabled_; }
+    void Enable(bool enabled);
+
+  private:
+    std::vector<ListItem> items_;
+    int selected_ = 0;
+    bool enabled_ = true;
+};
+
+} // namespace Tensarix

@@ -1,0 +1,81 @@
+#include "window/DesignForm.h"
+
+#include "ui_BoltForm.h"
+#include "ui_WeldForm.h"
+#include "window/Bind.h"
+#include "window/CellOverlay.h"
+
+#include <QTabWidget>
+
+#include <cmath>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int remarkLines = 4;
+
+// A small grid shows all its rows.
+void Fit_Rows(GridView* view, const FlexGrid& grid) {
+    long height = 0;
+    for (int row = 0; row < grid.Rows(); ++row)
+        height += std::lround(grid.RowHeight(row) * view->Twip_Scale());
+    view->setFixedHeight(static_cast<int>(height) + 2 * view->frameWidth());
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
+    auto* form = new QWidget(parent);
+    Ui::BoltForm ui;
+    ui.setupUi(form);
+    Bind(ui.cFlex, page.cFlex);
+    Lay_Over(ui.cFlex, page.cFlex, page.EdiTxt, QStringLiteral("EdiTxt"),
+             QStringLiteral("Bolt group input"));
+    Bind(ui.ccFlex, page.ccFlex);
+    Bind(ui.xxFlex, page.xxFlex);
+    Fit_Rows(ui.ccFlex, page.ccFlex);
+    Fit_Rows(ui.xxFlex, page.xxFlex);
+    Bind(ui.RowRemark, page.RowRemark);
+    Bind(ui.AddRowButton, page.AddRowButton);
+    Bind(ui.RemRowButton, page.RemRowButton);
+    Bind(ui.SaveButton, page.SaveButton);
+    Bind(ui.ClearButton, page.ClearButton);
+    return form;
+}
+
+QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
+    auto* form = new QWidget(parent);
+    Ui::WeldForm ui;
+    ui.setupUi(form);
+    Bind(ui.WeldView, page.WeldView);
+    Bind(ui.WeldImage, page.WeldImage);
+    Bind(ui.WeldFlex, page.WeldFlex);
+    Lay_Over(ui.WeldFlex, page.WeldFlex, page.EdiTxtA, QStringLiteral("EdiTxtA"),
+             QStringLiteral("Weld parameter"));
+    Fit_Rows(ui.WeldFlex, page.WeldFlex);
+    Bind(ui.WeldStripBox, page.WeldStripBox);
+    Bind(ui.IterationDisplayBox, page.IterationDisplayBox);
+    Bind(ui.ElapsedIndicator, page.ElapsedIndicator);
+    Bind(ui.CBox, page.CBox);
+    Bind(ui.CRemark, page.CRemark);
+    // Its room is kept, so that nothing moves when a run ends.
+    ui.CRemark->setMinimumHeight(remarkLines * ui.CRemark->fontMetrics().lineSpacing());
+    Bind(ui.StartIterationButton, page.StartIterationButton);
+    Bind(ui.StopIterationButton, page.StopIterationButton);
+    Bind(ui.ClearDisplayButton, page.ClearDisplayButton);
+    return form;
+}
+
+} // namespace
+
+QWidget* Make_Design_Form(DesignPage& page, QWidget* parent) {
+    auto* tabs = new QTabWidget(parent);
+    tabs->setObjectName(QStringLiteral("DesignSSTab"));
+    tabs->addTab(Make_Bolt_Form(page.Bolts, tabs), QStringLiteral("Bolt Coefficient"));
+    tabs->addTab(Make_Weld_Form(page.Welds, tabs), QStringLiteral("Weld Coefficient"));
+    Bind(tabs, page.DesignSSTab);
+    return tabs;
+}
+
+} // namespace Tensarix

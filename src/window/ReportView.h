@@ -1,0 +1,61 @@
+// Shows a report that grows by thousands of lines a second: only the lines in view are ever laid
+// out, and what is new is taken over a few times a second. Whole lines can be selected and copied.
+#pragma once
+
+#include "controls/ReportBox.h"
+
+#include <QAbstractScrollArea>
+#include <QTimer>
+
+#include <vector>
+
+namespace Tensarix {
+
+class ReportView : public QAbstractScrollArea {
+    Q_OBJECT
+
+  public:
+    explicit ReportView(QWidget* parent = nullptr);
+    ~ReportView() override;
+
+    // Once, by Bind.
+    void Show_Report(ReportBox& box);
+    // Takes over at once what is new.
+    void Flush();
+    int Lines() const { return static_cast<int>(starts_.size()); }
+    // Without its line break.
+    QString Line(int line) const;
+
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+  private:
+    void Add_Action(const QString& text, QKeySequence::StandardKey key, void (ReportView::*run)());
+    void Index_New();
+    void Measure();
+    void Describe();
+    void Copy();
+    void Select_All();
+    int Line_At(const QPoint& point) const;
+    int Line_Height() const;
+
+    ReportBox* box_ = nullptr;
+    QTimer timer_;
+    std::vector<std::size_t> starts_; // of the lines, in the box's text
+    std::size_t indexed_ = 0;         // so much of the text
+    std::size_t longest_ = 0;         // bytes of a line
+    unsigned version_ = ~0u;
+    int anchor_ = -1, end_ = -1; // the selected lines; -1: none
+};
+
+void Bind(ReportView* widget, ReportBox& control);
+
+} // namespace Tensarix

@@ -1,0 +1,335 @@
+#include "StandIns.h"
+#include "common/FileImage.h"
+#include "connections/BoltPage.h"
+
+#include <gtest/gtest.h>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+class BoltPageTest : public testing::Test {
+  protected:
+    TestMachine machine;
+    Desk desk{machine.Host};
+    std::unique_ptr<BoltPage> page;
+
+    BoltPage& Start() {
+        page = std::make_unique<BoltPage>(desk);
+        page->Start();
+        return *page;
+    }
+    // As typed: the editor is opened, filled and left by Enter.
+    void Type(int row, int col, const std::string& text) {
+        page->cFlex.Move_To(row, col);
+        page->cFlex.OnKeyDown(Keys::F2);
+        page->EdiTxt.Set_Text(text);
+        page->EdiTxt.OnKeyDown(Keys::Enter);
+    }
+    void Type_Row(int row, const std::vector<std::string>& texts) {
+        int col = 1;
+        for (const std::string& text : texts)
+            Type(row, col++, text);
+    }
+    const std::string& Cell(int row, int col) { return page->cFlex.Text(row, col); }
+    const std::string& Remark(int row) { return page->cFlex.Remark(row, BoltColumn::C); }
+    std::filesystem::path File() { return machine.Data.Path / BoltFileName; }
+};
+
+const std::vector<std::string> sixInLine{"6", "1", "3", "3", "4", "0"};
+const std::vector<std::string> overshooting{"6", "2", "3", "3", "6", "75"};
+
+} // namespace
+
+TEST_F(BoltPageTest, ARowIsComputedWhenItsLastInputIsThere) {
+    BoltPage& p = Start();
+    Type_Row(5, {"6", "1", "3", "3", "4"});
+    EXPECT_EQ(Cell(5, 7), "");
+    Type(5, 6, "0");
+    EXPECT_EQ(Cell(5, 1), "6.000  ");
+    EXPECT_EQ(Cell(5, 7), "4.558  ");
+    EXPECT_EQ(Cell(5, 8), "25.093  ");
+    EXPECT_EQ(Remark(5), "");
+    EXPECT_EQ(p.cFlex.Row(), 6); // Enter goes down
+    p.cFlex.Move_To(5, 3);
+    EXPECT_EQ(p.ccFlex.Text(0, 1), "6.000  ");
+    EXPECT_EQ(p.xxFlex.Text(1, 1), "0.000°  ");
+    EXPECT_EQ(p.xxFlex.Text(3, 1), "25.093  ");
+    p.cFlex.OnKeyDown(Keys::Delete);
+    EXPECT_EQ(Cell(5, 7) + Cell(5, 8), "");
+    EXPECT_EQ(p.xxFlex.Text(2, 1) + p.ccFlex.Text(2, 1), "");
+}
+
+TEST_F(BoltPageTest, TextsThatAreNoNumbersOrOutOfRange) {
+    Start();
+    struct Case {
+        const char *typed, *kept;
+    };
+    for (const Case& c : {Case{"abc", "0.000  "}, Case{"1.2.3", "1.200  "}, Case{".5", "0.500  "},
+                          Case{"3.1234567", "3.12346  "}, Case{"   ", "   "}}) {
+        Type(1, 3, c.typed);
+        EXPECT_EQ(Cell(1, 3), c.kept) << c.typed;
+    }
+    Type_Row(2, {"40000", "1", "3", "3", "4", "0"}); // beyond 16 bits: counts as 0
+    EXPECT_EQ(Cell(2, 7), "0.000  ");
+    Type_Row(3, {"1", "1", "3", "3", "4", "0"});
+    EXPECT_EQ(Cell(3, 7) + Cell(3, 8), "0.000  0.000  ");
+    Type_Row(4, {"2", "2", "1E300", "3", "1E300", "0"});
+    EXPECT_NE(Cell(4, 7), "");
+}
+
+TEST_F(BoltPageTest, TheKeysOfTheEditor) {
+    BoltPage& p = Start();
+    p.cFlex.Move_To(1, 1);
+    p.cFlex.OnKeyPress('x');
+    EXPECT_FALSE(p.EdiTxt.Visible());
+    p.cFlex.OnKeyPress('1');
+    EXPECT_TRUE(p.EdiTxt.Visible());
+    p.EdiTxt.Set_Text("1.5");
+    EXPECT_EQ(p.EdiTxt.OnKeyPress('.'), 0);
+    EXPECT_EQ(p.EdiTxt.OnKeyPress('7'), '7');
+    p.EdiTxt.OnKeyDown(Keys::Tab);
+    EXPECT_EQ(Cell(1, 1), "1.500  ");
+    EXPECT_EQ(p.cFlex.Col(), 2);
+    for (int col : {0, 7, 8}) {
+        p.cFlex.Move_To(1, col);
+        p.cFlex.OnKeyPress('1');
+        p.cFlex.OnKeyDown(Keys::Delete);
+        p.cFlex.OnDblClick();
+        EXPECT_FALSE(p.EdiTxt.Visible()) << col;
+    }
+    EXPECT_EQ(Cell(1, 0), "1");
+}
+
+TEST_F(BoltPageTest, AnUnbalancedResultCarriesARemark) {
+    BoltPage& p = Start();
+    Type_Row(1, {"3", "1", "3", "3", "8", "0"});
+    EXPECT_EQ(Cell(1, 7), "3.000  ");
+    EXPECT_TRUE(Remark(1).starts_with("The centre that satisfies all equilibrium conditions"));
+    p.cFlex.Move_To(1, 1);
+    EXPECT_EQ(p.RowRemark.Caption(), Remark(1));
+    p.SaveButton.Click();
+    Start();
+    EXPECT_FALSE(Remark(1).empty()); // a saved result is no better
+    EXPECT_TRUE(Remark(2).empty());
+}
+
+TEST_F(BoltPageTest, AddAndRemoveRows) {
+    BoltPage& p = Start();
+    EXPECT_EQ(p.cFlex.Rows(), 16);
+    EXPECT_FALSE(p.RemRowButton.Enabled());
+    p.AddRowButton.Click();
+    p.AddRowButton.Click();
+    EXPECT_EQ(p.cFlex.Rows(), 18);
+    EXPECT_EQ(p.cFlex.TopRow(), 7);
+    EXPECT_EQ(p.cFlex.Row(), 17);
+    EXPECT_EQ(Cell(17, 0), "17");
+    EXPECT_EQ(p.cFlex.Style(17, 1), p.cFlex.Style(1, 1));
+    EXPECT_EQ(p.cFlex.Style(17, 8), p.cFlex.Style(1, 8));
+    Type_Row(17, sixInLine);
+    p.cFlex.Move_To(17, 2);
+    p.cFlex.OnKeyDown(Keys::F2);
+    p.RemRowButton.Click(); // with what is being typed there
+    p.RemRowButton.Click();
+    EXPECT_FALSE(p.EdiTxt.Visible());
+    EXPECT_EQ(p.cFlex.Rows(), 16);
+    EXPECT_EQ(p.ccFlex.Text(0, 1), "");
+    EXPECT_FALSE(p.RemRowButton.Enabled());
+    p.RemRowButton.OnClick();
+    EXPECT_EQ(p.cFlex.Rows(), 16);
+    p.AddRowButton.Click();
+    EXPECT_EQ(Cell(16, 1), "");
+    p.Save_Settings();
+    EXPECT_EQ(machine.Store.Get("cFlexRows"), "17");
+}
+
+TEST_F(BoltPageTest, TheSavedCountOfRows) {
+    struct Case {
+        const char* saved;
+        int rows;
+    };
+    for (const Case& c : {Case{"20", 20}, Case{"20.5", 20}, Case{"3", 16}, Case{"-5", 16},
+                          Case{"abc", 16}, Case{"1E9", 16}, Case{"32768", 32768}}) {
+        machine.Store.Set("cFlexRows", c.saved);
+        EXPECT_EQ(Start().cFlex.Rows(), c.rows) << c.saved;
+    }
+    page->AddRowButton.Click(); // a row that could not be saved
+    EXPECT_EQ(page->cFlex.Rows(), 32768);
+}
+
+TEST_F(BoltPageTest, SaveAndTheNextStart) {
+    BoltPage& p = Start();
+    p.SaveButton.Click();
+    EXPECT_EQ(machine.Boxes.Shown.back(), "For Your Info:|No Entries to Save ! |exclamation");
+    Type_Row(5, sixInLine);
+    Type_Row(6, {"6", "1"}); // not complete: not saved
+    p.AddRowButton.Click();
+    Type_Row(16, sixInLine);
+    p.cFlex.Move_To(16, 5);
+    p.cFlex.OnKeyDown(Keys::F2);
+    p.EdiTxt.Set_Text("0"); // still in the editor
+    p.SaveButton.Click();
+    EXPECT_EQ(machine.Boxes.Shown.back(), "Warning:|Entries succesfully Saved ! |information");
+    const std::size_t messages = machine.Boxes.Shown.size();
+    p.Save_Settings();
+
+    Start();
+    EXPECT_EQ(Cell(5, 7), "4.558  ");
+    EXPECT_EQ(Cell(6, 1), "");
+    EXPECT_EQ(Cell(16, 5), "0.000  ");
+    EXPECT_EQ(Cell(16, 7), "6.000  ");
+    machine.Store.Set("cFlexRows", "16");
+    Start();
+    EXPECT_EQ(page->cFlex.Rows(), 16); // row 16 is beyond the grid now
+    EXPECT_EQ(Cell(5, 7), "4.558  ");
+    EXPECT_EQ(machine.Boxes.Shown.size(), messages);
+}
+
+TEST_F(BoltPageTest, ClearAsksAndDeletesTheFile) {
+    BoltPage& p = Start();
+    p.ClearButton.Click();
+    EXPECT_EQ(machine.Boxes.Shown.back(), "Warning:|No Entries to Clear ! |exclamation");
+    Type_Row(1, sixInLine);
+    Type(2, 1, "9");
+    p.SaveButton.Click();
+    machine.Boxes.Answer = false;
+    p.ClearButton.Click();
+    EXPECT_EQ(machine.Boxes.Shown.back(),
+              "Warning:|Are you sure you really want to clear Entries?|stop");
+    EXPECT_EQ(Cell(1, 7), "4.558  ");
+    machine.Boxes.Answer = true;
+    p.ClearButton.Click();
+    for (int col = 1; col < BoltColumn::Count; ++col)
+        EXPECT_EQ(Cell(1, col) + Cell(2, col), "") << col;
+    EXPECT_EQ(Cell(1, 0), "1");
+    EXPECT_FALSE(std::filesystem::exists(File()));
+    EXPECT_TRUE(std::filesystem::is_empty(machine.Data.Path));
+}
+
+// The writer never makes such rows; the heads stay whatever a file says.
+TEST_F(BoltPageTest, RowNumbersOfADamagedFile) {
+    ScriptedMessages quiet;
+    std::vector<BoltRow> rows;
+    for (const std::int16_t number : {std::int16_t{0}, std::int16_t{-1}, std::int16_t{-32768},
+                                      std::int16_t{16}, std::int16_t{32767}, std::int16_t{15}})
+        rows.push_back({number, {"x", "x", "x", "x", "x", "x", "x", "x"}});
+    WriteBoltFile(rows, File(), quiet);
+    Start();
+    EXPECT_EQ(Cell(0, 5), "Load Eccentricity");
+    EXPECT_EQ(Cell(14, 1), "");
+    EXPECT_EQ(Cell(15, 8), "x");
+}
+
+TEST_F(BoltPageTest, ARowThatIsBeingComputedShowsIt) {
+    BoltPage& p = Start();
+    std::string remark, results = "none yet";
+    machine.Events.OnYield = [&] {
+        if (remark.empty()) {
+            p.cFlex.Move_To(1, 6);
+            remark = p.RowRemark.Caption();
+            results = Cell(1, 7) + Cell(1, 8);
+        }
+        return true;
+    };
+    Type_Row(1, overshooting);
+    EXPECT_EQ(remark, "Computing ...");
+    EXPECT_EQ(results, "");
+    EXPECT_EQ(Cell(1, 7), "12.000  ");
+    EXPECT_NE(p.RowRemark.Caption(), "Computing ...");
+}
+
+// What happens to a row while it is being computed.
+TEST_F(BoltPageTest, TheNewestInputsResultStands) {
+    BoltPage& p = Start();
+    int nested = 0;
+    std::function<void()> meanwhile;
+    machine.Events.OnYield = [&] {
+        if (nested++ == 0)
+            meanwhile();
+        return true;
+    };
+    const auto during = [&](std::function<void()> what) {
+        meanwhile = std::move(what);
+        for (int col = 1; col < BoltColumn::Count; ++col)
+            p.cFlex.Set_Text(1, col, "");
+        nested = 0;
+        Type_Row(1, overshooting);
+        ASSERT_GT(nested, 0);
+    };
+    during([&] { Type(1, 6, "0"); });
+    EXPECT_EQ(Cell(1, 7), "7.310  ");
+    EXPECT_EQ(Cell(1, 8), "54.167  ");
+
+    during([&] { Type_Row(2, sixInLine); }); // each result in its own row
+    EXPECT_EQ(Cell(1, 7), "12.000  ");
+    EXPECT_EQ(Cell(2, 7), "4.558  ");
+
+    during([&] {
+        p.cFlex.Move_To(1, 4);
+        p.cFlex.OnKeyDown(Keys::Delete);
+    });
+    EXPECT_EQ(Cell(1, 7) + Cell(1, 8) + Remark(1), "");
+
+    during([&] {
+        Type_Row(1, sixInLine);
+        p.ClearButton.Click();
+    });
+    EXPECT_EQ(Cell(1, 1) + Cell(1, 7) + Remark(1), "");
+}
+
+TEST_F(BoltPageTest, ARowRemovedWhileItIsComputed) {
+    BoltPage& p = Start();
+    p.AddRowButton.Click();
+    int nested = 0;
+    machine.Events.OnYield = [&] {
+        if (nested++ == 0) {
+            p.RemRowButton.Click();
+            p.AddRowButton.Click(); // an empty one in its place
+        }
+        return true;
+    };
+    Type_Row(16, overshooting);
+    for (int col = 1; col < BoltColumn::Count; ++col)
+        EXPECT_EQ(Cell(16, col), "") << col;
+}
+
+// A click on the last row commits first; by the time the row is gone.
+TEST_F(BoltPageTest, TheRowThatIsGoneToIsRemovedMeanwhile) {
+    BoltPage& p = Start();
+    p.AddRowButton.Click();
+    Type_Row(1, {"6", "2", "3", "3", "6"});
+    p.cFlex.Move_To(1, 6);
+    p.cFlex.OnKeyDown(Keys::F2);
+    p.EdiTxt.Set_Text("75");
+    machine.Events.OnYield = [&] {
+        p.RemRowButton.Click();
+        return true;
+    };
+    p.cFlex.Press(16, 1);
+    EXPECT_EQ(p.cFlex.Rows(), 16);
+    EXPECT_EQ(p.cFlex.Row(), 1);
+    EXPECT_EQ(Cell(1, 7), "12.000  ");
+}
+
+TEST_F(BoltPageTest, ClosingEndsSearchesAtAnyDepthAndShowsNoMessage) {
+    BoltPage& p = Start();
+    Type_Row(2, sixInLine);
+    int depth = 0;
+    bool closing = false;
+    machine.Events.OnYield = [&] {
+        if (!closing && ++depth <= 5)
+            Type_Row(2 + depth, overshooting);
+        closing = true;
+        return false;
+    };
+    p.cFlex.Move_To(1, 1);
+    Type_Row(1, {"6", "2", "3", "3", "6"});
+    p.cFlex.Move_To(1, 6);
+    p.cFlex.OnKeyDown(Keys::F2);
+    p.EdiTxt.Set_Text("75");
+    p.SaveButton.Click(); // commits first, which starts the search
+    EXPECT_EQ(depth, 6);
+    EXPECT_TRUE(machine.Boxes.Shown.empty());
+    EXPECT_EQ(Cell(1, 7), "");
+}

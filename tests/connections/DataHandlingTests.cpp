@@ -1,0 +1,146 @@
+#include "StandIns.h"
+#include "common/FileImage.h"
+#include "connections/DataHandling.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <random>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+class BoltFileTest : public testing::Test {
+  protected:
+    FreshFolder folder;
+    ScriptedMessages boxes;
+    std::filesystem::path path = folder.Path / BoltFileName;
+    std::filesystem::path aside = folder.Path / "BoltInputData.dat.unreadable";
+    std::vector<BoltRow> entries;
+
+    void Put(const Bytes& bytes) {
+        std::ofstream file(path, std::ios::binary | std::ios::trunc);
+        file.write(reinterpret_cast<const char*>(bytes.data()),
+                   static_cast<std::streamsize>(bytes.size()));
+    }
+    bool Failed() {
+        bool failed = true;
+        ReadBoltFile(entries, path, failed, boxes);
+        return failed;
+    }
+    static std::vector<BoltRow> Two_Rows() {
+        return {{5,
+                 {"6.000  ", "1.000  ", "3.000  ", "3.000  ", "4.000  ", "0.000  ", "4.558  ",
+                  "25.093  "}},
+                {300, {"Ø", "", "°", "x", "\xFF", "", "", "1"}}};
+    }
+};
+
+} // namespace
+
+TEST_F(BoltFileTest, ByteForByte) {
+    WriteBoltFile({{258, {"6", "", "3", "", "", "", "", "Ø"}}}, path, boxes);
+    const Bytes expected{1, 0, 1, 0,   0, 0, 0, 0, 0, 0, 2, 1, 1, 0, '6',  0,
+                         0, 1, 0, '3', 0, 0, 0, 0, 0, 0, 0, 0, 2, 0, 0xC3, 0x98};
+    EXPECT_EQ(Read_Whole_File(path), expected);
+}
+
+TEST_F(BoltFileTest, WhatWasWrittenIsRead) {
+    WriteBoltFile(Two_Rows(), path, boxes);
+    EXPECT_FALSE(Failed());
+    EXPECT_EQ(entries, Two_Rows());
+    EXPECT_TRUE(boxes.Shown.empty());
+}
+
+TEST_F(BoltFileTest, AMissingFileIsMadeEmptyAndAnEmptyOneHasNoRecords) {
+    EXPECT_FALSE(Failed());
+    EXPECT_EQ(Read_Whole_File(path), Bytes{});
+    EXPECT_FALSE(Failed());
+    EXPECT_TRUE(entries.empty());
+    EXPECT_TRUE(boxes.Shown.empty());
+    EXPECT_FALSE(std::filesystem::exists(aside));
+}
+
+TEST_F(BoltFileTest, CutShortAnywhereItsTextsAreEmptyFromThere) {
+    WriteBoltFile(Two_Rows(), path, boxes);
+    const Bytes whole = *Read_Whole_File(path);
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        Put(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)));
+        EXPECT_FALSE(Failed()) << length;
+        ASSERT_LE(entries.size(), 2u);
+        bool missing = false;
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            EXPECT_EQ(entries[i].RowNumber, Two_Rows()[i].RowNumber) << length;
+            for (std::size_t k = 0; k < BoltTextCount; ++k) {
+                missing = missing || entries[i].Texts[k] != Two_Rows()[i].Texts[k];
+                EXPECT_EQ(entries[i].Texts[k], missing ? "" : Two_Rows()[i].Texts[k]) << length;
+            }
+        }
+    }
+    EXPECT_TRUE(boxes.Shown.empty());
+}
+
+// Its name is given up without a word, its bytes are kept.
+TEST_F(BoltFileTest, ImpossibleCounts) {
+    const std::vector<Bytes> heads{
+        {1, 0, 0x40, 0x42, 0x0F, 0, 0, 0, 0, 0},       // a million records
+        {1, 0, 0xFF, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0},    // -1
+        {1, 0, 0xFF, 0xFF, 0xFF, 0x7F, 0, 0, 0, 0},    // all that 32 bits hold
+        {2, 0, 1, 0, 0, 0, 0, 0, 0, 0},                // two dimensions
+        {1, 0, 1, 0, 0, 0, 1, 0, 0, 0},                // counted from 1
+        {'P', 'K', 3, 4, 'n', 'o', 't', ' ', 'i', 't'} // something else
+    };
+    for (const Bytes& head : heads) {
+        Put(head);
+        EXPECT_TRUE(Failed());
+        EXPECT_FALSE(std::filesystem::exists(path));
+        EXPECT_EQ(Read_Whole_File(aside), head); // the newest one alone
+    }
+    EXPECT_TRUE(entries.empty());
+    EXPECT_TRUE(boxes.Shown.empty());
+}
+
+TEST_F(BoltFileTest, WhatIsNoFileIsToldAndLeftAlone) {
+    std::filesystem::create_directory(path);
+    EXPECT_FALSE(Failed());
+    WriteBoltFile(Two_Rows(), path, boxes);
+    EXPECT_EQ(boxes.Shown, (std::vector<std::string>(
+                               2, "Warning:|Error No. 75:  Path/File access error|exclamation")));
+    EXPECT_TRUE(std::filesystem::is_directory(path));
+}
+
+TEST_F(BoltFileTest, AFailedWriteLeavesTheOldFile) {
+    WriteBoltFile(Two_Rows(), path, boxes);
+    const auto before = Read_Whole_File(path);
+    WriteBoltFile({{1, {std::string(70'000, '1')}}}, path, boxes);
+    EXPECT_EQ(boxes.Shown,
+              (std::vector<std::string>{"Warning:|Error No. 6:  Overflow|exclamation"}));
+    EXPECT_EQ(Read_Whole_File(path), before);
+}
+
+// Damage of every kind: never a crash, never more records or bytes than the file can hold.
+TEST_F(BoltFileTest, Fuzzed) {
+    WriteBoltFile(Two_Rows(), path, boxes);
+    const Bytes whole = *Read_Whole_File(path);
+    std::mt19937 random(20260101);
+    for (int round = 0; round < 400; ++round) {
+        Bytes bytes = whole;
+        const auto pick = [&random](std::size_t below) { return random() % below; };
+        for (std::size_t i = 0; i < 1 + pick(6); ++i)
+            bytes[pick(bytes.size())] = static_cast<std::uint8_t>(pick(256));
+        bytes.resize(pick(3) == 0 ? pick(bytes.size()) : bytes.size());
+        Put(bytes);
+        entries.clear();
+        const bool failed = Failed();
+        std::size_t held = 0;
+        for (const BoltRow& row : entries)
+            for (const std::string& text : row.Texts)
+                held += text.size();
+        ASSERT_LE(held, bytes.size());
+        ASSERT_LE(entries.size() * 2, bytes.size());
+        ASSERT_EQ(std::filesystem::exists(path), !failed);
+    }
+    EXPECT_TRUE(boxes.Shown.empty());
+}

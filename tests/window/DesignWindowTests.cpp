@@ -1,0 +1,249 @@
+// Connection Design through real keys, clicks and searches.
+#include "WindowTest.h"
+#include "window/GridView.h"
+#include "window/IconList.h"
+#include "window/ReportView.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <algorithm>
+#include <functional>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+class DesignWindowTest : public WindowTest {
+  protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        program->Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
+        Settle();
+    }
+    DesignPage& Design() { return program->Form().Design; }
+
+    static void Keys_(const char* text) {
+        for (const char* key = text; *key; ++key)
+            QTest::keyClick(QApplication::focusWidget(), *key);
+    }
+    static void Key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+    void Click(const char* button) {
+        QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton);
+    }
+    // Types cell by cell as a user does, with Tab.
+    void Type_Bolt_Row(int row, std::initializer_list<const char*> texts) {
+        Find<GridView>("cFlex").setFocus();
+        Design().Bolts.cFlex.Move_To(row, 1);
+        for (const char* text : texts) {
+            Keys_(text);
+            Key(Qt::Key_Tab);
+        }
+    }
+    void To_Welds() {
+        Design().DesignSSTab.Select(WeldTab);
+        Settle();
+        Find<GridView>("WeldFlex").setFocus();
+        Design().Welds.WeldFlex.Move_To(0, 1);
+    }
+    void Type_Weld(std::initializer_list<const char*> texts) {
+        To_Welds();
+        for (const char* text : texts) {
+            Keys_(text);
+            Key(Qt::Key_Return);
+        }
+    }
+    // A search of several seconds.
+    void Start_Long_Weld() {
+        WeldPage& welds = Design().Welds;
+        Design().DesignSSTab.Select(WeldTab);
+        welds.WeldView.Click(5);
+        welds.WeldStripBox.Select(3);
+        int row = 0;
+        for (const char* text : {"1000", "500", "50", "60"})
+            welds.WeldFlex.Set_Text(row++, 1, text);
+        Settle();
+        Click("StartIterationButton");
+    }
+    void When_Computing(int row, std::function<void()> what) {
+        Later(20, [this, row, what = std::move(what)] {
+            if (Design().Bolts.cFlex.Remark(row, BoltColumn::C) == "Computing ...")
+                what();
+            else
+                When_Computing(row, what);
+        });
+    }
+    // While the next search runs.
+    static void Later(int milliseconds, std::function<void()> what) {
+        QTimer::singleShot(milliseconds, std::move(what));
+    }
+    void Until_Run_Ends() {
+        ASSERT_TRUE(QTest::qWaitFor(
+            [this] { return Design().Welds.StartIterationButton.Enabled(); }, 30000));
+    }
+};
+
+const std::initializer_list<const char*> tooLong{"30", "30", "3", "3", "6", "75"};
+
+} // namespace
+
+TEST_F(DesignWindowTest, ARowIsTypedAndSavedAndComesBack) {
+    Type_Bolt_Row(2, {"6", "1", "3", "3", "4", "0"});
+    EXPECT_EQ(Design().Bolts.cFlex.Text(2, 7), "4.558  ");
+    EXPECT_EQ(Design().Bolts.cFlex.Row(), 3); // Tab goes on to the next row
+    EXPECT_FALSE(Find<QLineEdit>("EdiTxt").isVisible());
+    Later(100, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+    Click("SaveButton");
+    Stop();
+    Start();
+    EXPECT_EQ(Design().Bolts.cFlex.Text(2, 7), "4.558  ");
+}
+
+TEST_F(DesignWindowTest, AddedRowsAreInView) {
+    for (int i = 0; i < 20; ++i)
+        Click("AddRowButton");
+    Settle();
+    auto& grid = Find<GridView>("cFlex");
+    EXPECT_EQ(Design().Bolts.cFlex.Rows(), 36);
+    EXPECT_TRUE(grid.rect().contains(grid.Cell_Rect(35, 1)));
+    EXPECT_TRUE(Find<QPushButton>("RemRowButton").isEnabled());
+}
+
+TEST_F(DesignWindowTest, ConfigurationsByTheArrowKeys) {
+    To_Welds();
+    auto& list = Find<IconList>("WeldView");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Down);
+    QTest::keyClick(&list, Qt::Key_Down);
+    Settle();
+    EXPECT_EQ(Design().Welds.WeldView.SelectedItem(), 3);
+    EXPECT_EQ(Design().Welds.WeldImage.Name(), "wImage3");
+    EXPECT_EQ(Find<QLabel>("Panel1").text(), " SELECTION:   Weld Configuration 3");
+    int clicks = 0;
+    const Handler before = Design().Welds.WeldView.OnItemClick;
+    Design().Welds.WeldView.OnItemClick = [&] {
+        ++clicks;
+        before();
+    };
+    const auto press = [&](int row) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                          list.visualItemRect(list.item(row)).center());
+    };
+    press(6);
+    EXPECT_EQ(Design().Welds.WeldView.SelectedItem(), 7);
+    EXPECT_EQ(clicks, 1);
+    press(6);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(DesignWindowTest, AWeldIsTypedAndComputedAndItsReportCopied) {
+    Type_Weld({"10", "5", "4", "30"});
+    EXPECT_EQ(Design().Welds.WeldFlex.Text(3, 1), "30.000     ");
+    Click("StartIterationButton");
+    Until_Run_Ends();
+    Settle();
+    EXPECT_FALSE(Find<QLineEdit>("CBox").text().isEmpty());
+    EXPECT_TRUE(Find<QLineEdit>("CBox").isReadOnly());
+    auto& report = Find<ReportView>("IterationDisplayBox");
+    report.setFocus();
+    QTest::keyClick(&report, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&report, Qt::Key_C, Qt::ControlModifier);
+    const QString copied = QApplication::clipboard()->text();
+    EXPECT_TRUE(copied.startsWith(" -> Ro    = 0.00000 [Rotated 30°]\n    Fy[v] = "));
+    EXPECT_TRUE(copied.contains("\n\n ** Instantaneous Center LOCATED !\n\n Reference:"));
+    QTest::keyClick(&report, Qt::Key_Home);
+    EXPECT_EQ(report.verticalScrollBar()->value(), 0);
+    Click("ClearDisplayButton");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return report.Lines() == 1; }, 2000));
+}
+
+TEST_F(DesignWindowTest, StopResumeAndLeavingThePage) {
+    Later(200, [this] { Click("StopIterationButton"); });
+    Start_Long_Weld();
+    Settle();
+    EXPECT_EQ(Design().Welds.StopIterationButton.Caption(), "Resume Iteration");
+    EXPECT_TRUE(Find<QLineEdit>("CBox").text().startsWith("** "));
+    Later(150, [this] {
+        auto* bar = Find<QTabWidget>("DesignSSTab").tabBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(BoltTab).center());
+    });
+    Click("StopIterationButton"); // resumes
+    Settle();
+    EXPECT_EQ(Design().DesignSSTab.Tab(), BoltTab);
+    EXPECT_EQ(Design().Welds.StopIterationButton.Caption(), "Resume Iteration");
+    EXPECT_TRUE(Find<QLineEdit>("CBox").text().startsWith("** "));
+}
+
+// Events come through while a search runs, however deep searches are nested.
+TEST_F(DesignWindowTest, EventsDuringSearches) {
+    std::vector<qint64> gaps;
+    QElapsedTimer sinceLast;
+    QTimer ticks;
+    QObject::connect(&ticks, &QTimer::timeout, [&] { gaps.push_back(sinceLast.restart()); });
+    When_Computing(1, [&] {
+        When_Computing(2, [&] {
+            Later(400, [&] {
+                ticks.stop();
+                program->Window().close();
+            });
+            sinceLast.start();
+            ticks.start(1);
+            Start_Long_Weld();
+        });
+        Type_Bolt_Row(2, tooLong);
+    });
+    Type_Bolt_Row(1, tooLong);
+    ASSERT_GT(gaps.size(), 10u);
+    std::sort(gaps.begin(), gaps.end());
+    RecordProperty("LongestGapMs", static_cast<int>(gaps.back()));
+    EXPECT_LT(gaps[gaps.size() * 9 / 10], 50); // a busy machine may miss one
+}
+
+// Two bolt searches and a weld search, one inside the other; none of them would end soon.
+TEST_F(DesignWindowTest, ClosingEndsTheProgramAtOnce) {
+    QElapsedTimer closed;
+    When_Computing(1, [&] {
+        When_Computing(2, [&] {
+            Later(200, [&] {
+                closed.start();
+                program->Window().close();
+            });
+            Start_Long_Weld();
+        });
+        Type_Bolt_Row(2, tooLong);
+    });
+    Type_Bolt_Row(1, tooLong);
+    EXPECT_LT(closed.elapsed(), 1000);
+    EXPECT_FALSE(program->Window().isVisible());
+    EXPECT_EQ(Design().Bolts.cFlex.Text(1, 7), "");
+    program.reset();
+    QSettings saved(QSettings::IniFormat, QSettings::UserScope, "Tensarix", "Tensarix");
+    EXPECT_EQ(saved.value("TensarixSetting/WeldView").toString(), "5");
+    EXPECT_EQ(saved.value("TensarixSetting/WeldStrip").toString(), "3");
+}
+
+TEST(ReportViewTest, LinesOfPieces) {
+    ReportBox box;
+    ReportView view;
+    Bind(&view, box);
+    for (const char* piece : {"one\r", "\ntwo", "\r\r three\n", "\r\n", "four\r"}) {
+        box.Append(piece);
+        view.Flush();
+    }
+    QStringList lines;
+    for (int line = 0; line < view.Lines(); ++line)
+        lines.append(view.Line(line));
+    EXPECT_EQ(lines, (QStringList{"one", "two", "", " three", "", "four"}));
+    box.Set_Text("x");
+    view.Flush();
+    EXPECT_EQ(view.Lines(), 1);
+}
