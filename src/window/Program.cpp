@@ -1,6 +1,7 @@
 #include "window/Program.h"
 
 #include "shell/Version.h"
+#include "window/CalcForm.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -41,8 +42,11 @@ bool Program::Start() {
     return true;
 }
 
-// The dialogs are not there yet.
-void Program::Show_CalcMainFrm() {}
+void Program::Show_CalcMainFrm() {
+    CalcForm(form_.Shared, calculator_, window_.get()).exec();
+}
+
+// These dialogs are not there yet.
 void Program::Show_WtCalcsFrm() {}
 void Program::Show_WtCalcsFrmA() {}
 void Program::Show_AboutFrm() {}

@@ -2,6 +2,7 @@
 // The picture tour and the window tests drive it as main() does.
 #pragma once
 
+#include "calculator/CalcVariables.h"
 #include "window/MainForm.h"
 
 #include <memory>
@@ -38,6 +39,7 @@ class Program final : public Dialogs {
     SingleInstance instance_;
     Machine machine_;
     MainFrm form_;
+    CalcVariables calculator_; // outlives its form
     std::unique_ptr<MainForm> window_;
 };
 
