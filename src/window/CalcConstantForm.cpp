@@ -11,7 +11,8 @@ CalcConstantForm::CalcConstantForm(CalcConstantFrm& frm, QWidget* parent)
         ui_->ConstantBox->addItem(QString::fromStdString(row));
     Show_State();
     connect(ui_->ConstantBox, &QListWidget::itemSelectionChanged, this, [this] {
-        frm_.Select_Row(ui_->ConstantBox->currentRow());
+        for (const QListWidgetItem* item : ui_->ConstantBox->selectedItems())
+            frm_.Select_Row(ui_->ConstantBox->row(item));
         Show_State();
     });
     connect(ui_->ConstantBox, &QListWidget::itemDoubleClicked, ui_->OKButton, &QPushButton::click);

@@ -34,7 +34,8 @@ void CalcDataForm::Show_State() {
     ui_->DeleteButton->setEnabled(frm_.DeleteEnabled);
 }
 
-template <typename Work> void CalcDataForm::Do(Work work) {
+template <typename Work>
+void CalcDataForm::Do(Work work) {
     work();
     Show_State();
 }

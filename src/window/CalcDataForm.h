@@ -25,7 +25,8 @@ class CalcDataForm final : public QDialog {
   private:
     void Show_State();
     void Take_Selection();
-    template <typename Work> void Do(Work work);
+    template <typename Work>
+    void Do(Work work);
 
     CalcDataFrm& frm_;
     std::unique_ptr<Ui::CalcDataForm> ui_;

@@ -59,9 +59,11 @@ double CalcDigits::Full_Size(const QSize& place) const {
 
 void CalcDigits::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setFont(Fixed_Font(Full_Size(size())));
+    const double fontSize = Full_Size(size());
+    painter.setFont(Fixed_Font(fontSize));
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, text());
+    painter.drawText(rect().translated(0, static_cast<int>(-raise_ * fontSize)),
+                     static_cast<int>(alignment()) | Qt::TextSingleLine, text());
 }
 
 } // namespace Tensarix

@@ -13,6 +13,9 @@ class CalcDigits final : public QLabel {
     // widget's own where there is no more room. A longer text is shown smaller.
     void Set_Room(int characters, double leastSize);
 
+    // How far the text stands above its place, in parts of its size.
+    void Set_Raise(double raise) { raise_ = raise; }
+
     QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override;
 
@@ -25,6 +28,7 @@ class CalcDigits final : public QLabel {
   private:
     int characters_ = 1;
     double leastSize_ = 1;
+    double raise_ = 0;
 };
 
 } // namespace Tensarix

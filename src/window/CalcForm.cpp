@@ -32,8 +32,10 @@ namespace {
 
 constexpr int clockTurnMs = 80;
 constexpr int displayCharacters = 17, exponentCharacters = 3;
-constexpr double displaySize = 1.9, exponentSize = 1.2; // against the font of the form, at least
+constexpr double displaySize = 3.2, exponentSize = 2.1; // against the font of the form, at least
+constexpr double exponentRaise = 0.2;
 constexpr int precisions = 15;
+constexpr int pageTop = 8;        // from the tabs to the keys
 constexpr int dialogOffset = 120; // of the memory dialog from the left, 90 points
 
 // The display's own colours.
@@ -79,8 +81,8 @@ QString Button_Text(const CalcKey& key) {
 // The caption with its first letter or digit as mnemonic.
 QString Tab_Text(CalcPage page) {
     QString text = To_Qt(Page_Caption(page));
-    const auto first = std::find_if(text.cbegin(), text.cend(),
-                                    [](QChar c) { return c.isLetterOrNumber(); });
+    const auto first =
+        std::find_if(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); });
     return text.insert(first - text.cbegin(), QLatin1Char('&'));
 }
 
@@ -92,6 +94,8 @@ CalcForm::CalcForm(const Desk& desk, CalcVariables& vars, QWidget* parent)
     ui_->setupUi(this);
     ui_->DisplayBox->Set_Room(displayCharacters, displaySize);
     ui_->ExpoBox->Set_Room(exponentCharacters, exponentSize);
+    ui_->ExpoBox->Set_Raise(exponentRaise);
+    ui_->MultiPage1->tabBar()->setExpanding(true);
     for (int page = 0; page < ui_->MultiPage1->count(); ++page)
         ui_->MultiPage1->setTabText(page, Tab_Text(static_cast<CalcPage>(page + 1)));
     Make_Modes();
@@ -171,9 +175,9 @@ QGridLayout& CalcForm::Grid_Of(CalcPage page) {
     if (!place->layout()) {
         auto* grid = new QGridLayout(place);
         grid->setSpacing(4);
-        if (page == CalcPage::Pad || page == CalcPage::Mode)
-            grid->setContentsMargins({});
-        for (int column = 0; column < CalcKeyColumns; ++column)
+        const bool onTab = page != CalcPage::Pad && page != CalcPage::Mode;
+        grid->setContentsMargins(0, onTab ? pageTop : 0, 0, 0);
+        for (int column = 0; page != CalcPage::Mode && column < CalcKeyColumns; ++column)
             grid->setColumnStretch(column, 1);
     }
     return *static_cast<QGridLayout*>(place->layout());
@@ -263,7 +267,8 @@ void CalcForm::changeEvent(QEvent* event) {
 
 // Ways in
 
-template <typename Work> void CalcForm::Do(Work work) {
+template <typename Work>
+void CalcForm::Do(Work work) {
     work();
     if (closed_)
         return;
@@ -298,7 +303,9 @@ void CalcForm::Copy() {
 }
 
 void CalcForm::Paste() {
-    Do([this] { Key_In_Number(calc_, desk_.Host.Clip.Text()); });
+    // A cell of a spreadsheet comes with a line end.
+    const QString text = To_Qt(desk_.Host.Clip.Text()).trimmed();
+    Do([&] { Key_In_Number(calc_, text.toStdString()); });
 }
 
 void CalcForm::keyPressEvent(QKeyEvent* event) {
@@ -312,14 +319,15 @@ void CalcForm::keyPressEvent(QKeyEvent* event) {
         event->ignore();
 }
 
-// Enter is "=", whatever has the focus.
+// The lists and options leave the calculator's keys to it, and a closed list the wheel.
 bool CalcForm::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            keyPressEvent(static_cast<QKeyEvent*>(event));
-            return true;
-        }
+    if (event->type() == QEvent::Wheel && watched == ui_->PrecBox) {
+        event->ignore();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && Key_For(*static_cast<QKeyEvent*>(event))) {
+        keyPressEvent(static_cast<QKeyEvent*>(event));
+        return true;
     }
     return QDialog::eventFilter(watched, event);
 }

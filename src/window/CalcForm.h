@@ -47,7 +47,8 @@ class CalcForm final : public QDialog {
     void Show_Panel();
     void Run(const CalcKey& key);
     // Whatever the calculator does: afterwards the panel shows it.
-    template <typename Work> void Do(Work work);
+    template <typename Work>
+    void Do(Work work);
     void Type(const CalcKey& key);
     void Copy();
     void Paste();

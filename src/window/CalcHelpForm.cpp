@@ -12,10 +12,9 @@ CalcHelpForm::CalcHelpForm(CalcHelpFrm& frm, Voice& voice, QWidget* parent)
     for (const std::string& title : frm_.MenuBox)
         ui_->MenuBox->addItem(QString::fromStdString(title));
     ui_->HBox->setPlainText(QString::fromStdString(frm_.HBox));
-    connect(ui_->MenuBox, &QListWidget::currentRowChanged, this, &CalcHelpForm::Choose);
+    connect(ui_->MenuBox, &QListWidget::itemSelectionChanged, this, &CalcHelpForm::Choose);
     // A click gives the text the focus; the arrow keys stay with the topics.
-    connect(ui_->MenuBox, &QListWidget::itemClicked, ui_->HBox,
-            qOverload<>(&QWidget::setFocus));
+    connect(ui_->MenuBox, &QListWidget::itemClicked, ui_->HBox, qOverload<>(&QWidget::setFocus));
     connect(ui_->ExitButton, &QPushButton::clicked, this, &QDialog::reject);
     voice_.OnWord = [this](std::size_t at, std::size_t length) {
         frm_.Voice_Word(static_cast<int>(at), static_cast<int>(length));
@@ -24,10 +23,15 @@ CalcHelpForm::CalcHelpForm(CalcHelpFrm& frm, Voice& voice, QWidget* parent)
     ui_->MenuBox->setFocus();
 }
 
-CalcHelpForm::~CalcHelpForm() { voice_.OnWord = nullptr; }
+CalcHelpForm::~CalcHelpForm() {
+    voice_.OnWord = nullptr;
+}
 
-void CalcHelpForm::Choose(int row) {
-    frm_.Select_Row(row);
+void CalcHelpForm::Choose() {
+    const auto selected = ui_->MenuBox->selectedItems();
+    if (selected.isEmpty())
+        return;
+    frm_.Select_Row(ui_->MenuBox->row(selected.front()));
     Show_Text();
 }
 

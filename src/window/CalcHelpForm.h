@@ -24,7 +24,7 @@ class CalcHelpForm final : public QDialog {
     void done(int result) override;
 
   private:
-    void Choose(int row);
+    void Choose();
     void Show_Text();
     void Show_Mark();
 

@@ -14,10 +14,12 @@ namespace Tensarix {
 namespace {
 
 constexpr int litMs = 140;
-constexpr double cornerPart = 0.14;  // of the height
-constexpr double captionPart = 0.42; // of the height, where there is room
-constexpr double maxGrowth = 2.2;    // of a caption in a large window
-constexpr double sidePart = 0.86;    // of the width, for the caption
+constexpr double cornerPart = 0.14; // of the height
+constexpr double captionPart = 0.4; // of the height, where there is room
+constexpr double digitPart = 0.5;   // the same for digits and operators
+constexpr double wordPart = 0.27;   // of the width, so that all words of a page have one size
+constexpr double maxGrowth = 2.2;   // of a caption in a large window
+constexpr double sidePart = 0.86;   // of the width, for the caption
 
 struct KeyColours {
     QColor Back, Text;
@@ -36,16 +38,24 @@ constexpr QRgb accentLight = 0xFF1F5FA8, accentDark = 0xFF4C8BD6;
 
 KeyColours Colours_Of(CalcKeyRole role, const QPalette& palette) {
     const bool dark = Is_Dark(palette);
-    const QColor button = palette.color(QPalette::Button), text = palette.color(QPalette::ButtonText);
+    const QColor button = palette.color(QPalette::Button),
+                 text = palette.color(QPalette::ButtonText);
     const QColor accent(dark ? accentDark : accentLight), warm(dark ? warmDark : warmLight);
     const QColor lift = dark ? Mix(button, text, 0.16) : QColor(Qt::white);
     switch (role) {
-    case CalcKeyRole::Digit: return {lift, text};
-    case CalcKeyRole::Operator: return {Mix(button, accent, dark ? 0.42 : 0.28), text};
-    case CalcKeyRole::Equals: return {Mix(accent, Qt::black, dark ? 0.22 : 0), Qt::white};
-    case CalcKeyRole::Clear: return {Mix(warm, Qt::black, dark ? 0.2 : 0), Qt::white};
-    case CalcKeyRole::Function: return {Mix(button, text, dark ? 0.07 : 0.09), text};
-    case CalcKeyRole::Plain: break;
+    case CalcKeyRole::Digit:
+        return {lift, text};
+    case CalcKeyRole::Operator:
+    case CalcKeyRole::Accent:
+        return {Mix(button, accent, dark ? 0.42 : 0.28), text};
+    case CalcKeyRole::Equals:
+        return {Mix(accent, Qt::black, dark ? 0.22 : 0), Qt::white};
+    case CalcKeyRole::Clear:
+        return {Mix(warm, Qt::black, dark ? 0.2 : 0), Qt::white};
+    case CalcKeyRole::Function:
+        return {Mix(button, text, dark ? 0.07 : 0.09), text};
+    case CalcKeyRole::Plain:
+        break;
     }
     return {button, text};
 }
@@ -87,7 +97,7 @@ QSizeF CalcKeyButton::Caption_Size(double pixelSize) const {
 QSize CalcKeyButton::sizeHint() const {
     const double base = QFontInfo(font()).pixelSize();
     return QSize(static_cast<int>(base * 4.4),
-                 static_cast<int>(base * (role_ == CalcKeyRole::Plain ? 2 : 2.9)));
+                 static_cast<int>(base * (role_ == CalcKeyRole::Plain ? 2.2 : 3.9)));
 }
 
 QSize CalcKeyButton::minimumSizeHint() const {
@@ -99,10 +109,12 @@ QSize CalcKeyButton::minimumSizeHint() const {
 // As large as the key allows, within bounds.
 double CalcKeyButton::Fitting_Size() const {
     const double base = Base_Size();
-    const double size = std::clamp(height() * captionPart, base, base * maxGrowth);
+    const double room = Is_Large(role_) ? height() * digitPart
+                                        : std::min(height() * captionPart, width() * wordPart);
+    const double size = std::clamp(room, base, base * maxGrowth);
     const QSizeF wanted = Caption_Size(size);
-    const double room = std::min(width() * sidePart / wanted.width(), height() / wanted.height());
-    return room < 1 ? size * room : size;
+    const double fit = std::min(width() * sidePart / wanted.width(), height() / wanted.height());
+    return fit < 1 ? size * fit : size;
 }
 
 void CalcKeyButton::Paint_Body(QPainter& painter, const QRectF& body) const {

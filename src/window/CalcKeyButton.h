@@ -7,7 +7,7 @@
 
 namespace Tensarix {
 
-enum class CalcKeyRole { Digit, Operator, Equals, Clear, Function, Plain };
+enum class CalcKeyRole { Digit, Operator, Equals, Clear, Function, Accent, Plain };
 
 class CalcKeyButton final : public QAbstractButton {
     Q_OBJECT

@@ -6,16 +6,15 @@ namespace {
 
 constexpr auto digit = CalcKeyRole::Digit, op = CalcKeyRole::Operator, equals = CalcKeyRole::Equals,
                clear = CalcKeyRole::Clear, function = CalcKeyRole::Function,
-               plain = CalcKeyRole::Plain;
+               accent = CalcKeyRole::Accent, plain = CalcKeyRole::Plain;
 
 constexpr CalcKeyPlace places[] = {
     {"key_Sqr", 0, 0, function, "<i>x</i><sup>2</sup>"},
-    {"key_Sqrt", 0, 1, function, "√<span style='text-decoration:overline'><i>x</i></span>"},
+    {"key_Sqrt", 0, 1, function, "√<i>x</i>"},
     {"key_Cube", 0, 2, function, "<i>x</i><sup>3</sup>"},
-    {"key_Cubt", 0, 3, function,
-     "<sup>3</sup>√<span style='text-decoration:overline'><i>x</i></span>"},
-    {"key_Xy", 0, 4, op, "<i>x</i><sup><i>y</i></sup>"},
-    {"key_Root", 0, 5, op, ""},
+    {"key_Cubt", 0, 3, function, "<sup>3</sup>√<i>x</i>"},
+    {"key_Xy", 0, 4, accent, "<i>x</i><sup><i>y</i></sup>"},
+    {"key_Root", 0, 5, accent, ""},
     {"key_Log", 1, 0, function, ""},
     {"key_aLog", 1, 1, function, ""},
     {"key_Ln", 1, 2, function, ""},
@@ -44,14 +43,14 @@ constexpr CalcKeyPlace places[] = {
     {"key_PtoR", 2, 2, function, ""},
     {"key_RtoP", 2, 3, function, ""},
 
-    {"key_Min", 0, 0, op, ""},
-    {"key_Mr", 0, 1, op, ""},
+    {"key_Min", 0, 0, accent, ""},
+    {"key_Mr", 0, 1, accent, ""},
     {"key_Kin", 0, 2, function, ""},
     {"key_Kout", 0, 3, function, ""},
     {"key_Mplus", 0, 4, function, ""},
     {"key_Mminus", 0, 5, function, ""},
-    {"key_Data", 1, 0, op, ""},
-    {"key_Del", 1, 1, op, ""},
+    {"key_Data", 1, 0, accent, ""},
+    {"key_Del", 1, 1, accent, ""},
     {"key_Dtn", 1, 2, function, ""},
     {"key_Ave", 1, 3, function, ""},
     {"key_XtoK", 1, 4, function, "<i>x</i>↔K"},
@@ -63,8 +62,8 @@ constexpr CalcKeyPlace places[] = {
     {"key_Strd1", 2, 4, function, ""},
 
     {"key_EngL", 0, 0, function, ""},
-    {"key_EngR", 0, 1, function, ""},
-    {"key_Time", 0, 2, function, ""},
+    {"key_EngR", 1, 0, function, ""},
+    {"key_Time", 2, 0, function, ""},
 
     {"key_7", 0, 0, digit, ""},
     {"key_8", 0, 1, digit, ""},
@@ -95,6 +94,8 @@ constexpr CalcKeyPlace places[] = {
 
 } // namespace
 
-std::span<const CalcKeyPlace> CalcKeyPlaces() { return places; }
+std::span<const CalcKeyPlace> CalcKeyPlaces() {
+    return places;
+}
 
 } // namespace Tensarix

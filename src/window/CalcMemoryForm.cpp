@@ -49,7 +49,8 @@ void CalcMemoryForm::Connect() {
             [this] { Do([this] { frm_.SelectAllButton(); }); });
     connect(ui_->CLRButton, &QPushButton::clicked, this,
             [this] { Do([this] { frm_.CLRButton(); }); });
-    connect(ui_->OKButton, &QPushButton::clicked, this, [this] { Do([this] { frm_.OKButton(); }); });
+    connect(ui_->OKButton, &QPushButton::clicked, this,
+            [this] { Do([this] { frm_.OKButton(); }); });
     connect(ui_->ExitButton, &QPushButton::clicked, this, &QDialog::reject);
     if (!frm_.DeleteFrame)
         connect(ui_->ItemBox, &QTreeWidget::itemDoubleClicked, ui_->OKButton, &QPushButton::click);
@@ -73,7 +74,8 @@ void CalcMemoryForm::Show_State() {
     ui_->OKButton->setEnabled(frm_.OKEnabled);
 }
 
-template <typename Work> void CalcMemoryForm::Do(Work work) {
+template <typename Work>
+void CalcMemoryForm::Do(Work work) {
     work();
     if (frm_.Closed)
         QDialog::done(Accepted);

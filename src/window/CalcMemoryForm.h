@@ -27,7 +27,8 @@ class CalcMemoryForm final : public QDialog {
     void Connect();
     void Show_State();
     void Take_Selection();
-    template <typename Work> void Do(Work work);
+    template <typename Work>
+    void Do(Work work);
 
     CalcMemoryFrm& frm_;
     std::unique_ptr<Ui::CalcMemoryForm> ui_;
