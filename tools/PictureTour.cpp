@@ -73,6 +73,7 @@ class Tour {
         }
         for (const char* key : {"key_divide", "key_0", "key_equal"})
             form.Press_Key(key);
+        form.findChild<QWidget*>(QStringLiteral("key_AC"))->setFocus();
         Take(QStringLiteral("calculator-error") + suffix, form);
         pages.setCurrentIndex(0);
         form.resize(form.size() * 3 / 2);

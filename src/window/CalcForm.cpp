@@ -20,6 +20,7 @@
 #include <QEventLoop>
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
@@ -35,8 +36,9 @@ constexpr int displayCharacters = 17, exponentCharacters = 3;
 constexpr double displaySize = 3.2, exponentSize = 2.1; // against the font of the form, at least
 constexpr double exponentRaise = 0.2;
 constexpr int precisions = 15;
-constexpr int pageTop = 8;        // from the tabs to the keys
-constexpr int dialogOffset = 120; // of the memory dialog from the left, 90 points
+constexpr double screenPart = 0.92;                  // at most, of its height and width
+constexpr int pageTop = 8;                           // from the tabs to the keys
+constexpr int dialogOffset = 90, pointsPerInch = 72; // of the memory dialog, to the right
 
 // The display's own colours.
 constexpr QRgb panelLight = 0xFFDFE8D6, inkLight = 0xFF10200F;
@@ -78,6 +80,20 @@ QString Button_Text(const CalcKey& key) {
     return QString(caption).replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+// These settings are filed under the program's folder as application name.
+void Add_Settings(CalcHost& host, Machine& machine) {
+    const auto section = [&machine](std::string_view name) {
+        return machine.Places.Program.string().append("/").append(name);
+    };
+    host.Read_Setting = [&machine, section](std::string_view name, std::string_view key) {
+        return machine.Store.Read(section(name), key);
+    };
+    host.Write_Setting = [&machine, section](std::string_view name, std::string_view key,
+                                             std::string_view text) {
+        machine.Store.Write(section(name), key, text);
+    };
+}
+
 // The caption with its first letter or digit as mnemonic.
 QString Tab_Text(CalcPage page) {
     QString text = To_Qt(Page_Caption(page));
@@ -103,6 +119,7 @@ CalcForm::CalcForm(const Desk& desk, CalcVariables& vars, QWidget* parent)
     Colour_Panel();
     Open(calc_);
     Show_Panel();
+    resize(sizeHint().boundedTo(screen()->availableSize() * screenPart));
     setFocus();
 }
 
@@ -111,23 +128,23 @@ CalcForm::~CalcForm() = default;
 CalcHost CalcForm::Make_Host() {
     CalcHost host;
     Machine& machine = desk_.Host;
-    // These settings are filed under the program's folder as application name.
-    const auto section = [&machine](std::string_view name) {
-        return machine.Places.Program.string().append("/").append(name);
-    };
     host.Now = Local_Now;
     host.Yield = [this] { return Clock_Yield(); };
-    host.Read_Setting = [&machine, section](std::string_view name, std::string_view key) {
-        return machine.Store.Read(section(name), key);
-    };
-    host.Write_Setting = [&machine, section](std::string_view name, std::string_view key,
-                                             std::string_view text) {
-        machine.Store.Write(section(name), key, text);
-    };
     host.DataFolder = machine.Places.Data;
+    host.Ask = [&machine](const CalcQuestion& question) {
+        return machine.Boxes.Ask_Yes_No(question.Text, question.Title,
+                                        question.WarningSign ? MessageIcon::Exclamation
+                                                             : MessageIcon::Information);
+    };
+    Add_Settings(host, machine);
+    Add_Dialogs(host);
+    return host;
+}
+
+void CalcForm::Add_Dialogs(CalcHost& host) {
     host.Show_Memory = [this](CalcMemoryFrm& frm) {
         CalcMemoryForm dialog(frm, this);
-        dialog.move(pos() + QPoint(dialogOffset, 0));
+        Put_Beside(dialog);
         Open_Dialog(dialog);
     };
     host.Show_Data = [this](CalcDataFrm& frm) {
@@ -140,12 +157,13 @@ CalcHost CalcForm::Make_Host() {
     };
     host.Show_Help = [this] { Show_Help(); };
     host.Close_Form = [this] { close(); };
-    host.Ask = [&machine](const CalcQuestion& question) {
-        return machine.Boxes.Ask_Yes_No(question.Text, question.Title,
-                                        question.WarningSign ? MessageIcon::Exclamation
-                                                             : MessageIcon::Information);
-    };
-    return host;
+}
+
+// At the same top, a step to the right, as far as the screen allows.
+void CalcForm::Put_Beside(QDialog& dialog) const {
+    const int step = dialogOffset * logicalDpiX() / pointsPerInch;
+    const int last = screen()->availableGeometry().right() - dialog.sizeHint().width();
+    dialog.move(std::max(x(), std::min(x() + step, last)), y());
 }
 
 // A dialog shows over what has been reached so far.

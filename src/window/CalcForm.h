@@ -40,6 +40,7 @@ class CalcForm final : public QDialog {
 
   private:
     CalcHost Make_Host();
+    void Add_Dialogs(CalcHost& host);
     void Make_Keys();
     void Make_Modes();
     QGridLayout& Grid_Of(CalcPage page);
@@ -53,6 +54,7 @@ class CalcForm final : public QDialog {
     void Copy();
     void Paste();
     bool Clock_Yield();
+    void Put_Beside(QDialog& dialog) const;
     void Open_Dialog(QDialog& dialog);
     void Show_Help();
 
