@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 source cmake/prepare.sh
 
-install_missing "$BUILD_PACKAGES"
+install_missing "$BUILD_PACKAGES $SPEECH_PACKAGES"
 build release tensarix picture_tour
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

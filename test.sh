@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 source cmake/prepare.sh
 
-install_missing "$BUILD_PACKAGES $TEST_PACKAGES"
+install_missing "$BUILD_PACKAGES $SPEECH_PACKAGES $TEST_PACKAGES"
 for preset in release sanitize; do
     build "$preset"
     say "Testing ($preset)"

@@ -40,6 +40,26 @@ void Change_Of_Section_To_Painted_Grid(benchmark::State& state) {
 }
 BENCHMARK(Change_Of_Section_To_Painted_Grid)->Unit(benchmark::kMillisecond);
 
+// The longest family and another one in turn, so that sizes change as well.
+void View_All_To_Painted_Grid(benchmark::State& state) {
+    QTemporaryDir home;
+    Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    program.Start();
+    program.Form().OptButton[static_cast<std::size_t>(Mode::ViewAll)].Select();
+    ComboBox& families = program.Form().ViewAll.xShapeType;
+    for (auto _ : state) {
+        state.PauseTiming();
+        families.Select(PipeFamily);
+        program.Window().grab();
+        state.ResumeTiming();
+        families.Select(UnEqualDoubleAngleFamily);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+    program.Window().close();
+}
+BENCHMARK(View_All_To_Painted_Grid)->Unit(benchmark::kMillisecond)->UseRealTime();
+
 // The share of the above that is not painting: handlers, store, texts.
 void Change_Of_Section_Unpainted(benchmark::State& state) {
     QTemporaryDir home;

@@ -2,6 +2,7 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl-dev \
 libsqlite3-dev libgtest-dev libbenchmark-dev fonts-dejavu-core"
+SPEECH_PACKAGES="speech-dispatcher speech-dispatcher-espeak-ng"
 TEST_PACKAGES="xvfb xauth"
 
 say() { printf '== %s\n' "$*"; }

@@ -1,16 +1,19 @@
 // Drives the real program through its screens without a display and saves a picture of each:
 //   picture_tour FOLDER
 // The user's own settings and data are left alone.
+#include "window/AboutForm.h"
 #include "window/CalcConstantForm.h"
 #include "window/CalcDataForm.h"
 #include "window/CalcForm.h"
 #include "window/CalcHelpForm.h"
 #include "window/CalcMemoryForm.h"
+#include "window/GridView.h"
 #include "window/Program.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QListWidget>
+#include <QMenu>
 #include <QPalette>
 #include <QStandardPaths>
 #include <QTabWidget>
@@ -30,7 +33,8 @@ class Tour {
     Tour(Program& program, const QString& folder) : program_(program), folder_(folder) {}
 
     void Take(const QString& name, QWidget& widget) {
-        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(); // takes over the change
+        QCoreApplication::processEvents(); // lays out anew what it has widened
         const QString path = folder_ + QLatin1Char('/') + name + QStringLiteral(".png");
         if (!widget.grab().save(path))
             failed_ = true;
@@ -114,6 +118,84 @@ class Tour {
         dialog.close();
     }
 
+    void About(const QString& suffix) {
+        AboutFrm about(program_.Form().Shared);
+        AboutForm form(about, &program_.Window());
+        form.show();
+        Take(QStringLiteral("about") + suffix, form);
+    }
+
+    void Find(const QString& suffix) {
+        program_.Form().OptButton[1].Select();
+        FindPage& page = program_.Form().Find;
+        Take(QStringLiteral("find-empty") + suffix, program_.Window());
+        page.fPoperty.Select(13);
+        page.fCriterion.Select(4);
+        page.fValue.Set_Text("500");
+        page.FindButton.Click();
+        page.fShapeFlex.Press(2, 15);
+        Take(QStringLiteral("find-zx") + suffix, program_.Window());
+        page.fProfileOption2.Select();
+        Take(QStringLiteral("find-si") + suffix, program_.Window());
+        page.fProfileOption1.Select();
+        page.fShapeType.Select(13);
+        page.fPoperty.Select(24);
+        Take(QStringLiteral("find-no-column") + suffix, program_.Window());
+        page.fShapeType.Select(0);
+    }
+
+    void View_All(const QString& suffix) {
+        program_.Form().OptButton[2].Select();
+        ViewPage& page = program_.Form().ViewAll;
+        for (const int family : {0, 4, 10, 12, 16}) {
+            page.xShapeType.Select(family);
+            page.xShapeFlex.Press(3, 13);
+            Take(QStringLiteral("view-%1%2").arg(family, 2, 10, QLatin1Char('0')).arg(suffix),
+                 program_.Window());
+        }
+        page.xDimOption2.Select();
+        Take(QStringLiteral("view-imperial") + suffix, program_.Window());
+        page.xProfileOption2.Select();
+        page.xShapeFlex.Set_TopRow(200);
+        page.xShapeFlex.Set_LeftCol(5);
+        Take(QStringLiteral("view-si") + suffix, program_.Window());
+        page.xProfileOption1.Select();
+        page.xDimOption1.Select();
+        program_.Form().OptButton[0].Select();
+    }
+
+    // A compact, a noncompact and a channel section; below and above the boundary span.
+    void Beam(const QString& suffix) {
+        MainFrm& form = program_.Form();
+        BeamPage& page = form.Beam;
+        form.OptButton[static_cast<std::size_t>(Mode::BeamLoad)].Select();
+        page.zShapeFlex.Move_To(13, 1);
+        Take(QStringLiteral("beam-9th") + suffix, program_.Window());
+        page.AppliedCode.Select(Code13thEdition);
+        page.BeamSpanBox.Set_Text("25'-6 1/2\"");
+        page.CFactor.Set_Text("15.00");
+        Take(QStringLiteral("beam-13th") + suffix, program_.Window());
+        page.CodeOpt[1].Select();
+        page.zShapeType.Select(FirstChannelFamily);
+        Take(QStringLiteral("beam-channel") + suffix, program_.Window());
+        page.AppliedCode.Select(Code9thEdition);
+        page.zShapeType.Select(1);
+        Take(QStringLiteral("beam-m") + suffix, program_.Window());
+        page.zShapeType.Select(0);
+        form.OptButton[0].Select();
+    }
+
+    void Popup() {
+        program_.Window().findChild<GridView*>(QStringLiteral("ShapeFlex"))->setFocus();
+        FlexGrid& grid = program_.Form().Browse.ShapeFlex;
+        grid.Press(3, 1);
+        grid.Extend_To(5, 2);
+        Run(grid.OnPopup);
+        auto* menu = program_.Window().findChild<QMenu*>(QStringLiteral("mnuEdit1"));
+        Take(QStringLiteral("popup"), *menu);
+        menu->close();
+    }
+
     bool Failed() const { return failed_; }
 
   private:
@@ -151,9 +233,18 @@ int main(int argc, char** argv) {
     Tour tour(program, QString::fromLocal8Bit(argv[1]));
     tour.Browse({});
     tour.Browse_Units();
+    tour.Find({});
+    tour.View_All({});
+    tour.Beam({});
+    tour.Popup();
+    tour.About({});
     tour.Calculator({});
     QApplication::setPalette(Dark_Palette());
     tour.Browse(QStringLiteral("-dark"));
+    tour.Find(QStringLiteral("-dark"));
+    tour.View_All(QStringLiteral("-dark"));
+    tour.Beam(QStringLiteral("-dark"));
+    tour.About(QStringLiteral("-dark"));
     tour.Calculator(QStringLiteral("-dark"));
     program.Window().close();
     return tour.Failed() ? 1 : 0;

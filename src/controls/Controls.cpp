@@ -54,9 +54,15 @@ void OptionButton::Select() {
     Run(OnClick);
 }
 
+void Frame::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
+
 void ComboBox::Clear() {
-    items_.clear();
     text_.clear();
+    Clear_Items();
+}
+
+void ComboBox::Clear_Items() {
+    items_.clear();
     listIndex_ = -1;
     ++itemsVersion_;
     Shown.Changed();

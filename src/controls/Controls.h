@@ -78,6 +78,18 @@ class OptionButton {
     bool value_ = false;
 };
 
+// What stands around a group; the controls inside can't be used while it is disabled.
+class Frame {
+  public:
+    View Shown;
+
+    bool Enabled() const { return enabled_; }
+    void Enable(bool enabled);
+
+  private:
+    bool enabled_ = true;
+};
+
 // A drop-down list, or one that can be typed in as well.
 class ComboBox {
   public:
@@ -89,6 +101,8 @@ class ComboBox {
 
     // Empties the list and the text; no handler runs.
     void Clear();
+    // The same, but the text stays.
+    void Clear_Items();
     void Add(std::string item);
     int Count() const { return static_cast<int>(items_.size()); }
     // Fails outside 0 .. Count - 1.

@@ -42,6 +42,7 @@ class FlexGrid {
     Handler OnLeaveCell; // before the current cell changes
     Handler OnSelChange; // after the current cell has changed
     Handler OnMouseDown; // left button, after the cell under it has become current
+    Handler OnKeyMove;   // after the keys have moved the current cell or the selection
     Handler OnPopup;     // right button up, or the keyboard's menu key
     Handler OnCopy;      // Ctrl+C
     Handler OnPaste;     // Ctrl+V
@@ -112,6 +113,7 @@ class FlexGrid {
     // What the user does, for the view and for tests.
     void Press(int row, int col); // left button down on a cell
     void Move_By(int rows, int cols, bool extend);
+    void Go_To(int row, int col, bool extend); // by the keys; extend: the selection alone
 
     // Counts the changes of size, heights and widths, so that a view knows when to measure again.
     unsigned LayoutVersion() const { return layoutVersion_; }

@@ -4,6 +4,8 @@
 #include "controls/Controls.h"
 #include "platform/Machine.h"
 
+#include <utility>
+
 namespace Tensarix {
 
 struct Desk {
@@ -24,9 +26,18 @@ struct Desk {
             Host.Speech.Speak(text);
     }
 
+    // Runs some work with the read-out switched off for the time.
+    template <typename Work>
+    void Quietly(Work&& work) {
+        const bool readOut = std::exchange(ReadOut, false);
+        std::forward<Work>(work)();
+        ReadOut = readOut;
+    }
+
     // Panel 1 when nothing is selected.
+    static constexpr std::string_view NoSelection = " SELECTION:   None";
     void Show_No_Selection() {
-        StatBar.Set_Panel1(" SELECTION:   None");
+        StatBar.Set_Panel1(std::string{NoSelection});
         StatBar.Set_Remark({});
     }
 };

@@ -23,10 +23,16 @@ class Clipboard {
 class Voice {
   public:
     virtual ~Voice() = default;
-    // Returns at once. The text replaces what is being spoken; an empty one silences it.
+    // Returns at once, whatever the speech service does; no callback runs meanwhile. Texts of one
+    // turn of the event loop belong together and are spoken one after another. The first text of a
+    // later turn replaces whatever is still being spoken. An empty text silences at once, and
+    // drops what was given before it in the same turn. Without a speech service nothing happens.
     virtual void Speak(std::string_view text) = 0;
     // Called with the place and length, in bytes of the text, of the word that is being spoken.
+    // Not every service can tell.
     std::function<void(std::size_t at, std::size_t length)> OnWord;
+    // What was being spoken has come to its end, the last text of its turn too, or was cut short
+    // by the service. Not called for what the program itself silenced or replaced.
     Handler OnEnd;
 };
 

@@ -59,6 +59,10 @@ std::string Spoken_Family(std::string_view name) {
     return Replace_All(Replace_All(Trim(name), "(", ""), ")", "");
 }
 
+std::string Sections_In_Words(int count) {
+    return std::to_string(count) + (count == 1 ? " section" : " sections");
+}
+
 std::string SpaceDesignation(std::string_view text) { return Trim(Replace_All(text, "x", " x ")); }
 
 std::string_view Double_Angle_Picture(std::string_view designation) {

@@ -17,28 +17,39 @@ struct Family {
     std::string_view Picture; // empty: chosen for each section
     const PlainInitializer& Browse;
     const TableInitializer& ViewAll;
+    const FindInitializer& Find;
 };
 
 inline constexpr std::array<Family, 17> Families{{
-    {"W-Shape", "W", "WShapeImage", WShape_Initializer, xWShape_Initializer},
-    {"M-Shape", "M", "MShapeImage", WShape_Initializer, xWShape_Initializer},
-    {"HP-Shape", "HP", "HPShapeImage", WShape_Initializer, xWShape_Initializer},
-    {"S-Shape", "S", "SShapeImage", SShape_Initializer, xSShape_Initializer},
-    {"C-Shape", "C", "CShapeImage", CShape_Initializer, xCShape_Initializer},
-    {"MC-Shape", "MC", "MCShapeImage", CShape_Initializer, xCShape_Initializer},
-    {"WT-Shape", "WT", "WTShapeImage", WTShape_Initializer, xWTShape_Initializer},
-    {"MT-Shape", "MT", "MTShapeImage", WTShape_Initializer, xWTShape_Initializer},
-    {"ST-Shape", "ST", "STShapeImage", STShape_Initializer, xSTShape_Initializer},
-    {"Rectangular HSS", "HSS-Rec", "HSSRecImage", HSSRec_Initializer, xHSSRec_Initializer},
-    {"Square HSS", "HSS-Sqr", "HSSSqrImage", HSSSqr_Initializer, xHSSSqr_Initializer},
-    {"Round HSS", "HSS-Rnd", "HSSRndImage", HSSRnd_Initializer, xHSSRnd_Initializer},
-    {"Pipe", "Pipe", "PipeImage", Pipe_Initializer, xPipe_Initializer},
-    {"Angle (Equal Legs)", "L-Eq", "SAngleImage", EqSAngle_Initializer, xSAngle_Initializer},
-    {"Angle (UnEqual Legs)", "L-UnEq", "SAngleImage", EqSAngle_Initializer, xSAngle_Initializer},
-    {"Double Angle (Equal Legs)", "2L-Eq", "DLEqImage", EqDAngle_Initializer,
-     xEqDAngle_Initializer},
-    {"Double Angle (UnEqual Legs)", "2L-UnEq", "", UnEqDAngle_Initializer,
-     xUnEqDAngle_Initializer},
+    {"W-Shape", "W", "WShapeImage", WShape_Initializer, xWShape_Initializer, fWShape_Initializer},
+    {"M-Shape", "M", "MShapeImage", WShape_Initializer, xWShape_Initializer, fWShape_Initializer},
+    {"HP-Shape", "HP", "HPShapeImage", WShape_Initializer, xWShape_Initializer,
+     fWShape_Initializer},
+    {"S-Shape", "S", "SShapeImage", SShape_Initializer, xSShape_Initializer, fSShape_Initializer},
+    {"C-Shape", "C", "CShapeImage", CShape_Initializer, xCShape_Initializer, fCShape_Initializer},
+    {"MC-Shape", "MC", "MCShapeImage", CShape_Initializer, xCShape_Initializer,
+     fCShape_Initializer},
+    {"WT-Shape", "WT", "WTShapeImage", WTShape_Initializer, xWTShape_Initializer,
+     fWTShape_Initializer},
+    {"MT-Shape", "MT", "MTShapeImage", WTShape_Initializer, xWTShape_Initializer,
+     fWTShape_Initializer},
+    {"ST-Shape", "ST", "STShapeImage", STShape_Initializer, xSTShape_Initializer,
+     fSTShape_Initializer},
+    {"Rectangular HSS", "HSS-Rec", "HSSRecImage", HSSRec_Initializer, xHSSRec_Initializer,
+     fHSSRec_Initializer},
+    {"Square HSS", "HSS-Sqr", "HSSSqrImage", HSSSqr_Initializer, xHSSSqr_Initializer,
+     fHSSSqr_Initializer},
+    {"Round HSS", "HSS-Rnd", "HSSRndImage", HSSRnd_Initializer, xHSSRnd_Initializer,
+     fHSSRnd_Initializer},
+    {"Pipe", "Pipe", "PipeImage", Pipe_Initializer, xPipe_Initializer, fPipe_Initializer},
+    {"Angle (Equal Legs)", "L-Eq", "SAngleImage", EqSAngle_Initializer, xSAngle_Initializer,
+     fSAngle_Initializer},
+    {"Angle (UnEqual Legs)", "L-UnEq", "SAngleImage", EqSAngle_Initializer, xSAngle_Initializer,
+     fSAngle_Initializer},
+    {"Double Angle (Equal Legs)", "2L-Eq", "DLEqImage", EqDAngle_Initializer, xEqDAngle_Initializer,
+     fEqDAngle_Initializer},
+    {"Double Angle (UnEqual Legs)", "2L-UnEq", "", UnEqDAngle_Initializer, xUnEqDAngle_Initializer,
+     fUnEqDAngle_Initializer},
 }};
 
 inline constexpr int PipeFamily = 12;
@@ -59,6 +70,9 @@ void Init_Shape(ComboBox& combo, std::string_view type, bool useSI,
 // The same for the two lists of a screen, pairwise, so that a position is the same section in both.
 void FillSizeLists(ComboBox& us, ComboBox& si, std::string_view type,
                    const std::filesystem::path& programFolder);
+
+// "274 sections".
+std::string Sections_In_Words(int count);
 
 // The family's name as it is spoken: without its parentheses.
 std::string Spoken_Family(std::string_view name);

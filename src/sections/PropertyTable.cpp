@@ -198,13 +198,6 @@ std::string Formatted(const FieldValue& value) {
     return Format_Number(std::get<double>(value), valuePattern);
 }
 
-double Computed_Length(const SectionRecordset& record, const Property& property, Profile profile) {
-    const bool us = profile == Profile::US;
-    const std::string_view lessTwice = us ? property.USLessTwice : property.SILessTwice;
-    const double value = record.Number(us ? property.USColumn : property.SIColumn);
-    return lessTwice.empty() ? value : value - 2 * record.Number(lessTwice);
-}
-
 std::string With_Thousands(double value) {
     const std::string text = General_Text(value);
     const std::size_t point = text.find_first_of(".E");
@@ -220,21 +213,28 @@ const Layout Layouts::W{entriesW, 27, 0, 28};
 const Layout Layouts::S{entriesS, 25, 0, 26};
 const Layout Layouts::C{entriesC, 26, 0, 25, headColumnsC, valueColumnsC};
 const Layout Layouts::WT{entriesWT, 22, 0, 23};
-const Layout Layouts::ST{entriesST, 21, 0, 23};
+const Layout Layouts::ST{entriesST, 21, 0, 23, {}, {}, 1};
 const Layout Layouts::HSSRec{entriesHSSRec, 20, 0, 21};
 const Layout Layouts::HSSSqr{entriesHSSSqr, 15, 0, 16};
-const Layout Layouts::HSSRnd{entriesHSSRnd, 14, 13, 14};
+const Layout Layouts::HSSRnd{entriesHSSRnd, 14, 13, 14, {}, {}, 2};
 const Layout Layouts::Pipe{entriesPipe, 14, 13, 14};
 const Layout Layouts::SAngle{entriesSAngle, 27, 0, 28};
-const Layout Layouts::EqDAngle{entriesEqDAngle, 15, 0, 16};
-const Layout Layouts::UnEqDAngle{entriesUnEqDAngle, 16, 0, 17};
+const Layout Layouts::EqDAngle{entriesEqDAngle, 15, 0, 16, {}, {}, 1};
+const Layout Layouts::UnEqDAngle{entriesUnEqDAngle, 16, 0, 17, {}, {}, 2};
+
+double Value_Number(const SectionRecordset& record, const Property& property, Profile profile) {
+    const bool us = profile == Profile::US;
+    const std::string_view lessTwice = us ? property.USLessTwice : property.SILessTwice;
+    const double value = record.Number(us ? property.USColumn : property.SIColumn);
+    return lessTwice.empty() ? value : value - 2 * record.Number(lessTwice);
+}
 
 std::string Value_Text(const SectionRecordset& record, const Property& property, Profile profile,
                        DimensionStyle style) {
     const bool us = profile == Profile::US;
     const std::string_view column = us ? property.USColumn : property.SIColumn;
     if (property.Kind == PropertyKind::Length) {
-        const double value = Computed_Length(record, property, profile);
+        const double value = Value_Number(record, property, profile);
         if (us && style == DimensionStyle::Imperial)
             return Format_FeetInch(value / 12, sixteenths, 0, 0).append(cellEnd);
         return Format_Number(value, valuePattern);

@@ -48,6 +48,7 @@ struct Layout {
     int TableColumns;   // of the View All and Find grids
     // Where the heads and the values stand on View All and Find, if not in order from column 2.
     std::span<const int> HeadColumns = {}, ValueColumns = {};
+    std::size_t Unsearched = 0; // so many entries at the end are not listed on Find
 };
 
 namespace Layouts {
@@ -58,6 +59,9 @@ extern const Layout W, S, C, WT, ST, HSSRec, HSSSqr, HSSRnd, Pipe, SAngle, EqDAn
 // a text where a number is needed. The style has no effect under SI.
 std::string Value_Text(const SectionRecordset& record, const Property& property, Profile profile,
                        DimensionStyle style);
+
+// The number behind a value, in the unit of the profile. Fails like Value_Text.
+double Value_Number(const SectionRecordset& record, const Property& property, Profile profile);
 
 // What the cell's text no longer tells: "Stored value: 12,900,000,000 mm^4" where a power of ten
 // lost digits of the number in the store, otherwise empty.

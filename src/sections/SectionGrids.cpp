@@ -3,6 +3,7 @@
 #include "common/Extremes.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "sections/FindSearch.h"
 
 namespace Tensarix {
 
@@ -30,9 +31,9 @@ constexpr CellStyle headStyle{.Align = Alignment::Centre,
 constexpr CellStyle nameStyle{.Align = Alignment::Centre, .Fore = Colours::NameText};
 
 // A text that was not written now tells something of another section.
-void Mark_Stale(FlexGrid& grid, int row, int col) {
+void Mark_Left(FlexGrid& grid, int row, int col, std::string_view remark) {
     if (!Trim(grid.Text(row, col)).empty())
-        grid.Set_Remark(row, col, std::string{StaleValueRemark});
+        grid.Set_Remark(row, col, std::string{remark});
 }
 
 void Lay_Out_Rows(FlexGrid& grid, const Layout& layout) {
@@ -46,8 +47,8 @@ void Lay_Out_Rows(FlexGrid& grid, const Layout& layout) {
         grid.Set_Style(row, unitColumn, centreStyle);
         grid.Set_Style(row, meaningColumn, {});
         // What stands here is of the family shown before, until it is written.
-        Mark_Stale(grid, row, valueColumn);
-        Mark_Stale(grid, row, unitColumn);
+        Mark_Left(grid, row, valueColumn, StaleValueRemark);
+        Mark_Left(grid, row, unitColumn, StaleValueRemark);
     }
 }
 
@@ -80,7 +81,7 @@ void Write_Values(FlexGrid& grid, const Layout& layout, const SectionRecordset& 
         const Property& property = *entry.Browse;
         ++row;
         if (!Attempt([&] { Write_Value(grid, row, valueColumn, record, property, view); }))
-            Mark_Stale(grid, row, valueColumn);
+            Mark_Left(grid, row, valueColumn, StaleValueRemark);
         if (property.WritesUnit)
             grid.Set_Text(row, unitColumn, std::string{Unit_Text(property, view.Units)});
     }
@@ -106,6 +107,47 @@ std::string Head_Text(const Property& property, Profile profile) {
     if (!unit.empty())
         text.append("\n[").append(unit).append("]");
     return text;
+}
+
+// The property that stands in a column in the end: the last one written there.
+const Property* Last_In(const Layout& layout, TableVariant variant, std::span<const int> numbering,
+                        int col) {
+    const Property* last = nullptr;
+    for (std::size_t i = 0; i < layout.Entries.size(); ++i)
+        if (Column_Of(numbering, i) == col)
+            last = &Of_Variant(layout.Entries[i], variant);
+    return last;
+}
+
+void Mark_Shifted_Columns(FlexGrid& grid, const Layout& layout, TableVariant variant,
+                          Profile profile) {
+    if (layout.ValueColumns.empty())
+        return;
+    for (int col = nameColumns; col < grid.Cols(); ++col) {
+        const Property* values = Last_In(layout, variant, layout.ValueColumns, col);
+        if (values != Last_In(layout, variant, layout.HeadColumns, col))
+            grid.Set_Remark(0, col,
+                            "The values in this column are those of " +
+                                Replace_All(Head_Text(*values, profile), "\n", " "));
+    }
+}
+
+int Count_Of(const SectionRecordset& records) {
+    int count = 0;
+    Attempt([&] { count = static_cast<int>(records.RecordCount()); });
+    return count;
+}
+
+SectionRecordset Family_Records(std::string_view familyCode, const SectionView& view) {
+    SectionRecordset records;
+    Attempt(
+        [&] { records = SectionRead(view.ProgramFolder, Query_By_Family(familyCode)).Records; });
+    return records;
+}
+
+// With the head row.
+int Table_Rows(int sections) {
+    return static_cast<int>(Largest_Of({static_cast<double>(sections) + 1, LeastTableRows}));
 }
 
 void Write_Name(FlexGrid& grid, int row, int col, const SectionRecordset& record,
@@ -149,6 +191,7 @@ void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, P
     for (std::size_t i = 0; i < layout.Entries.size(); ++i)
         Write_Head(grid, Column_Of(layout.HeadColumns, i),
                    Head_Text(Of_Variant(layout.Entries[i], variant), profile));
+    Mark_Shifted_Columns(grid, layout, variant, profile);
 }
 
 void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Layout& layout,
@@ -160,24 +203,46 @@ void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, co
         const int col = Column_Of(layout.ValueColumns, i);
         grid.Set_Style(row, col, rightStyle);
         if (!Attempt([&] { Write_Value(grid, row, col, record, property, view); }))
-            Mark_Stale(grid, row, col);
+            Mark_Left(grid, row, col, EarlierValueRemark);
     }
 }
 
-void TableInitializer::operator()(FlexGrid& grid, std::string_view familyCode,
-                                  const SectionView& view) const {
-    SectionRecordset record;
-    Attempt([&] { record = SectionRead(view.ProgramFolder, Query_By_Family(familyCode)).Records; });
-    double count = 0;
-    Attempt([&] { count = static_cast<double>(record.RecordCount()); });
-    Lay_Out_Table(grid, Columns, TableVariant::ViewAll, view.Units,
-                  static_cast<int>(Largest_Of({count + 1, LeastTableRows})));
-    int row = 1;
+int TableInitializer::operator()(FlexGrid& grid, std::string_view familyCode,
+                                 const SectionView& view) const {
+    SectionRecordset record = Family_Records(familyCode, view);
+    Lay_Out_Table(grid, Columns, TableVariant::ViewAll, view.Units, Table_Rows(Count_Of(record)));
+    int row = 0;
     Attempt([&] {
         for (record.MoveFirst(); !record.AtEnd(); record.MoveNext())
-            Write_Table_Row(grid, row++, record, Columns, TableVariant::ViewAll, view);
+            Write_Table_Row(grid, ++row, record, Columns, TableVariant::ViewAll, view);
     });
-    grid.Set_Rows(static_cast<int>(Largest_Of({static_cast<double>(row), LeastTableRows})));
+    grid.Set_Rows(Table_Rows(row));
+    return row;
+}
+
+FindCount FindInitializer::operator()(FlexGrid& grid, std::string_view familyCode,
+                                      const SectionView& view, bool searching,
+                                      const FindCondition& condition) const {
+    SectionRecordset record = Family_Records(familyCode, view);
+    FindCount count{0, Count_Of(record)};
+    Lay_Out_Table(grid, Columns, TableVariant::Find, view.Units,
+                  Table_Rows(searching ? count.OfFamily : 0));
+    if (!searching)
+        return count;
+    const std::string column = FindColumnName(condition.Property, view.Units);
+    double field = 0;
+    Attempt([&] {
+        for (record.MoveFirst(); !record.AtEnd(); record.MoveNext()) {
+            Attempt([&] { field = Find_Field(record, Columns, column, view.Units); });
+            bool matches = false;
+            Attempt(
+                [&] { matches = CriterionMatches(condition.Criterion, condition.Value, field); });
+            if (matches)
+                Write_Table_Row(grid, ++count.Found, record, Columns, TableVariant::Find, view);
+        }
+    });
+    grid.Set_Rows(Table_Rows(count.Found));
+    return count;
 }
 
 } // namespace Tensarix

@@ -11,11 +11,15 @@
 #include "sections/PropertyTable.h"
 
 #include <filesystem>
+#include <string>
 
 namespace Tensarix {
 
 inline constexpr std::string_view StaleValueRemark =
     "Not tabulated for this section; the text is left from the section shown before";
+// On View All and Find, where two values share a column.
+inline constexpr std::string_view EarlierValueRemark =
+    "Not tabulated for this section; the text is that of the property written here first";
 
 // What all three forms share.
 struct SectionView {
@@ -34,10 +38,30 @@ struct PlainInitializer {
                     bool labelMode) const;
 };
 
+// Gives the number of sections.
 struct TableInitializer {
     const Layout& Columns;
 
-    void operator()(FlexGrid& grid, std::string_view familyCode, const SectionView& view) const;
+    int operator()(FlexGrid& grid, std::string_view familyCode, const SectionView& view) const;
+};
+
+struct FindCondition {
+    std::string Property, Criterion;
+    double Value = 0;
+};
+
+struct FindCount {
+    int Found = 0, OfFamily = 0;
+};
+
+// Without searching, heads alone and blank rows; otherwise the sections that meet the condition,
+// in the order of the store. A number that can't be read leaves that of the record before (0 at
+// the start), which is then tested like any other.
+struct FindInitializer {
+    const Layout& Columns;
+
+    FindCount operator()(FlexGrid& grid, std::string_view familyCode, const SectionView& view,
+                         bool searching, const FindCondition& condition) const;
 };
 
 inline constexpr PlainInitializer WShape_Initializer{Layouts::W};
@@ -66,10 +90,24 @@ inline constexpr TableInitializer xSAngle_Initializer{Layouts::SAngle};
 inline constexpr TableInitializer xEqDAngle_Initializer{Layouts::EqDAngle};
 inline constexpr TableInitializer xUnEqDAngle_Initializer{Layouts::UnEqDAngle};
 
+inline constexpr FindInitializer fWShape_Initializer{Layouts::W};
+inline constexpr FindInitializer fSShape_Initializer{Layouts::S};
+inline constexpr FindInitializer fCShape_Initializer{Layouts::C};
+inline constexpr FindInitializer fWTShape_Initializer{Layouts::WT};
+inline constexpr FindInitializer fSTShape_Initializer{Layouts::ST};
+inline constexpr FindInitializer fHSSRec_Initializer{Layouts::HSSRec};
+inline constexpr FindInitializer fHSSSqr_Initializer{Layouts::HSSSqr};
+inline constexpr FindInitializer fHSSRnd_Initializer{Layouts::HSSRnd};
+inline constexpr FindInitializer fPipe_Initializer{Layouts::Pipe};
+inline constexpr FindInitializer fSAngle_Initializer{Layouts::SAngle};
+inline constexpr FindInitializer fEqDAngle_Initializer{Layouts::EqDAngle};
+inline constexpr FindInitializer fUnEqDAngle_Initializer{Layouts::UnEqDAngle};
+
 // The pieces that View All and Find share.
 enum class TableVariant { ViewAll, Find };
 
-// Sizes the grid for so many rows with the head row, clears it, and writes the heads.
+// Sizes the grid for so many rows with the head row, clears it, and writes the heads. A head under
+// which another property's values stand says so in its remark.
 void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, Profile profile,
                    int rows);
 // Writes the designations and values of the current record into a row.

@@ -1,6 +1,7 @@
 #include "shell/MainFrm.h"
 
 #include "common/Failure.h"
+#include "common/NumberText.h"
 #include "shell/Version.h"
 
 namespace Tensarix {
@@ -24,7 +25,16 @@ std::string Window_Caption() {
 }
 
 MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
-    : Shared(machine), Browse(Shared), dialogs_(dialogs) {
+    : Shared(machine), Browse(Shared), Find(Shared), ViewAll(Shared), Beam(Shared),
+      mnuEdit1(Shared, SelectionTab,
+               {
+                   &Browse.ShapeFlex,
+                   &Find.fShapeFlex,
+                   &ViewAll.xShapeFlex,
+                   &Beam.zShapeFlex,
+                   nullptr,
+               }),
+      dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
     for (int i = 0; i < ModeCount; ++i) {
         OptionButton& button = OptButton[static_cast<std::size_t>(i)];
@@ -34,6 +44,7 @@ MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
     }
     OptionButton::Group(modes);
     Wire_Menu();
+    Find.OnCount = ViewAll.OnCount = [this] { Show_Count(); };
     Shared.StatBar.OnMouseMove = [this] { Browse.Snap_Back(); };
 }
 
@@ -69,8 +80,10 @@ void MainFrm::StartUp() {
     Start_Flags();
     OptButton[0].Select();
     Start_Options();
-    FillFamilyList(Browse.ShapeType);
-    Attempt([&] { Browse.ShapeType.Select(Shared.Saved.Position(Setting::ShapeType)); });
+    Start_Families();
+    Beam.Start_Families();
+    Beam.Start_Inputs();
+    Find.Restore_Search(); // again, now that the criteria exist
     Shared.Show_No_Selection();
 }
 
@@ -87,6 +100,21 @@ void MainFrm::Start_Options() {
     Choose(saved, Setting::ProfileOption, Browse.ProfileOption1, Browse.ProfileOption2);
     Choose(saved, Setting::DimOption, Browse.DimOption1, Browse.DimOption2);
     Browse.Init_ShapeFlex();
+    Choose(saved, Setting::xProfileOption, ViewAll.xProfileOption1, ViewAll.xProfileOption2);
+    Choose(saved, Setting::xDimOption, ViewAll.xDimOption1, ViewAll.xDimOption2);
+    Choose(saved, Setting::fProfileOption, Find.fProfileOption1, Find.fProfileOption2);
+    Choose(saved, Setting::fDimOption, Find.fDimOption1, Find.fDimOption2);
+}
+
+void MainFrm::Start_Families() {
+    const auto start = [this](ComboBox& list, const SettingKey& key) {
+        FillFamilyList(list);
+        Attempt([&] { list.Select(Shared.Saved.Position(key)); });
+    };
+    start(Browse.ShapeType, Setting::ShapeType);
+    start(Find.fShapeType, Setting::fShapeType);
+    Find.Fill_Criteria();
+    start(ViewAll.xShapeType, Setting::xShapeType);
 }
 
 void MainFrm::OptButton_Click(int index) {
@@ -97,6 +125,17 @@ void MainFrm::OptButton_Click(int index) {
     Shared.GridClicked = false;
     Shared.Show_No_Selection();
     SelectionTab.Select(index);
+    if (static_cast<Mode>(index) == Mode::BeamLoad)
+        Beam.AppliedCode_Click();
+    Show_Count();
+}
+
+// The status bar counts the sections of the page in view.
+void MainFrm::Show_Count() {
+    const auto mode = static_cast<Mode>(SelectionTab.Tab());
+    Shared.StatBar.Set_Count(mode == Mode::Find      ? Find.Count_Text()
+                             : mode == Mode::ViewAll ? ViewAll.Count_Text()
+                                                     : std::string{});
 }
 
 void MainFrm::Open_Dialog(void (Dialogs::*show)()) {
@@ -121,7 +160,9 @@ void MainFrm::mnuReadOut_Click() {
     Shared.Host.Speech.Speak(""); // silence, also when it has just been switched off
 }
 
-void MainFrm::Resized() { Shared.Host.Window.Set_On_Top(Shared.OnTop); }
+void MainFrm::Resized() {
+    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+}
 
 void MainFrm::Activated() {
     Shared.Host.Window.Set_On_Top(Shared.OnTop);
@@ -131,13 +172,17 @@ void MainFrm::Activated() {
 void MainFrm::Query_Unload() {
     Save_Families();
     Save_Sizes();
+    Find.Save_Search();
     Save_Options();
+    Save_Span();
     Shared.Say("");
 }
 
 void MainFrm::Save_Families() {
     const Settings& saved = Shared.Saved;
     saved.Save(Setting::ShapeType, std::to_string(Browse.ShapeType.ListIndex()));
+    saved.Save(Setting::fShapeType, std::to_string(Find.fShapeType.ListIndex()));
+    saved.Save(Setting::xShapeType, std::to_string(ViewAll.xShapeType.ListIndex()));
 }
 
 void MainFrm::Save_Sizes() {
@@ -145,6 +190,9 @@ void MainFrm::Save_Sizes() {
     if (Browse.ShapeType.ListIndex() >= 0)
         saved.Save(Setting::ShapeSize, std::to_string(Browse.ShapeType.ListIndex()),
                    std::to_string(Browse.ShapeSizeUS.ListIndex()));
+    if (Beam.zShapeType.ListIndex() >= 0)
+        saved.Save(Setting::zShapeSize, std::to_string(Beam.zShapeType.ListIndex()),
+                   std::to_string(Beam.zShapeSizeUS.ListIndex()));
 }
 
 void MainFrm::Save_Options() {
@@ -153,6 +201,15 @@ void MainFrm::Save_Options() {
     };
     save(Setting::ProfileOption, Browse.ProfileOption1);
     save(Setting::DimOption, Browse.DimOption1);
+    save(Setting::xProfileOption, ViewAll.xProfileOption1);
+    save(Setting::xDimOption, ViewAll.xDimOption1);
+    save(Setting::fProfileOption, Find.fProfileOption1);
+    save(Setting::fDimOption, Find.fDimOption1);
+}
+
+void MainFrm::Save_Span() {
+    if (const std::optional<double> feet = Beam.Typed_Span())
+        Shared.Saved.Save(Setting::BeamSpan, General_Text(*feet));
 }
 
 } // namespace Tensarix

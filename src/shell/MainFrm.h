@@ -1,19 +1,20 @@
 // The main window without a toolkit: start-up, the five modes, the menu, the end.
 #pragma once
 
+#include "beam/BeamPage.h"
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
+#include "sections/FindPage.h"
+#include "sections/ViewPage.h"
 #include "shell/Dialogs.h"
+#include "shell/GridPopup.h"
+#include "shell/Modes.h"
 
 #include <array>
 #include <string>
 
 namespace Tensarix {
-
-// The five modes; a mode's number is that of its button and of its tab.
-enum class Mode { Browse, Find, ViewAll, BeamLoad, Connection };
-inline constexpr int ModeCount = 5;
 
 class MainFrm {
   public:
@@ -24,6 +25,11 @@ class MainFrm {
     TabControl SelectionTab;
 
     BrowsePage Browse;
+    FindPage Find;
+    ViewPage ViewAll;
+    BeamPage Beam;
+
+    GridPopup mnuEdit1; // of the pages' grids
 
     MenuItem mnuCalc, mnuWtCalc, mnuWtCalcA, mnuTerminate;
     MenuItem mnuOnTop, mnuReadOut;
@@ -46,13 +52,16 @@ class MainFrm {
     void Wire_Menu();
     void Start_Flags();
     void Start_Options();
+    void Start_Families();
     void OptButton_Click(int index);
+    void Show_Count();
     void Open_Dialog(void (Dialogs::*show)());
     void mnuOnTop_Click();
     void mnuReadOut_Click();
     void Save_Families();
     void Save_Sizes();
     void Save_Options();
+    void Save_Span();
 
     Dialogs& dialogs_;
 };

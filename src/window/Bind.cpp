@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -141,6 +143,20 @@ class ComboKeys final : public QObject {
     QElapsedTimer sinceTyped_;
 };
 
+// The wheel passes over what it would change unasked.
+class NoWheel final : public QObject {
+  public:
+    explicit NoWheel(QWidget* widget) : QObject(widget) { widget->installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 // Keys of a text box: every character passes the control's filter first.
 class TextKeys final : public QObject {
   public:
@@ -180,8 +196,12 @@ class TextKeys final : public QObject {
 void Bind(QComboBox* widget, ComboBox& control) {
     auto* model = new ItemModel(control, widget);
     widget->setModel(model);
-    if (widget->isEditable())
+    if (widget->isEditable()) {
         widget->setCompleter(nullptr);
+        // By itself the box would choose the item whose text was typed, when the typing ends.
+        for (const auto end : {&QLineEdit::editingFinished, &QLineEdit::returnPressed})
+            QObject::disconnect(widget->lineEdit(), end, widget, nullptr);
+    }
     new ComboKeys(widget, control);
     const auto pull = [widget, model, &control] {
         const QSignalBlocker quiet(widget);
@@ -250,6 +270,20 @@ void Bind(QLabel* widget, Label& control) {
     });
 }
 
+void Bind(QGroupBox* widget, Frame& control) {
+    new Link(widget, control.Shown, [widget, &control] { widget->setEnabled(control.Enabled()); });
+}
+
+void Bind(QTabBar* widget, TabControl& control) {
+    new NoWheel(widget);
+    auto* link = new Link(widget, control.Shown, [widget, &control] {
+        const QSignalBlocker quiet(widget);
+        widget->setCurrentIndex(control.Tab() - 1);
+    });
+    QObject::connect(widget, &QTabBar::currentChanged, link,
+                     [&control](int index) { control.Select(index + 1); });
+}
+
 void Bind(QStackedWidget* widget, TabControl& control) {
     new Link(widget, control.Shown, [widget, &control] { widget->setCurrentIndex(control.Tab()); });
 }
@@ -273,6 +307,7 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         remark->setText(To_Qt(control.Remark()));
         remark->setToolTip(remark->text());
         count->setText(To_Qt(control.Count()));
+        count->setMinimumWidth(count->sizeHint().width()); // short, and never cut
     });
     Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
 }

@@ -8,11 +8,13 @@
 class QAbstractButton;
 class QAction;
 class QComboBox;
+class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QStackedWidget;
 class QStatusBar;
+class QTabBar;
 
 namespace Tensarix {
 
@@ -24,7 +26,10 @@ void Bind(QLineEdit* widget, TextBox& control);
 void Bind(QPushButton* widget, Button& control);
 void Bind(QAbstractButton* widget, OptionButton& control);
 void Bind(QLabel* widget, Label& control);
+void Bind(QGroupBox* widget, Frame& control);
 void Bind(QStackedWidget* widget, TabControl& control);
+// The strip's first tab is number 1.
+void Bind(QTabBar* widget, TabControl& control);
 void Bind(QStatusBar* widget, StatusBar& control);
 void Bind(QAction* action, MenuItem& control);
 void Bind(PictureView* widget, Picture& control);

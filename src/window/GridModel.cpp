@@ -95,20 +95,23 @@ QVariant GridModel::Cell(int row, int col, int role) const {
     }
 }
 
-void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                         const QModelIndex& index) const {
-    QStyledItemDelegate::paint(painter, option, index);
-    if (!index.data(GridModel::RemarkRole).isValid())
-        return;
-    const QPoint corner = option.rect.topRight() + QPoint(1, 0);
+void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& palette) {
+    const QPoint corner = cell.topRight() + QPoint(1, 0);
     QPainterPath mark(corner);
     mark.lineTo(corner - QPoint(markSize, 0));
     mark.lineTo(corner + QPoint(0, markSize));
     mark.closeSubpath();
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->fillPath(mark, Shown_Colour(Colours::HeadText, option.palette));
-    painter->restore();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(mark, Shown_Colour(Colours::HeadText, palette));
+    painter.restore();
+}
+
+void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (index.data(GridModel::RemarkRole).isValid())
+        Paint_Remark_Mark(*painter, option.rect, option.palette);
 }
 
 } // namespace Tensarix

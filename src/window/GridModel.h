@@ -37,6 +37,9 @@ class GridModel final : public QAbstractTableModel {
     int rows_ = 0, cols_ = 0;
 };
 
+// The quiet mark in the corner of a cell or head that carries a remark.
+void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& palette);
+
 // Paints a cell, with a quiet mark in the corner of one that carries a remark.
 class GridDelegate final : public QStyledItemDelegate {
   public:

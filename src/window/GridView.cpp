@@ -166,7 +166,7 @@ void GridView::Place_Frozen() {
     verticalHeader()->setVisible(width > 0);
     verticalHeader()->setFixedWidth(std::max(width, 1));
     frozen_->setVisible(width > 0);
-    const int head = horizontalHeader()->isVisible() ? horizontalHeader()->height() : 0;
+    const int head = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
     frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + head);
     frozen_->raise();
 }
@@ -216,10 +216,7 @@ void GridView::Reveal_Current() {
 bool GridView::Go_To(int row, int col, bool extend) {
     row = std::clamp(row, grid_->FixedRows(), grid_->Rows() - 1);
     col = std::clamp(col, 0, grid_->Cols() - 1);
-    if (extend)
-        grid_->Extend_To(row, col);
-    else
-        grid_->Move_To(row, col);
+    grid_->Go_To(row, col, extend);
     Reveal_Current();
     return true;
 }
@@ -247,6 +244,11 @@ bool GridView::Move_Key(QKeyEvent* event) {
 void GridView::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         Run(grid_->OnCopy);
+        return;
+    }
+    // The menu key comes as a context menu event; not every desktop sends one for this.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        Popup_By_Key();
         return;
     }
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
@@ -303,8 +305,12 @@ void GridView::Release(QMouseEvent* event) {
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() != QContextMenuEvent::Keyboard)
-        return; // the mouse opens the popup when its button comes up
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Popup_By_Key();
+    // The mouse opens the popup when its button comes up.
+}
+
+void GridView::Popup_By_Key() {
     popupPoint_ = mapToGlobal(Cell_Rect(grid_->Row(), grid_->Col()).center());
     Run(grid_->OnPopup);
 }

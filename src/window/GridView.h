@@ -58,6 +58,7 @@ class GridView : public QTableView {
     void Press(QTableView& pane, QMouseEvent* event);
     void Drag(QTableView& pane, QMouseEvent* event);
     void Release(QMouseEvent* event);
+    void Popup_By_Key();
     bool Frozen_Event(QEvent* event);
     QModelIndex Index(int row, int col) const;
 

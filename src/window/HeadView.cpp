@@ -1,5 +1,7 @@
 #include "window/HeadView.h"
 
+#include "window/GridModel.h"
+
 #include <QBrush>
 #include <QPainter>
 
@@ -37,6 +39,8 @@ void HeadView::paintSection(QPainter* painter, const QRect& rect, int section) c
     painter->drawText(rect.adjusted(headMargin, 0, -headMargin, 0),
                       head(Qt::TextAlignmentRole).toInt(), head(Qt::DisplayRole).toString());
     painter->restore();
+    if (head(GridModel::RemarkRole).isValid())
+        Paint_Remark_Mark(*painter, rect, palette());
 }
 
 } // namespace Tensarix

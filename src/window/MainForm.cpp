@@ -1,8 +1,12 @@
 #include "window/MainForm.h"
 
 #include "ui_MainWindow.h"
+#include "window/BeamForm.h"
 #include "window/Bind.h"
 #include "window/BrowseForm.h"
+#include "window/FindForm.h"
+#include "window/PopupMenu.h"
+#include "window/ViewForm.h"
 
 #include <QCloseEvent>
 #include <QEvent>
@@ -37,8 +41,14 @@ MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
         Show_Chosen_In_Bold(modes[i]);
         Bind(modes[i], form.OptButton[i]);
     }
+    // One page a mode, in their order.
     ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));
+    ui.SelectionTab->addWidget(Make_Find_Form(form.Find, this));
+    ui.SelectionTab->addWidget(Make_View_Form(form.ViewAll, this));
+    ui.SelectionTab->addWidget(Make_Beam_Form(form.Beam, this));
+    ui.SelectionTab->addWidget(new QWidget(this));
     Bind(ui.SelectionTab, form.SelectionTab);
+    Make_Grid_Popup(form.mnuEdit1, this);
     Bind(ui.StatBar, form.Shared.StatBar);
     Bind(ui.mnuCalc, form.mnuCalc);
     Bind(ui.mnuWtCalc, form.mnuWtCalc);

@@ -1,6 +1,8 @@
 #include "window/Program.h"
 
+#include "shell/AboutFrm.h"
 #include "shell/Version.h"
+#include "window/AboutForm.h"
 #include "window/CalcForm.h"
 
 #include <QApplication>
@@ -49,6 +51,10 @@ void Program::Show_CalcMainFrm() {
 // These dialogs are not there yet.
 void Program::Show_WtCalcsFrm() {}
 void Program::Show_WtCalcsFrmA() {}
-void Program::Show_AboutFrm() {}
+
+void Program::Show_AboutFrm() {
+    AboutFrm about(form_.Shared);
+    AboutForm(about, window_.get()).exec();
+}
 
 } // namespace Tensarix

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calculator/CalcVariables.h"
+#include "window/DesktopVoice.h"
 #include "window/MainForm.h"
 
 #include <memory>
@@ -31,7 +32,7 @@ class Program final : public Dialogs {
   private:
     IniSettings settings_;
     DesktopClipboard clipboard_;
-    NoVoice voice_;
+    DesktopVoice voice_;
     MessageBoxes messages_;
     SteadyClock clock_;
     DesktopEvents events_;

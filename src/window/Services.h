@@ -91,12 +91,6 @@ class SingleInstance final : public Instance {
     bool first_ = false;
 };
 
-// Until a speech service is connected, nothing is said.
-class NoVoice final : public Voice {
-  public:
-    void Speak(std::string_view) override {}
-};
-
 // The program's own folder, and the one for its data files.
 Folders Program_Folders();
 

@@ -1,0 +1,105 @@
+// The results of the beam page, and the advice beside them.
+#include "beam/BeamPage.h"
+
+#include "common/Failure.h"
+#include "common/NumberText.h"
+#include "measures/FeetInchFormatting.h"
+#include "sections/SectionStore.h"
+
+namespace Tensarix {
+
+namespace {
+
+constexpr std::string_view loadPattern = "0.00";
+
+void Add_Line(std::string& text, std::string_view line) {
+    text.append(text.empty() ? "" : "\n").append(line);
+}
+
+} // namespace
+
+std::string BeamPage::Length_Text(double feet) {
+    return Format_FeetInch(feet, Sixteenths, 0, 0);
+}
+
+// What the section doesn't have counts as 0, and never as the figure of the section before.
+BeamSection BeamPage::Read_Section() const {
+    BeamSection section;
+    Attempt([&] {
+        const SectionRead read(desk_.Host.Places.Program, Query_By_US_Label(zShapeSizeUS.Text()));
+        const auto keep = [&](double& target, std::string_view column) {
+            Attempt([&] { target = read.Records.Number(column); });
+        };
+        keep(section.Zx, "ZX");
+        keep(section.Sx, "SX");
+        keep(section.d, "D");
+        keep(section.tw, "TW");
+        keep(section.h_tw, "H_TW");
+        keep(section.bf_2tf, "BF_2TF");
+    });
+    return section;
+}
+
+BeamInput BeamPage::Read_Inputs() const {
+    BeamInput input{
+        .Section = Read_Section(), .TypedSpanFeet = Typed_Span(), .EarlierSpanFeet = span_};
+    Attempt([&] { input.YieldKsi = static_cast<float>(Leading_Value(FyBox.Text())); });
+    return input;
+}
+
+void BeamPage::CalculateValues() {
+    const BeamInput input = Read_Inputs();
+    const BeamLoad load = Is_9th_Edition() ? Beam_Load_9th(input) : Beam_Load_13th(input, Method());
+    span_ = load.SpanFeet;
+    boundary_ = load.BoundaryFeet;
+    Show_Results(load);
+    Show_Span_Remark();
+    RuleRemark.Set_Caption(Rule_Remark(input));
+}
+
+void BeamPage::Show_Results(const BeamLoad& load) {
+    double magnification = 0;
+    Attempt([&] { magnification = Leading_Value(CFactor.Text()) / 100.0; });
+    UniWTLab.Set_Caption("Maximum Allowable Uniform Load,  w = " +
+                         Format_Number(load.LoadKipsPerFoot, loadPattern) + " Kip/ft");
+    LimSpanLab.Set_Caption(Length_Text(load.BoundaryFeet));
+    Attempt([&] {
+        BeamReactionLab.Set_Caption(
+            Format_Number((1.0 + magnification) * load.EndReactionKips, loadPattern) + " Kips");
+    });
+}
+
+void BeamPage::Show_Span_Remark() {
+    std::string text;
+    const std::string boundary = Length_Text(boundary_);
+    const std::optional<double> typed = Typed_Span();
+    if (!typed)
+        text = "No valid span: results are those at " + Length_Text(span_);
+    else if (*typed < boundary_ && Length_Text(*typed) != boundary)
+        text = "Span below the boundary: results are those at " + boundary;
+    SpanRemark.Set_Caption(text);
+}
+
+std::string BeamPage::Rule_Remark(const BeamInput& input) const {
+    const BeamSection& section = input.Section;
+    const float yield = input.YieldKsi;
+    std::string text;
+    if (section.d == 0 || yield == 0) // nothing was computed
+        return text;
+    if (Is_9th_Edition() && !Is_Compact_Flange(section, yield))
+        Add_Line(text, "The 9th Edition page makes no compactness check: by the 13th Edition this "
+                       "flange is not compact");
+    if (!Is_9th_Edition() && zShapeType.ListIndex() >= FirstChannelFamily &&
+        Is_Stocky_Web(section, yield))
+        Add_Line(text, Method() == DesignMethod::ASD
+                           ? "The factor used for shear, 1.5, is that of I-shaped rolled webs: the "
+                             "13th Edition gives channels 1.67"
+                           : "The factor used for shear, 1.0, is that of I-shaped rolled webs: the "
+                             "13th Edition gives channels 0.9");
+    if (Is_9th_Edition() ? Web_Buckles_9th(section, yield) : Web_Buckles_13th(section, yield))
+        Add_Line(text, "Web shear buckling is left out: h/tw of this web is above the limit to "
+                       "which the edition takes its full shear strength");
+    return text;
+}
+
+} // namespace Tensarix

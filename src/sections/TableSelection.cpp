@@ -1,0 +1,59 @@
+#include "sections/TableSelection.h"
+
+#include "common/NumberText.h"
+#include "speech/Normalisers.h"
+
+namespace Tensarix {
+
+namespace {
+
+enum NameColumn { usNameColumn, siNameColumn };
+
+struct Head {
+    std::string Name, Unit;
+};
+
+Head Head_Of(const FlexGrid& grid, int col) {
+    const std::string text = Replace_All(Replace_All(Trim(grid.Text(0, col)), "[", ""), "]", "");
+    const std::size_t lineBreak = text.find('\n');
+    if (lineBreak == std::string::npos)
+        return {text, {}};
+    return {Trim(text.substr(0, lineBreak)), Trim(text.substr(lineBreak + 1))};
+}
+
+} // namespace
+
+std::string Table_Selection_Text(const FlexGrid& grid, int row, int col) {
+    const std::string name = Trim(grid.Text(row, usNameColumn));
+    if (name.empty())
+        return std::string{Desk::NoSelection};
+    const Head head = Head_Of(grid, col);
+    const std::string text = " SELECTION:   " + name + "  [" + Trim(grid.Text(row, siNameColumn)) +
+                             "]    -->   " + head.Name + " = " + Trim(grid.Text(row, col));
+    return head.Unit.empty() ? text : text + " " + head.Unit;
+}
+
+std::string Spoken_Table_Selection(const FlexGrid& grid, int row, int col) {
+    if (Trim(grid.Text(row, usNameColumn)).empty())
+        return {};
+    const Head head = Head_Of(grid, col);
+    const std::string value = Trim(grid.Text(row, col));
+    std::string text = Speak_Symbol(head.Name) + " = " + Speak_Value(value);
+    if (head.Unit.empty())
+        return text;
+    text += " ";
+    return Is_Numeric(value) ? text + Speak_Unit(head.Unit, value) : text;
+}
+
+void Show_Table_Selection(Desk& desk, const FlexGrid& grid) {
+    const int row = grid.Row(), col = grid.Col();
+    const std::string text = Table_Selection_Text(grid, row, col);
+    desk.StatBar.Set_Panel1(text);
+    const bool selected = text != Desk::NoSelection;
+    const std::string& own = grid.Remark(row, col);
+    desk.StatBar.Set_Remark(!own.empty() ? own : selected ? grid.Remark(0, col) : std::string{});
+    if (desk.ReadOut && selected)
+        desk.Say(Spoken_Table_Selection(grid, row, col));
+}
+
+} // namespace Tensarix

@@ -1,0 +1,22 @@
+// What the current cell of View All and of Find tells, in the status bar and aloud.
+#pragma once
+
+#include "controls/FlexGrid.h"
+#include "desk/Desk.h"
+
+#include <string>
+
+namespace Tensarix {
+
+// " SELECTION:   W18x50  [W460x74]    -->   Zx = 101.00 in^3", without the unit where the head has
+// none; a row without a section reads as no selection. A second line of a head counts as its unit,
+// also that of the designations ("Standard US = W18x50 Profile"); that is intended.
+std::string Table_Selection_Text(const FlexGrid& grid, int row, int col);
+
+// The same for the voice, without the designations; empty for a row without a section.
+std::string Spoken_Table_Selection(const FlexGrid& grid, int row, int col);
+
+// Shows the current cell, with its remark or that of its head, and speaks it.
+void Show_Table_Selection(Desk& desk, const FlexGrid& grid);
+
+} // namespace Tensarix

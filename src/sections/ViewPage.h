@@ -1,0 +1,37 @@
+// View All: the sections of one family, a row each, with all properties as columns.
+#pragma once
+
+#include "controls/Controls.h"
+#include "controls/FlexGrid.h"
+#include "desk/Desk.h"
+#include "sections/FamilyTable.h"
+
+namespace Tensarix {
+
+class ViewPage {
+  public:
+    ComboBox xShapeType;
+    OptionButton xProfileOption1, xProfileOption2;
+    OptionButton xDimOption1, xDimOption2;
+    FlexGrid xShapeFlex;
+
+    Handler OnCount; // Count_Text has changed
+
+    explicit ViewPage(Desk& desk);
+    ViewPage(const ViewPage&) = delete;
+
+    // How many sections the grid shows, in words; empty without a family.
+    std::string Count_Text() const;
+
+  private:
+    void xShapeType_Change();
+    void Choose_Profile(Profile profile);
+    void Choose_Style(DimensionStyle style);
+
+    Desk& desk_;
+    Profile profile_ = Profile::US;
+    DimensionStyle style_ = DimensionStyle::Decimal;
+    int count_ = 0;
+};
+
+} // namespace Tensarix

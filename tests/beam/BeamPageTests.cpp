@@ -1,0 +1,368 @@
+#include "StandIns.h"
+#include "beam/BeamPage.h"
+#include "beam/Shape_Init_For_AllowableLoad.h"
+
+#include <gtest/gtest.h>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class BeamPageTest : public testing::Test {
+  protected:
+    TestMachine machine;
+    std::unique_ptr<Desk> desk;
+    std::unique_ptr<BeamPage> page;
+
+    BeamPage& Start() {
+        page.reset();
+        desk = std::make_unique<Desk>(machine.Host);
+        page = std::make_unique<BeamPage>(*desk);
+        page->Start_Families();
+        page->Start_Inputs();
+        machine.Store.Written.clear();
+        return *page;
+    }
+    void Choose(int family, const std::string& size) {
+        page->zShapeType.Select(family);
+        for (int i = 0; i < page->zShapeSizeUS.Count(); ++i)
+            if (page->zShapeSizeUS.Item(i) == size)
+                page->zShapeSizeUS.Select(i);
+        ASSERT_EQ(page->zShapeSizeUS.Text(), size);
+    }
+    // The three results, as they stand.
+    Texts Results() const {
+        return {page->UniWTLab.Caption(), page->LimSpanLab.Caption(),
+                page->BeamReactionLab.Caption()};
+    }
+    std::string Cell(const std::string& symbol, int col) const {
+        for (int row = 1; row < page->zShapeFlex.Rows(); ++row)
+            if (page->zShapeFlex.Text(row, 0) == symbol)
+                return page->zShapeFlex.Text(row, col);
+        return "no such row";
+    }
+};
+
+} // namespace
+
+TEST_F(BeamPageTest, AFirstStart) {
+    desk = std::make_unique<Desk>(machine.Host);
+    page = std::make_unique<BeamPage>(*desk);
+    EXPECT_EQ(page->UniWTLab.Caption(), "Maximum Allowable Uniform Load =");
+    page->Start_Families();
+    page->Start_Inputs();
+    EXPECT_EQ(page->zShapeType.Count(), 6);
+    EXPECT_EQ(page->zShapeLab.Caption(), "W-Shape Profile");
+    EXPECT_EQ(page->ShapeLab.Caption(), "Beam Size:    W44x335");
+    EXPECT_EQ(page->zShapeSizeSI.Text(), "W1100x499");
+    EXPECT_EQ(page->AppliedCode.Tab(), Code9thEdition);
+    EXPECT_FALSE(page->CodeFrame.Enabled());
+    EXPECT_TRUE(page->CodeOpt[0].Value());
+    EXPECT_FALSE(page->CodeOpt[1].Enabled());
+    EXPECT_EQ(page->FyBox.Text(), "  50 Ksi");
+    EXPECT_EQ(page->CFactor.Text(), "0.00");
+    // No span has been saved for this pair of code and method.
+    EXPECT_EQ(page->BeamSpanBox.Text(), "0\"");
+    // 0.66 x 1410 / (1.2 x 44 x 1.03) = 17.112 ft; 20 x 44 x 1.03 = 906.40; 2 x 906.40 / 17.112.
+    EXPECT_EQ(Results(), (Texts{"Maximum Allowable Uniform Load,  w = 105.94 Kip/ft",
+                                "17'-1 5/16\"", "906.40 Kips"}));
+    EXPECT_EQ(page->SpanRemark.Caption(),
+              "Span below the boundary: results are those at 17'-1 5/16\"");
+    EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   W44x335");
+    // What the program itself sets is not saved, but for what a click saves.
+    EXPECT_EQ(machine.Store.Written, (Texts{"zShapeSize0=0", "AppliedCode=1", "YieldIndex1=0"}));
+}
+
+TEST_F(BeamPageTest, ResultsFallOnTies) {
+    machine.Store.Set("AppliedCode", "2");
+    machine.Store.Set("CodeOpt", "1");
+    machine.Store.Set("BeamSpan21", "20");
+    Start();
+    Choose(0, "W21x44");
+    // 0.9 x 50 x 95.4 / 12 = 357.75; w = 8 x 357.75 / 400 = 7.155, computed 7.154999999999999.
+    EXPECT_EQ(Results(),
+              (Texts{"Maximum Allowable Uniform Load,  w = 7.16 Kip/ft", "6'-7\"", "71.55 Kips"}));
+    EXPECT_EQ(page->SpanRemark.Caption(), "");
+    page->CFactor.Set_Text("15");
+    EXPECT_EQ(Results(),
+              (Texts{"Maximum Allowable Uniform Load,  w = 7.16 Kip/ft", "6'-7\"", "82.28 Kips"}));
+}
+
+TEST_F(BeamPageTest, EachPairOfCodeAndMethodKeepsItsOwnSpanAndFactor) {
+    BeamPage& p = Start();
+    p.BeamSpanBox.Set_Text("30'");
+    p.CFactor.Set_Text("10");
+    EXPECT_EQ(machine.Store.Written, (Texts{"BeamSpan10=30", "CFactor10=10"}));
+    machine.Store.Written.clear();
+
+    p.AppliedCode.Select(Code13thEdition);
+    EXPECT_EQ(machine.Store.Written, (Texts{"AppliedCode=2"})); // the yield strength stays
+    EXPECT_TRUE(p.CodeFrame.Enabled() && p.CodeOpt[1].Enabled());
+    EXPECT_EQ(p.BeamSpanBox.Text(), "0\"");
+    p.BeamSpanBox.Set_Text("20'-6\"");
+    p.FyBox.Select(1);
+    p.CodeOpt[1].Select();
+    EXPECT_EQ(p.BeamSpanBox.Text(), "0\"");
+    EXPECT_EQ(p.CFactor.Text(), "0.00");
+    p.CFactor.Set_Text("2.5");
+    p.AppliedCode.Select(Code9thEdition);
+    EXPECT_EQ(machine.Store.Written,
+              (Texts{"AppliedCode=2", "BeamSpan20=20.5", "YieldIndex2=1", "CodeOpt=1",
+                     "CFactor21=2.5", "AppliedCode=1", "YieldIndex1=0"}));
+    EXPECT_TRUE(p.CodeOpt[0].Value());
+    EXPECT_EQ(p.BeamSpanBox.Text(), "30'-0\"");
+    EXPECT_EQ(p.CFactor.Text(), "10.00");
+    EXPECT_EQ(p.FyBox.ListIndex(), 0);
+
+    // The next start, and the page coming into view.
+    BeamPage& q = Start();
+    q.AppliedCode.Select(Code13thEdition);
+    EXPECT_TRUE(q.CodeOpt[1].Value());
+    EXPECT_EQ(q.CFactor.Text(), "2.50");
+    EXPECT_EQ(q.FyBox.Text(), "  36 Ksi");
+    q.CodeOpt[0].Select();
+    EXPECT_EQ(q.BeamSpanBox.Text(), "20'-6\"");
+    q.AppliedCode_Click();
+    EXPECT_EQ(q.BeamSpanBox.Text(), "20'-6\"");
+}
+
+// Nothing is rewritten while it is typed, and each length on the way is saved.
+TEST_F(BeamPageTest, TypingASpan) {
+    BeamPage& p = Start();
+    p.BeamSpanBox.Focus.Set();
+    for (const char* text :
+         {"", "2", "25", "25'", "25'-", "25'-6", "25'-6 ", "25'-6 1", "25'-6 1/", "25'-6 1/4"}) {
+        p.BeamSpanBox.Set_Text(text);
+        EXPECT_EQ(p.BeamSpanBox.Text(), text);
+    }
+    EXPECT_EQ(machine.Store.Written,
+              (Texts{"BeamSpan10=0.166666666666667", "BeamSpan10=2.08333333333333", "BeamSpan10=25",
+                     "BeamSpan10=25.5", "BeamSpan10=25.5", "BeamSpan10=25.5",
+                     "BeamSpan10=25.5208333333333"}));
+    EXPECT_TRUE(machine.Boxes.Shown.empty());
+    p.BeamSpanBox.Focus.Release();
+    EXPECT_EQ(p.BeamSpanBox.Text(), "25'-6 1/4\"");
+    EXPECT_EQ(machine.Store.Get("BeamSpan10"), "25.5208333333333");
+}
+
+// The box's text is normal already when the focus comes: the user's first change is saved all the
+// same, even if it is one paste that is in normal form.
+TEST_F(BeamPageTest, NormalisingTheSameTextDoesNotSwallowTheNextChange) {
+    BeamPage& p = Start();
+    p.BeamSpanBox.Focus.Set();
+    p.BeamSpanBox.Set_Text("30'-0\"");
+    EXPECT_EQ(machine.Store.Written, (Texts{"BeamSpan10=30"}));
+    p.AppliedCode_Click();
+    p.CFactor.Set_Text("7");
+    EXPECT_EQ(machine.Store.Get("CFactor10"), "7");
+}
+
+TEST_F(BeamPageTest, AnInvalidSpan) {
+    BeamPage& p = Start();
+    p.BeamSpanBox.Focus.Set();
+    p.BeamSpanBox.Set_Text("30'-0\"");
+    const Texts before = Results();
+    machine.Store.Written.clear();
+    for (const char* text : {"", "5'6\"", "5-6", "'", "1/0", "abc"}) {
+        p.BeamSpanBox.Set_Text(text);
+        EXPECT_EQ(Results(), before) << text;
+        EXPECT_EQ(p.SpanRemark.Caption(), "No valid span: results are those at 30'-0\"") << text;
+    }
+    // The earlier span holds for the new yield strength as well: 30 ft at 36 ksi.
+    p.FyBox.Select(1);
+    EXPECT_EQ(p.BeamReactionLab.Caption(), "372.24 Kips"); // 23.76 x 1410 / 90
+    EXPECT_EQ(machine.Store.Written, (Texts{"YieldIndex1=1"}));
+
+    // While the message is open the focus wanders; the message comes once.
+    machine.Boxes.Meanwhile = [&] {
+        p.CFactor.Focus.Set();
+        p.CFactor.Focus.Release();
+    };
+    p.CFactor.Focus.Set();
+    EXPECT_EQ(machine.Boxes.Shown, (Texts{"Warning|Invalid Distance Input! |stop"}));
+    EXPECT_EQ(p.BeamSpanBox.Text(), "30'-0\"");
+    EXPECT_EQ(p.SpanRemark.Caption(), "");
+
+    // By Tab: the key is as leaving, and the leaving that follows has nothing to say.
+    p.BeamSpanBox.Focus.Set();
+    p.BeamSpanBox.Set_Text("x");
+    p.BeamSpanBox.OnKeyDown(Keys::Tab);
+    p.BeamSpanBox.Focus.Release();
+    EXPECT_EQ(machine.Boxes.Shown.size(), 2u);
+    EXPECT_EQ(p.BeamSpanBox.Text(), "30'-0\"");
+    EXPECT_EQ(machine.Store.Get("BeamSpan10"), "30");
+}
+
+// Blanks around a length, which reading it as it stands would take for no inches, do no harm.
+TEST_F(BeamPageTest, EveryFormOfALengthIsTaken) {
+    BeamPage& p = Start();
+    for (const auto& [typed, shown] : {std::pair{"240", "20'-0\""},
+                                       {" 240", "20'-0\""},
+                                       {"20'", "20'-0\""},
+                                       {"20.5'", "20'-6\""},
+                                       {"20'-6 1/2", "20'-6 1/2\""},
+                                       {" 20' -6\" ", "20'-6\""},
+                                       {"240 1/2\"", "20'-1/2\""},
+                                       {"1/2 ", "1/2\""},
+                                       {"-5'", "-5'-0\""}}) {
+        p.BeamSpanBox.Focus.Set();
+        p.BeamSpanBox.Set_Text(typed);
+        p.BeamSpanBox.OnKeyDown(Keys::Enter);
+        EXPECT_EQ(p.BeamSpanBox.Text(), shown) << typed;
+        for (const char key : std::string_view{typed})
+            EXPECT_EQ(p.BeamSpanBox.OnKeyPress(key), key);
+    }
+    EXPECT_EQ(p.BeamSpanBox.OnKeyPress('x'), 0);
+    EXPECT_TRUE(machine.Boxes.Shown.empty());
+}
+
+TEST_F(BeamPageTest, TheFactorIsNormalisedOnLeaving) {
+    BeamPage& p = Start();
+    for (const auto& [typed, shown] : {std::pair{".5", "0.50"}, {"", "0.00"}, {"1.2.3", "1.20"}}) {
+        p.CFactor.Focus.Set();
+        p.CFactor.Set_Text(typed);
+        p.CFactor.Focus.Release();
+        EXPECT_EQ(p.CFactor.Text(), shown);
+    }
+}
+
+TEST_F(BeamPageTest, SizesAndFamilies) {
+    BeamPage& p = Start();
+    p.zShapeSizeSI.Select(3);
+    EXPECT_EQ(p.zShapeSizeUS.ListIndex(), 3);
+    EXPECT_EQ(machine.Store.Written, (Texts{"zShapeSize0=3"}));
+    p.zShapeType.Select(3);
+    EXPECT_EQ(p.zShapeLab.Caption(), "S-Shape Profile");
+    p.zShapeSizeUS.Select(2);
+    p.zShapeType.Select(0);
+    EXPECT_EQ(p.zShapeSizeUS.ListIndex(), 3);
+    // A saved position below the list counts as the first; one beyond it chooses no section.
+    machine.Store.Set("zShapeSize1", "-4");
+    machine.Store.Set("zShapeSize2", "999");
+    p.zShapeType.Select(1);
+    EXPECT_EQ(p.zShapeSizeUS.ListIndex(), 0);
+    p.zShapeType.Select(2);
+    EXPECT_EQ(p.zShapeSizeUS.ListIndex(), -1);
+    EXPECT_EQ(p.ShapeLab.Caption(), "Beam Size:    ");
+    EXPECT_EQ(Results(),
+              (Texts{"Maximum Allowable Uniform Load,  w = 0.00 Kip/ft", "0\"", "0.00 Kips"}));
+    EXPECT_EQ(Cell("W", 1), "");
+    EXPECT_EQ(p.SpanRemark.Caption() + p.RuleRemark.Caption(), "");
+}
+
+TEST_F(BeamPageTest, WithoutAStoreThePageComesUpEmpty) {
+    machine.Host.Places.Program = "/no/such/folder";
+    machine.Store.Set("BeamSpan10", "20");
+    for (const char* tab : {"1", "2"}) {
+        machine.Store.Set("AppliedCode", tab);
+        BeamPage& p = Start();
+        EXPECT_EQ(p.zShapeSizeUS.Count(), 0);
+        EXPECT_EQ(Results(),
+                  (Texts{"Maximum Allowable Uniform Load,  w = 0.00 Kip/ft", "0\"", "0.00 Kips"}));
+        EXPECT_EQ(Cell("Ix", 2), "in^4");
+    }
+}
+
+TEST_F(BeamPageTest, DamagedSettingsLeaveTheControlsAsTheyWere) {
+    for (const char* bad : {"", "abc", "3", "-7", "1E999"}) {
+        machine.Store.Set("AppliedCode", bad);
+        machine.Store.Set("CodeOpt", bad);
+        machine.Store.Set("BeamSpan", "x");
+        BeamPage& p = Start();
+        EXPECT_EQ(p.AppliedCode.Tab(), Code9thEdition) << bad;
+        EXPECT_EQ(p.BeamSpanBox.Text(), "25'-0\"") << bad; // the start's own
+        p.AppliedCode.Select(Code13thEdition);
+        EXPECT_FALSE(p.CodeOpt[1].Value()) << bad;
+    }
+    machine.Store.Set("YieldIndex2", "99");
+    machine.Store.Set("AppliedCode", "2");
+    EXPECT_EQ(Start().FyBox.ListIndex(), 1); // limited
+}
+
+TEST_F(BeamPageTest, TheGridOfEachFamily) {
+    Start();
+    Choose(0, "W21x44");
+    EXPECT_EQ(page->zShapeFlex.Rows(), 27);
+    EXPECT_EQ(page->zShapeFlex.Clip().substr(0, 5), "44.00"); // as it was current before
+    EXPECT_EQ(Cell("W", 1) + Cell("W", 2), "44.00  lb/ft");
+    EXPECT_EQ(Cell("h / tw", 1) + Cell("h / tw", 2), "53.60  ");
+    EXPECT_EQ(Cell("tw", 1), "0.35  ");
+    EXPECT_EQ(Cell("T", 1), "18.45  "); // 20.7 - 2 x 1.125
+    Choose(3, "S24x121");
+    EXPECT_EQ(page->zShapeFlex.Rows(), 25);
+    EXPECT_EQ(Cell("k", 1), "2.00  ");
+    EXPECT_EQ(Cell("kdes", 1), "no such row");
+    Choose(4, "C15x50");
+    EXPECT_EQ(page->zShapeFlex.Rows(), 26);
+    EXPECT_EQ(Cell("e0", 1) + Cell("e0", 2), "0.583  in");
+    // The SI figure under the US unit is intended; a remark tells it. A cell without a figure is
+    // blank, not that of the section before.
+    EXPECT_EQ(Cell("rx", 1) + Cell("rx", 2), "133.00  in");
+    EXPECT_EQ(page->zShapeFlex.Remark(17, 1), SIColumnRemark);
+    EXPECT_EQ(Cell("k1", 1), "");
+    page->zShapeFlex.Move_To(17, 0);
+    EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   rx = 133.00 in");
+    EXPECT_EQ(desk->StatBar.Remark(), SIColumnRemark);
+    page->zShapeFlex.Move_To(25, 1);
+    EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   H = 0.937 ");
+}
+
+TEST_F(BeamPageTest, RemarksOnTheRules) {
+    const std::string compactness = "The 9th Edition page makes no compactness check: by the 13th "
+                                    "Edition this flange is not compact";
+    const std::string channel15 =
+        "The factor used for shear, 1.5, is that of I-shaped rolled webs: "
+        "the 13th Edition gives channels 1.67";
+    const std::string channel10 =
+        "The factor used for shear, 1.0, is that of I-shaped rolled webs: "
+        "the 13th Edition gives channels 0.9";
+    const std::string web =
+        "Web shear buckling is left out: h/tw of this web is above the limit to "
+        "which the edition takes its full shear strength";
+    struct {
+        int Family;
+        const char* Size;
+        std::string Ninth, ASD, LRFD; // at 50 ksi
+    } const cases[] = {{0, "W21x44", "", "", ""},
+                       {0, "W6x15", compactness, "", ""},
+                       {0, "W44x230", web, "", ""},
+                       {1, "M12x10", web, web, web},
+                       {4, "C15x50", "", channel15, channel10},
+                       {5, "MC12x10.6", web, "", ""}, // its factors are 1.67 and 0.9
+                       {5, "MC10x6.5", web, web, web}};
+    Start();
+    for (const auto& c : cases) {
+        Choose(c.Family, c.Size);
+        page->AppliedCode.Select(Code9thEdition);
+        EXPECT_EQ(page->RuleRemark.Caption(), c.Ninth) << c.Size;
+        page->AppliedCode.Select(Code13thEdition);
+        page->CodeOpt[0].Select();
+        EXPECT_EQ(page->RuleRemark.Caption(), c.ASD) << c.Size;
+        page->CodeOpt[1].Select();
+        EXPECT_EQ(page->RuleRemark.Caption(), c.LRFD) << c.Size;
+    }
+}
+
+TEST_F(BeamPageTest, WhatIsSpoken) {
+    BeamPage& p = Start();
+    p.zShapeType.Select(1);
+    p.zShapeFlex.Move_To(2, 1);
+    EXPECT_TRUE(machine.Speech.Spoken.empty());
+    desk->ReadOut = true;
+    p.zShapeType.Select(0);
+    p.zShapeFlex.Move_To(3, 1);
+    p.zShapeFlex.Move_To(11, 1);
+    p.FyBox.Select(1);
+    p.AppliedCode.Select(Code13thEdition); // silent, though the yield strength changes back
+    p.BeamSpanBox.Set_Text("12'-6 3/8");
+    p.BeamSpanBox.OnKeyDown(Keys::Enter);
+    p.BeamSpanBox.Set_Text("x");
+    p.BeamSpanBox.OnKeyDown(Keys::Tab);
+    EXPECT_EQ(machine.Speech.Spoken,
+              (Texts{"W-Shape", "d = 44 INCHES", "BF OVER 2 TF = 4.5 ", "36K S I",
+                     "Twelve Feet and Six and Three-Eights Inches"}));
+    EXPECT_TRUE(desk->ReadOut);
+}

@@ -1,0 +1,160 @@
+// What is said at which event: with the read-out off, nothing at all.
+#include "StandIns.h"
+#include "shell/AboutFrm.h"
+#include "shell/MainFrm.h"
+
+#include <gtest/gtest.h>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+struct NoDialogs final : Dialogs {
+    void Show_CalcMainFrm() override {}
+    void Show_WtCalcsFrm() override {}
+    void Show_WtCalcsFrmA() override {}
+    void Show_AboutFrm() override {}
+};
+
+struct SpokenEvent {
+    const char* Name;
+    void (*Happen)(MainFrm&);
+    std::vector<std::string> Said;
+};
+
+const SpokenEvent spokenEvents[] = {
+    {"a row of Browse",
+     [](MainFrm& f) { f.Browse.ShapeFlex.Move_To(2, 1); },
+     {"AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area"}},
+    {"the same row pressed again",
+     [](MainFrm& f) {
+         f.Browse.ShapeFlex.Move_To(2, 2);
+         f.Browse.ShapeFlex.Move_To(2, 3);
+     },
+     {"AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area",
+      "AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area"}},
+    {"a length of Browse in feet and inches",
+     [](MainFrm& f) {
+         f.Browse.DimOption2.Select();
+         f.Browse.ShapeFlex.Move_To(3, 1);
+     },
+     {"d = Three Feet and Eight Inches INCHES :: Overall Depth of Member"}},
+    {"a family with parentheses",
+     [](MainFrm& f) { f.Browse.ShapeType.Select(15); },
+     {"", "Double Angle Equal Legs"}},
+    {"another size", [](MainFrm& f) { f.Browse.ShapeSizeUS.Select(5); }, {}},
+    {"another profile", [](MainFrm& f) { f.Browse.ProfileOption2.Select(); }, {}},
+    {"a cell of View All with a unit",
+     [](MainFrm& f) { f.ViewAll.xShapeFlex.Move_To(1, 2); },
+     {"WEIGHT = 335 POUNDS PER FOOT"}},
+    {"a cell of View All without one",
+     [](MainFrm& f) { f.ViewAll.xShapeFlex.Move_To(1, 13); },
+     {"H OVER T W = 38"}},
+    {"a family of View All",
+     [](MainFrm& f) { f.ViewAll.xShapeType.Select(15); },
+     {"", "Double Angle Equal Legs"}},
+    {"a cell of Find before there is a result",
+     [](MainFrm& f) { f.Find.fShapeFlex.Move_To(1, 2); },
+     {}},
+    {"a family of Find", [](MainFrm& f) { f.Find.fShapeType.Select(2); }, {"", "HP-Shape"}},
+    {"a row of the beam page",
+     [](MainFrm& f) { f.Beam.zShapeFlex.Move_To(3, 1); },
+     {"d = 44 INCHES"}},
+    {"a family of the beam page", [](MainFrm& f) { f.Beam.zShapeType.Select(3); }, {"S-Shape"}},
+    {"another yield strength", [](MainFrm& f) { f.Beam.FyBox.Select(1); }, {"36K S I"}},
+    {"a valid span and Enter",
+     [](MainFrm& f) {
+         f.Beam.BeamSpanBox.Set_Text("12'-6 3/8");
+         f.Beam.BeamSpanBox.OnKeyDown(Keys::Enter);
+     },
+     {"Twelve Feet and Six and Three-Eights Inches"}},
+    {"no span and Tab",
+     [](MainFrm& f) {
+         f.Beam.BeamSpanBox.Set_Text("x");
+         f.Beam.BeamSpanBox.OnKeyDown(Keys::Tab);
+     },
+     {}},
+    {"the beam page comes into view",
+     [](MainFrm& f) { f.OptButton[3].Select(); },
+     {"", "Allowable Beam Load"}},
+    {"another mode", [](MainFrm& f) { f.OptButton[1].Select(); }, {"", "Find Sections"}},
+    {"the same mode", [](MainFrm& f) { f.OptButton[0].Select(); }, {}},
+    {"the calculator opens", [](MainFrm& f) { f.mnuCalc.Click(); }, {""}},
+    {"a weight calculator opens", [](MainFrm& f) { f.mnuWtCalc.Click(); }, {""}},
+    {"the other weight calculator opens", [](MainFrm& f) { f.mnuWtCalcA.Click(); }, {""}},
+    {"the about box opens", [](MainFrm& f) { f.mnuAbout.Click(); }, {""}},
+    {"the window becomes the active one", [](MainFrm& f) { f.Activated(); }, {""}},
+    {"the window gets another size", [](MainFrm& f) { f.Resized(); }, {}},
+    {"the window stays above others", [](MainFrm& f) { f.mnuOnTop.Click(); }, {}},
+    {"the window closes", [](MainFrm& f) { f.Query_Unload(); }, {""}},
+};
+
+class ReadOutTest : public testing::Test {
+  protected:
+    TestMachine machine;
+    NoDialogs dialogs;
+
+    std::vector<std::string> Said_At(const SpokenEvent& event, bool readOut) {
+        machine.Store.Kept.clear();
+        MainFrm form(machine.Host, dialogs);
+        form.Load();
+        form.Shared.ReadOut = readOut;
+        machine.Speech.Spoken.clear();
+        event.Happen(form);
+        return machine.Speech.Spoken;
+    }
+};
+
+} // namespace
+
+TEST_F(ReadOutTest, EveryEventSaysItsTextAndNothingWhenOff) {
+    for (const SpokenEvent& event : spokenEvents) {
+        EXPECT_EQ(Said_At(event, true), event.Said) << event.Name;
+        EXPECT_EQ(Said_At(event, false), std::vector<std::string>{}) << event.Name;
+    }
+}
+
+// Switching off silences, which is said although the read-out is off by then.
+TEST_F(ReadOutTest, TheSwitchItselfSilences) {
+    MainFrm form(machine.Host, dialogs);
+    form.Load();
+    machine.Speech.Spoken.clear();
+    form.mnuReadOut.Click();
+    EXPECT_EQ(machine.Speech.Spoken, (std::vector<std::string>{""}));
+    form.mnuReadOut.Click();
+    EXPECT_EQ(machine.Speech.Spoken, (std::vector<std::string>{"", ""}));
+}
+
+// With the read-out on, the mode comes first, before the families of the pages.
+TEST_F(ReadOutTest, AStart) {
+    MainFrm silent(machine.Host, dialogs);
+    silent.Load();
+    EXPECT_TRUE(machine.Speech.Spoken.empty());
+
+    machine.Store.Set("ReadOutLoud", "1");
+    MainFrm form(machine.Host, dialogs);
+    form.Load();
+    ASSERT_GE(machine.Speech.Spoken.size(), 3u);
+    EXPECT_EQ(machine.Speech.Spoken[0], "");
+    EXPECT_EQ(machine.Speech.Spoken[1], "Browse Sections");
+    EXPECT_EQ(machine.Speech.Spoken.back(), "W-Shape");
+}
+
+TEST_F(ReadOutTest, TheAboutBoxReadsItsLabels) {
+    Desk desk(machine.Host);
+    AboutFrm about(desk);
+    about.Load();
+    about.Unload();
+    EXPECT_TRUE(machine.Speech.Spoken.empty());
+
+    desk.ReadOut = true;
+    about.Load();
+    EXPECT_EQ(machine.Speech.Spoken,
+              (std::vector<std::string>{"Tensarix", "Version 1.0", about.lblDescription.Caption(),
+                                        about.lblDisclaimer.Caption()}));
+    about.Unload();
+    EXPECT_EQ(machine.Speech.Spoken.back(), "");
+    for (const char* needed : {"13th Edition", "check every number", "not affiliated", "MIT"})
+        EXPECT_NE(about.lblDisclaimer.Caption().find(needed), std::string::npos) << needed;
+}

@@ -1,0 +1,95 @@
+// Find Sections and View All in the main window: start-up, settings at exit, the count.
+#include "StandIns.h"
+#include "shell/MainFrm.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+struct NoDialogs final : Dialogs {
+    void Show_CalcMainFrm() override {}
+    void Show_WtCalcsFrm() override {}
+    void Show_WtCalcsFrmA() override {}
+    void Show_AboutFrm() override {}
+};
+
+class SearchSettingsTest : public testing::Test {
+  protected:
+    TestMachine machine;
+    NoDialogs dialogs;
+    MainFrm form{machine.Host, dialogs};
+
+    // Where in the list of what was written a text stands.
+    std::size_t Place(const std::string& written) {
+        const auto& all = machine.Store.Written;
+        const auto found = std::find(all.begin(), all.end(), written);
+        EXPECT_NE(found, all.end()) << written;
+        return static_cast<std::size_t>(found - all.begin());
+    }
+};
+
+} // namespace
+
+TEST_F(SearchSettingsTest, TheSavedSearchComesBack) {
+    machine.Store.Set("fShapeType", "7");
+    machine.Store.Set("fPoperty7", "2");
+    machine.Store.Set("fCriterion7", "3");
+    machine.Store.Set("fValue7", "5.5");
+    machine.Store.Set("fProfileOption", "1");
+    machine.Store.Set("xShapeType", "12");
+    machine.Store.Set("xDimOption", "1");
+    ASSERT_TRUE(form.Load());
+    EXPECT_EQ(form.Find.fShapeType.Text(), "MT-Shape");
+    EXPECT_EQ(form.Find.fPoperty.Text(), "d");
+    EXPECT_EQ(form.Find.fCriterion.Text(), "<"); // though the criteria came after the family
+    EXPECT_EQ(form.Find.fValue.Text(), "5.5");
+    EXPECT_EQ(form.Find.UnitLabel.Caption(), "mm");
+    EXPECT_FALSE(form.Find.fDimOption1.Enabled());
+    EXPECT_EQ(form.Find.fShapeFlex.Text(1, 0), "");
+    EXPECT_EQ(form.ViewAll.xShapeFlex.Text(1, 0), "Pipe12STD");
+    EXPECT_EQ(form.ViewAll.xShapeFlex.Text(1, 4), "1'-3/4\"  ");
+    EXPECT_EQ(form.Shared.StatBar.Panel1(), " SELECTION:   None");
+}
+
+TEST_F(SearchSettingsTest, AtExitInTheirOrder) {
+    ASSERT_TRUE(form.Load());
+    form.Find.fShapeType.Select(3);
+    form.Find.fPoperty.Select(1);
+    form.Find.fValue.Set_Text("10");
+    form.Find.fProfileOption2.Select();
+    form.ViewAll.xShapeType.Select(16);
+    form.ViewAll.xDimOption2.Select();
+    machine.Store.Written.clear();
+    form.Query_Unload();
+    const char* order[] = {"ShapeType=0",   "fShapeType=3",     "xShapeType=16", "ShapeSize0=0",
+                           "fCriterion3=0", "fPoperty3=1",      "fValue3=10",    "ProfileOption=0",
+                           "DimOption=0",   "xProfileOption=0", "xDimOption=1",  "fProfileOption=1",
+                           "fDimOption=0"};
+    for (std::size_t i = 1; i < std::size(order); ++i)
+        EXPECT_LT(Place(order[i - 1]), Place(order[i])) << order[i];
+}
+
+TEST_F(SearchSettingsTest, TheCountIsThatOfThePageInView) {
+    ASSERT_TRUE(form.Load());
+    const StatusBar& bar = form.Shared.StatBar;
+    EXPECT_EQ(bar.Count(), "");
+    form.OptButton[2].Select();
+    EXPECT_EQ(bar.Count(), "274 sections");
+    form.ViewAll.xShapeType.Select(2);
+    EXPECT_EQ(bar.Count(), "11 sections");
+    form.OptButton[1].Select();
+    EXPECT_EQ(bar.Count(), "274 sections");
+    form.Find.fCriterion.Select(2);
+    form.Find.fValue.Set_Text("300");
+    form.Find.FindButton.Click();
+    EXPECT_EQ(bar.Count(), "47 found of 274 sections");
+    form.OptButton[0].Select();
+    EXPECT_EQ(bar.Count(), "");
+    form.Find.RunFind();
+    EXPECT_EQ(bar.Count(), "");
+}

@@ -1,0 +1,55 @@
+// The about box with real keys and clicks.
+#include "StandIns.h"
+#include "WindowTest.h"
+#include "window/AboutForm.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+TEST_F(WindowTest, TheMenuOpensTheAboutBoxAndOKEnterAndEscapeCloseIt) {
+    const std::function<void(QWidget&)> ways[] = {
+        [](QWidget& box) {
+            QTest::mouseClick(box.findChild<QPushButton*>("OKButton"), Qt::LeftButton);
+        },
+        [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); },
+        [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); },
+    };
+    for (const auto& close : ways) {
+        QString title, disclaimer;
+        bool closed = false;
+        QTimer::singleShot(0, &program->Window(), [&] {
+            QWidget* const box = QApplication::activeModalWidget();
+            ASSERT_TRUE(box);
+            title = box->findChild<QLabel*>("lblTitle")->text();
+            disclaimer = box->findChild<QLabel*>("lblDisclaimer")->text();
+            close(*box);
+            closed = !box->isVisible();
+            box->close(); // whatever happened, the test goes on
+        });
+        Find<QAction>("mnuAbout").trigger();
+        EXPECT_EQ(title, "Tensarix");
+        EXPECT_TRUE(disclaimer.contains("engineer"));
+        EXPECT_TRUE(closed);
+    }
+}
+
+// Silence comes once, when the box closes and not before.
+TEST(AboutForm, EscapeSilencesTheReading) {
+    TestMachine machine;
+    Desk desk(machine.Host);
+    desk.ReadOut = true;
+    AboutFrm about(desk);
+    AboutForm form(about, nullptr);
+    form.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    EXPECT_EQ(machine.Speech.Spoken.size(), 4u);
+    QTest::keyClick(&form, Qt::Key_Escape);
+    EXPECT_FALSE(form.isVisible());
+    ASSERT_EQ(machine.Speech.Spoken.size(), 5u);
+    EXPECT_EQ(machine.Speech.Spoken.back(), "");
+}

@@ -1,0 +1,202 @@
+// The voice with the real speech service, which plays to nowhere: a service of the test's own, that
+// the voice itself starts from the home folder of the test.
+#include "WindowTest.h"
+#include "window/DesktopVoice.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <csignal>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+constexpr int patienceMs = 10000;
+constexpr qint64 atOnceMs = 150; // milliseconds as a rule; a busy machine may add some
+
+void Write_File(const QString& path, const char* text) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+// Takes many seconds to speak, even to nowhere.
+std::string Long_Text() {
+    std::string text;
+    for (int i = 0; i < 3000; ++i)
+        text += "word" + std::to_string(i) + " ";
+    return text;
+}
+
+class DesktopVoiceTest : public testing::Test {
+  protected:
+    static inline std::unique_ptr<QTemporaryDir> home; // of all tests: the service is slow to end
+    QByteArray locale = qgetenv("LC_ALL");
+    std::unique_ptr<DesktopVoice> voice;
+    std::string text; // the last one that was spoken
+    std::vector<std::string> words;
+    int ends = 0;
+
+    static void SetUpTestSuite() {
+        home = std::make_unique<QTemporaryDir>();
+        Write_File(home->filePath(".libao"), "default_driver=null\n");
+        Write_File(home->filePath("speech-dispatcher/speechd.conf"),
+                   "AudioOutputMethod \"libao\"\n"
+                   "AddModule \"espeak-ng\" \"sd_espeak-ng\" \"espeak-ng.conf\"\n"
+                   "DefaultModule espeak-ng\n"
+                   "Timeout 5\n");
+    }
+    static void TearDownTestSuite() {
+        if (const pid_t service = Service(); service > 0) {
+            ::kill(service, SIGTERM);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return ::kill(service, 0) != 0; }, patienceMs));
+        }
+        home.reset();
+    }
+
+    void SetUp() override {
+        if (QStandardPaths::findExecutable("speech-dispatcher").isEmpty())
+            GTEST_SKIP() << "there is no speech service on this machine";
+        Use_Home(home->path());
+        qunsetenv("SPEECHD_ADDRESS");
+        qputenv("LC_ALL", "C.UTF-8"); // the service doesn't start under one that isn't installed
+        Make_Voice();
+    }
+    void TearDown() override {
+        voice.reset();
+        qputenv("LC_ALL", locale);
+    }
+
+    void Make_Voice() {
+        voice = std::make_unique<DesktopVoice>();
+        voice->OnWord = [this](std::size_t at, std::size_t length) {
+            words.push_back(text.substr(at, length));
+        };
+        voice->OnEnd = [this] { ++ends; };
+    }
+    // Speaks in a turn of its own.
+    void Speak(const std::string& what) {
+        QCoreApplication::processEvents();
+        text = what;
+        words.clear();
+        ends = 0;
+        voice->Speak(what);
+    }
+    bool Wait_For_Words(std::size_t count) {
+        return QTest::qWaitFor([&] { return words.size() >= count; }, patienceMs);
+    }
+    bool Wait_For_End() {
+        return QTest::qWaitFor([&] { return ends > 0; }, patienceMs);
+    }
+    // The service that the voice has started.
+    static pid_t Service() {
+        QFile file(home->filePath("speech-dispatcher/pid/speech-dispatcher.pid"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
+    }
+};
+
+using Words = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(DesktopVoiceTest, WordsArriveInOrderAndTheLastTurnWins) {
+    QElapsedTimer timer;
+    timer.start();
+    Speak("AREA = 98.5 SQUARE INCHES :: <area> & more\nof \"it\"");
+    EXPECT_LT(timer.elapsed(), atOnceMs);
+    EXPECT_TRUE(words.empty()); // no callback runs inside Speak
+    ASSERT_TRUE(Wait_For_End());
+    EXPECT_EQ(words, (Words{"AREA", "98.5", "SQUARE", "INCHES", "area", "more", "of", "it"}));
+
+    // Texts of one turn follow each other.
+    Speak("one two");
+    voice->Speak("six ten");
+    ASSERT_TRUE(Wait_For_End());
+    EXPECT_EQ(words, (Words{"one", "two", "one", "two"})); // places in the text, which is another
+    EXPECT_EQ(ends, 1);
+
+    // A text of a later turn cuts the running one short.
+    Speak(Long_Text());
+    ASSERT_TRUE(Wait_For_Words(3));
+    Speak("short end");
+    ASSERT_TRUE(Wait_For_End());
+    EXPECT_EQ(words, (Words{"short", "end"}));
+}
+
+TEST_F(DesktopVoiceTest, AnEmptyTextSilencesTheServiceAtOnce) {
+    Speak(Long_Text());
+    ASSERT_TRUE(Wait_For_Words(3));
+    voice->Speak("");
+    words.clear();
+    QTest::qWait(100);
+    EXPECT_TRUE(words.empty());
+    EXPECT_EQ(ends, 0);
+    // If the service went on with the long text, this one would wait for its end.
+    QElapsedTimer timer;
+    timer.start();
+    Speak("after silence");
+    ASSERT_TRUE(Wait_For_End());
+    EXPECT_EQ(words, (Words{"after", "silence"}));
+    EXPECT_LT(timer.elapsed(), 2000);
+
+    // Silenced before the service has heard of it: nothing of it comes, and what follows does.
+    Speak("never said");
+    voice->Speak("");
+    voice->Speak(text = "but this");
+    ASSERT_TRUE(Wait_For_End());
+    EXPECT_EQ(words, (Words{"but", "this"}));
+}
+
+TEST_F(DesktopVoiceTest, TheServiceDiesAndTheNextTextFindsANewOne) {
+    Speak(Long_Text());
+    ASSERT_TRUE(Wait_For_Words(3));
+    const pid_t first = Service();
+    ASSERT_GT(first, 0);
+    ::kill(first, SIGKILL);
+    ASSERT_TRUE(Wait_For_End()); // it tells that nothing is spoken any more
+    EXPECT_LT(words.size(), 3000u);
+
+    Speak("here again");
+    ASSERT_TRUE(Wait_For_End());
+    EXPECT_EQ(words, (Words{"here", "again"}));
+    EXPECT_NE(Service(), first);
+}
+
+TEST_F(DesktopVoiceTest, AServiceThatHangsHoldsUpNothing) {
+    Speak("hello");
+    ASSERT_TRUE(Wait_For_End());
+    const pid_t service = Service();
+    ASSERT_GT(service, 0);
+    ::kill(service, SIGSTOP);
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 100; ++i)
+        Speak(Long_Text());
+    voice.reset();
+    EXPECT_LT(timer.elapsed(), 3000);
+    ::kill(service, SIGCONT);
+}
+
+// Neither a service nor a way to start one: nothing happens, and nothing waits.
+TEST_F(DesktopVoiceTest, WithoutAServiceNothingHappens) {
+    const QTemporaryDir empty;
+    const QByteArray path = qgetenv("PATH");
+    Use_Home(empty.path());
+    qputenv("PATH", empty.path().toLocal8Bit());
+    QElapsedTimer timer;
+    timer.start();
+    Speak("into the void");
+    voice->Speak("");
+    voice->Speak("and again");
+    EXPECT_LT(timer.elapsed(), atOnceMs);
+    QTest::qWait(200);
+    voice.reset();
+    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_TRUE(words.empty());
+    EXPECT_EQ(ends, 0);
+    qputenv("PATH", path);
+}
