@@ -12,13 +12,16 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QMenu>
 #include <QPalette>
 #include <QStandardPaths>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QTimer>
 
 #include <functional>
 
@@ -118,6 +121,26 @@ class Tour {
         dialog.close();
     }
 
+    void Weights(const QString& suffix) {
+        While_Open(program_.Form().mnuWtCalc, [&](QWidget& dialog) {
+            Keys(dialog, "ShapeSizeUS", "w18x50");
+            Keys(dialog, "ImperialFlex", "12'-6 3/8\t20000'\t6\t5.5'");
+            Take(QStringLiteral("weights-1-editing") + suffix, dialog);
+            Keys(dialog, "EdiTxt", "\t");
+            Take(QStringLiteral("weights-1") + suffix, dialog);
+        });
+        While_Open(program_.Form().mnuWtCalcA, [&](QWidget& dialog) {
+            Keys(dialog, "ImperialFlex", "w8x10\t12'-6\tw18x50\t20'\tw14x90\t6\tw");
+            Take(QStringLiteral("weights-2-list") + suffix, dialog);
+            Keys(dialog, "ShapeSizeUS", "24x55\t33'-4 1/2");
+            Take(QStringLiteral("weights-2-editing") + suffix, dialog);
+            Keys(dialog, "EdiTxt", "\t");
+            dialog.findChild<QTabBar*>()->setCurrentIndex(1);
+            Keys(dialog, "MetricFlex", "w200x15\t2.5\tw460x74\t12.25\t");
+            Take(QStringLiteral("weights-2-metric") + suffix, dialog);
+        });
+    }
+
     void About(const QString& suffix) {
         AboutFrm about(program_.Form().Shared);
         AboutForm form(about, &program_.Window());
@@ -199,6 +222,30 @@ class Tour {
     bool Failed() const { return failed_; }
 
   private:
+    // Acts on the dialog that the menu opens, then closes it.
+    void While_Open(MenuItem& item, const std::function<void(QWidget&)>& act) {
+        QTimer::singleShot(0, qApp, [&act] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            while (!dialog->isActiveWindow())
+                QCoreApplication::processEvents();
+            act(*dialog);
+            dialog->close();
+        });
+        item.Click();
+    }
+
+    // Gives the keys to the named widget, then to whatever has the focus.
+    static void Keys(QWidget& dialog, const char* widget, const char* keys) {
+        dialog.findChild<QWidget*>(QLatin1String(widget))->setFocus();
+        for (; *keys; ++keys) {
+            QCoreApplication::processEvents();
+            const int key = *keys == '\t' ? Qt::Key_Tab : 0;
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(QLatin1Char(*keys)));
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &press);
+        }
+        QCoreApplication::processEvents();
+    }
+
     Program& program_;
     QString folder_;
     bool failed_ = false;
@@ -239,6 +286,7 @@ int main(int argc, char** argv) {
     tour.Popup();
     tour.About({});
     tour.Calculator({});
+    tour.Weights({});
     QApplication::setPalette(Dark_Palette());
     tour.Browse(QStringLiteral("-dark"));
     tour.Find(QStringLiteral("-dark"));
@@ -246,6 +294,7 @@ int main(int argc, char** argv) {
     tour.Beam(QStringLiteral("-dark"));
     tour.About(QStringLiteral("-dark"));
     tour.Calculator(QStringLiteral("-dark"));
+    tour.Weights(QStringLiteral("-dark"));
     program.Window().close();
     return tour.Failed() ? 1 : 0;
 }

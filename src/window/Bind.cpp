@@ -61,6 +61,20 @@ class ItemModel final : public QAbstractListModel {
     unsigned version_ = ~0u;
 };
 
+// True if the handler has hidden the control: the key was for it alone then. Shift with an arrow
+// selects in a text and is no handler's.
+template <typename Control>
+bool Tell_Key_Down(Control& control, const QKeyEvent& event) {
+    const int code = Key_Code(event);
+    const bool selects = (event.modifiers() & Qt::ShiftModifier) != 0 && code >= Keys::Left &&
+                         code <= Keys::Down;
+    if (!control.OnKeyDown || code == 0 || selects)
+        return false;
+    const bool shown = control.Visible();
+    control.OnKeyDown(code);
+    return shown && !control.Visible();
+}
+
 // Keys and wheel of a list. The wheel does not change a closed one, and Page Up and Page Down move
 // by what an open one would show.
 class ComboKeys final : public QObject {
@@ -78,6 +92,8 @@ class ComboKeys final : public QObject {
             event->ignore();
             return true;
         }
+        if (event->type() == QEvent::FocusIn)
+            typed_.clear();
         if (event->type() != QEvent::KeyPress)
             return false;
         auto* key = static_cast<QKeyEvent*>(event);
@@ -112,8 +128,8 @@ class ComboKeys final : public QObject {
     bool Key_Pressed(QKeyEvent* event) {
         if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp)
             return Page(event->key() == Qt::Key_PageDown ? 1 : -1);
-        if (control_.OnKeyDown && Key_Code(*event) != 0)
-            control_.OnKeyDown(Key_Code(*event));
+        if (Tell_Key_Down(control_, *event))
+            return true;
         if (!control_.OnKeyPress || !widget_->isEditable())
             return false;
         const int character = Key_Character(*event);
@@ -173,8 +189,8 @@ class TextKeys final : public QObject {
   private:
     bool Key_Pressed(QKeyEvent* event) {
         control_.Set_SelStart(widget_->cursorPosition());
-        if (control_.OnKeyDown && Key_Code(*event) != 0)
-            control_.OnKeyDown(Key_Code(*event));
+        if (Tell_Key_Down(control_, *event))
+            return true;
         const int character = Key_Character(*event);
         if (character == 0)
             return false;
@@ -193,7 +209,7 @@ class TextKeys final : public QObject {
 
 } // namespace
 
-void Bind(QComboBox* widget, ComboBox& control) {
+Link* Bind(QComboBox* widget, ComboBox& control) {
     auto* model = new ItemModel(control, widget);
     widget->setModel(model);
     if (widget->isEditable()) {
@@ -226,15 +242,17 @@ void Bind(QComboBox* widget, ComboBox& control) {
                              link->Flush();
                              widget->lineEdit()->setCursorPosition(caret);
                          });
+    return link;
 }
 
-void Bind(QLineEdit* widget, TextBox& control) {
+Link* Bind(QLineEdit* widget, TextBox& control) {
     new TextKeys(widget, control);
     auto* link = new Link(widget, control.Shown, [widget, &control] {
-        if (widget->text() != To_Qt(control.Text())) {
+        const int caret = control.SelStart();
+        if (widget->text() != To_Qt(control.Text()))
             widget->setText(To_Qt(control.Text()));
-            widget->setCursorPosition(control.SelStart());
-        }
+        if (widget->cursorPosition() != caret)
+            widget->setCursorPosition(caret);
         widget->setEnabled(control.Enabled());
     });
     new FocusLink(widget, control.Focus);
@@ -242,6 +260,9 @@ void Bind(QLineEdit* widget, TextBox& control) {
         control.Set_Text(text.toStdString());
         control.Set_SelStart(widget->cursorPosition());
     });
+    QObject::connect(widget, &QLineEdit::cursorPositionChanged, link,
+                     [&control](int, int caret) { control.Set_SelStart(caret); });
+    return link;
 }
 
 void Bind(QPushButton* widget, Button& control) {
@@ -286,6 +307,18 @@ void Bind(QTabBar* widget, TabControl& control) {
 
 void Bind(QStackedWidget* widget, TabControl& control) {
     new Link(widget, control.Shown, [widget, &control] { widget->setCurrentIndex(control.Tab()); });
+}
+
+void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control) {
+    auto* link = new Link(bar, control.Shown, [bar, pages, &control] {
+        const QSignalBlocker quiet(bar);
+        bar->setCurrentIndex(control.Tab());
+        pages->setCurrentIndex(control.Tab());
+    });
+    QObject::connect(bar, &QTabBar::currentChanged, link, [link, &control](int tab) {
+        control.Select(tab);
+        link->Flush();
+    });
 }
 
 void Bind(QStatusBar* widget, StatusBar& control) {

@@ -19,15 +19,19 @@ class QTabBar;
 namespace Tensarix {
 
 class GridView;
+class Link;
 class PictureView;
 
-void Bind(QComboBox* widget, ComboBox& control);
-void Bind(QLineEdit* widget, TextBox& control);
+// The link, for what else the widget takes over from its control.
+Link* Bind(QComboBox* widget, ComboBox& control);
+Link* Bind(QLineEdit* widget, TextBox& control);
 void Bind(QPushButton* widget, Button& control);
 void Bind(QAbstractButton* widget, OptionButton& control);
 void Bind(QLabel* widget, Label& control);
 void Bind(QGroupBox* widget, Frame& control);
 void Bind(QStackedWidget* widget, TabControl& control);
+// A bar of tabs and the pages that it chooses from. The handler runs before the page changes.
+void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control);
 // The strip's first tab is number 1.
 void Bind(QTabBar* widget, TabControl& control);
 void Bind(QStatusBar* widget, StatusBar& control);

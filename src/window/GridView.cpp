@@ -7,6 +7,7 @@
 #include "window/Link.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QItemSelection>
 #include <QKeyEvent>
@@ -49,10 +50,16 @@ GridView::GridView(QWidget* parent) : QTableView(parent), frozen_(new QTableView
     frozen_->viewport()->installEventFilter(this);
 }
 
+GridView::~GridView() {
+    if (grid_)
+        grid_->BringIntoView = nullptr;
+}
+
 void GridView::Prepare(QTableView& pane) const {
     pane.setHorizontalHeader(new HeadView(&pane));
     pane.setEditTriggers(NoEditTriggers);
     pane.setSelectionMode(NoSelection); // the grid itself selects
+    pane.setAutoScroll(false); // only Reveal_Current and the user scroll
     pane.setCornerButtonEnabled(false);
     pane.setWordWrap(false);
     pane.setItemDelegate(new GridDelegate(&pane));
@@ -75,6 +82,7 @@ void GridView::Show_Grid(FlexGrid& grid) {
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &GridView::Scrolled);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &GridView::Scrolled);
     link_ = new Link(this, grid.Shown, [this] { Pull(); });
+    grid.BringIntoView = [this] { Reveal_Current(); };
     new FocusLink(this, grid.Focus);
 }
 
@@ -114,8 +122,7 @@ void GridView::Measure_Columns() {
     frozen_->horizontalHeader()->setVisible(head);
     for (int col = 0; col < grid_->Cols(); ++col) {
         const bool fixed = col < grid_->FixedCols();
-        const int width = std::max(static_cast<int>(std::lround(grid_->ColWidth(col) * Twip_Scale())),
-                                   Fitting_Width(col));
+        const int width = Column_Pixels(col);
         setColumnWidth(col, width);
         frozen_->setColumnWidth(col, width);
         setColumnHidden(col, fixed);
@@ -127,6 +134,11 @@ void GridView::Measure_Columns() {
                                 horizontalHeader()->sizeHint().height());
     horizontalHeader()->setFixedHeight(height);
     frozen_->horizontalHeader()->setFixedHeight(height);
+}
+
+int GridView::Column_Pixels(int col) const {
+    return std::max(static_cast<int>(std::lround(grid_->ColWidth(col) * Twip_Scale())),
+                    Fitting_Width(col));
 }
 
 // The names in a fixed column are never cut, nor are the heads.
@@ -173,8 +185,14 @@ void GridView::Place_Frozen() {
 
 void GridView::Pull_Scroll() {
     executeDelayedItemsLayout();
-    verticalScrollBar()->setValue(grid_->TopRow() - grid_->FixedRows());
-    horizontalScrollBar()->setValue(grid_->LeftCol() - grid_->FixedCols());
+    // A bar that stands right is left alone: this may run just before the bar takes a new value,
+    // which setting the old one would cancel.
+    const auto scroll = [](QScrollBar* bar, int value) {
+        if (bar->value() != value)
+            bar->setValue(value);
+    };
+    scroll(verticalScrollBar(), grid_->TopRow() - grid_->FixedRows());
+    scroll(horizontalScrollBar(), grid_->LeftCol() - grid_->FixedCols());
     frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
 }
 
@@ -246,22 +264,66 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         Run(grid_->OnCopy);
         return;
     }
+    if (event->matches(QKeySequence::Paste)) {
+        Run(grid_->OnPaste);
+        return;
+    }
     // The menu key comes as a context menu event; not every desktop sends one for this.
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
         Popup_By_Key();
         return;
     }
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
-        QAbstractScrollArea::keyPressEvent(event);
+        if (!Tab_Key(*event))
+            QAbstractScrollArea::keyPressEvent(event);
         return;
     }
-    if (Move_Key(event))
-        return;
+    if (!Move_Key(event))
+        Edit_Key(event);
+}
+
+bool GridView::Tab_Key(const QKeyEvent& event) {
+    return grid_->OnTab && grid_->OnTab(event.key() == Qt::Key_Backtab);
+}
+
+void GridView::Edit_Key(QKeyEvent* event) {
+    const bool had = hasFocus();
+    const int character = Key_Character(*event);
     if (const int code = Key_Code(*event); code != 0 && grid_->OnKeyDown)
         grid_->OnKeyDown(code);
-    if (const int character = Key_Character(*event); character != 0 && grid_->OnKeyPress)
+    if (character != 0 && grid_->OnKeyPress)
         grid_->OnKeyPress(character);
-    event->ignore(); // the window's own shortcuts and default buttons
+    if (!had || hasFocus()) {
+        event->ignore(); // the window's own shortcuts and default buttons
+        return;
+    }
+    // A list that the key has opened searches for what is typed, from the first character on.
+    if (auto* list = qobject_cast<QComboBox*>(QApplication::focusWidget());
+        list && character > Keys::Blank)
+        QCoreApplication::sendEvent(list, event);
+    event->accept();
+}
+
+// What can be typed into an editable grid is no shortcut.
+bool GridView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && grid_ && grid_->OnKeyPress) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (Key_Character(key) >= Keys::Blank || Key_Code(key) == Keys::Delete) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTableView::event(event);
+}
+
+// Who comes by the keyboard sees where he is.
+void GridView::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    const bool byKey = event->reason() == Qt::TabFocusReason ||
+                       event->reason() == Qt::BacktabFocusReason ||
+                       event->reason() == Qt::ShortcutFocusReason;
+    if (byKey && grid_ && grid_->OnKeyPress)
+        Reveal_Current();
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) { Press(*this, event); }
@@ -313,6 +375,13 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 void GridView::Popup_By_Key() {
     popupPoint_ = mapToGlobal(Cell_Rect(grid_->Row(), grid_->Col()).center());
     Run(grid_->OnPopup);
+}
+
+int GridView::Columns_Width() const {
+    int width = 0;
+    for (int col = 0; col < grid_->Cols(); ++col)
+        width += Column_Pixels(col);
+    return width;
 }
 
 QRect GridView::Cell_Rect(int row, int col) const {

@@ -18,6 +18,7 @@ class GridView : public QTableView {
 
   public:
     explicit GridView(QWidget* parent = nullptr);
+    ~GridView() override;
 
     // Once, by Bind.
     void Show_Grid(FlexGrid& grid);
@@ -26,11 +27,15 @@ class GridView : public QTableView {
     QPoint Popup_Point() const { return popupPoint_; }
     // The place of a cell inside this widget, as it is on the screen.
     QRect Cell_Rect(int row, int col) const;
+    // All columns together, the last one not stretched.
+    int Columns_Width() const;
     // Pixels to the twip under the current font and scale.
     double Twip_Scale() const;
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -47,6 +52,7 @@ class GridView : public QTableView {
     void Measure();
     void Measure_Columns();
     void Measure_Rows();
+    int Column_Pixels(int col) const;
     int Fitting_Width(int col) const;
     void Place_Frozen();
     void Pull_Scroll();
@@ -54,6 +60,8 @@ class GridView : public QTableView {
     void Scrolled();
     void Reveal_Current();
     bool Move_Key(QKeyEvent* event);
+    bool Tab_Key(const QKeyEvent& event);
+    void Edit_Key(QKeyEvent* event);
     bool Go_To(int row, int col, bool extend);
     void Press(QTableView& pane, QMouseEvent* event);
     void Drag(QTableView& pane, QMouseEvent* event);

@@ -10,6 +10,7 @@ int Key_Code(const QKeyEvent& event) {
     switch (event.key()) {
     case Qt::Key_Backspace: return Keys::Backspace;
     case Qt::Key_Tab: return Keys::Tab;
+    case Qt::Key_Backtab: return Keys::BackTab;
     case Qt::Key_Return:
     case Qt::Key_Enter: return Keys::Enter;
     case Qt::Key_Escape: return Keys::Escape;
@@ -31,6 +32,7 @@ int Key_Character(const QKeyEvent& event) {
     case Keys::Tab:
     case Keys::Enter:
     case Keys::Escape: return code;
+    case Keys::Delete: return 0; // though the desktop gives it a character
     default: break;
     }
     const bool command =

@@ -16,6 +16,14 @@ Link::Link(QWidget* widget, View& view, std::function<void()> pull)
 
 Link::~Link() { view_.OnChanged = nullptr; }
 
+void Link::Also(std::function<void()> pull) {
+    pull();
+    pull_ = [first = std::move(pull_), then = std::move(pull)] {
+        first();
+        then();
+    };
+}
+
 void Link::Mark() {
     if (due_)
         return;

@@ -17,6 +17,8 @@ class Link : public QObject {
     Link(QWidget* widget, View& view, std::function<void()> pull);
     ~Link() override;
 
+    // Something more to take over after the rest; done at once for the first time.
+    void Also(std::function<void()> pull);
     // Takes over the state now, if it has changed.
     void Flush();
 

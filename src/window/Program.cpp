@@ -4,6 +4,7 @@
 #include "shell/Version.h"
 #include "window/AboutForm.h"
 #include "window/CalcForm.h"
+#include "window/WtCalcsForm.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -27,7 +28,7 @@ void Program::Prepare_Application() {
 }
 
 Program::Program(const Folders& folders)
-    : machine_{settings_, clipboard_,  voice_,    messages_,        clock_,
+    : machine_{settings_, clipboard_,  voice_,    messages_, clock_,
                events_,   mainWindow_, instance_, folders},
       form_(machine_, *this) {}
 
@@ -48,13 +49,25 @@ void Program::Show_CalcMainFrm() {
     CalcForm(form_.Shared, calculator_, window_.get()).exec();
 }
 
-// These dialogs are not there yet.
-void Program::Show_WtCalcsFrm() {}
-void Program::Show_WtCalcsFrmA() {}
-
 void Program::Show_AboutFrm() {
     AboutFrm about(form_.Shared);
     AboutForm(about, window_.get()).exec();
+}
+
+void Program::Show_WtCalcsFrm() {
+    WtCalcsFrm form(form_.Shared, savedLengths_);
+    form.Load();
+    WtCalcsDialog dialog(window_.get());
+    Make_WtCalcs_Form(form, dialog);
+    dialog.exec();
+}
+
+void Program::Show_WtCalcsFrmA() {
+    WtCalcsFrmA form(form_.Shared, savedRows_);
+    form.Load();
+    WtCalcsDialog dialog(window_.get());
+    Make_WtCalcs_FormA(form, dialog);
+    dialog.exec();
 }
 
 } // namespace Tensarix

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "calculator/CalcVariables.h"
+#include "weights/WtCalcsFrm.h"
+#include "weights/WtCalcsFrmA.h"
 #include "window/DesktopVoice.h"
 #include "window/MainForm.h"
 
@@ -41,6 +43,8 @@ class Program final : public Dialogs {
     Machine machine_;
     MainFrm form_;
     CalcVariables calculator_; // outlives its form
+    SavedLengths savedLengths_; // of the weight calculators, until the program ends
+    SavedRows savedRows_;
     std::unique_ptr<MainForm> window_;
 };
 

@@ -1,0 +1,58 @@
+// The column of a weight calculator into which lengths are typed: in feet and inches, or in metres.
+#pragma once
+
+#include "controls/CellEditing.h"
+#include "platform/Machine.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Tensarix {
+
+enum class LengthUnit { FeetInches, Metres };
+
+// Stands behind lengths and weights, so that right-aligned text keeps off the grid line.
+inline constexpr std::string_view CellPadding = "     ";
+
+// Bring the text of an editor to its normal form; 5.5' becomes 5'-6". Commit_Length takes a text
+// that is a length; Commit_Metric takes any, of which the leading number counts, and leaves an
+// empty one alone.
+void Commit_Length(TextBox& editor);
+void Commit_Metric(TextBox& editor);
+
+class LengthColumn {
+  public:
+    // What the column works on.
+    struct Parts {
+        FlexGrid& Grid;
+        int Col;
+        TextBox& Editor;
+        LengthUnit Unit;
+        double& LastLength; // feet or metres: the last valid length seen while typing
+        Machine& Host;
+        Handler Compute; // the current row, whose length has changed
+    };
+
+    explicit LengthColumn(Parts parts) : parts_(std::move(parts)) {}
+    LengthColumn(const LengthColumn&) = delete;
+
+    CellEditing::TextCells Cells();
+
+    // Fills the column downwards from the current row with the lengths on the clipboard, one a
+    // line; of a line with several cells the first counts. Each passes the same validation. If one
+    // fails, or there are more than rows, nothing is written and one message tells why.
+    void Paste();
+
+  private:
+    void Remember() const;
+    void Validate() const;
+    bool Is_Valid(const std::string& text) const;
+    bool Fits(const std::vector<std::string>& lengths) const;
+    void Refuse(const std::string& reason) const;
+    std::string Normal(const std::string& text) const;
+
+    Parts parts_;
+};
+
+} // namespace Tensarix

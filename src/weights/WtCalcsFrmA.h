@@ -1,0 +1,56 @@
+// Weight calculator, type 2: a bill of material, in which each row names its own section and
+// length. The weights per length are tabulated (AISC Steel Construction Manual, 13th Edition) and
+// read anew for each computation of a row.
+#pragma once
+
+#include "weights/WtCalcsSheets.h"
+
+#include <array>
+
+namespace Tensarix {
+
+// The rows as they stood when the form was closed; kept by whoever opens it, while the program
+// runs.
+struct SavedRow {
+    std::string ImperialSize, MetricSize, ImperialLength, MetricLength, ImperialWeight,
+        MetricWeight;
+};
+using SavedRows = std::array<SavedRow, EntryRows>;
+
+class WtCalcsFrmA final : public WtCalcsSheets {
+  public:
+    static constexpr std::string_view ImperialCaption = "  Standard U.S. Profile  ";
+    static constexpr std::string_view MetricCaption = "  SI Equivalent Profile  ";
+
+    WtCalcsFrmA(Desk& desk, SavedRows& saved);
+
+    // The form opens and closes. Before it closes, what is being edited is committed.
+    void Load();
+    void Unload();
+
+    void Init_Head_Imperial() { Init_Head(ImperialFlex, true); }
+    void Init_Head_Metric() { Init_Head(MetricFlex, false); }
+    // Fills both size lists and selects nothing. Fails if the store can't be opened.
+    void Fill_Size_Lists(std::string_view typeCode);
+    // The current row. useCombo: its size has just been picked and is that of the list.
+    void Compute_Row_Imperial(FlexGrid& grid, bool useCombo);
+    void Compute_Row_Metric(FlexGrid& grid, bool useCombo);
+    // lb/ft by the US designation, kg/m by the SI one; 0 where there is no such section.
+    double Find_Weight_US(std::string_view label) const;
+    double Find_Weight_SI(std::string_view label) const;
+
+  private:
+    static void Init_Head(FlexGrid& grid, bool imperial);
+    void Add_Sizes(CellEditing& editing, ComboBox& sizes, std::function<void(bool)> compute);
+    // False: the row has no weight, and the cell is empty now.
+    static bool Can_Compute(FlexGrid& grid, bool useCombo);
+    static void Remark_Weight(FlexGrid& grid, double weightPerLength, const std::string& label);
+    void Hide_Lists();
+    void ShapeType_Change();
+    void SSTab1_Change();
+    void ClearButton_Click();
+
+    SavedRows& Saved_Rows;
+};
+
+} // namespace Tensarix

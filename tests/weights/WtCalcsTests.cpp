@@ -1,0 +1,409 @@
+// Both weight calculators as records, over the built store.
+#include "StandIns.h"
+#include "weights/WtCalcsFrm.h"
+#include "weights/WtCalcsFrmA.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+constexpr const char* warning = "Warning|Invalid Distance Input! |stop";
+constexpr const char* chargedTail = " ft: this calculator uses the whole feet of the length";
+
+int Position_Of_Item(const ComboBox& list, const std::string& text) {
+    for (int i = 0; i < list.Count(); ++i)
+        if (list.Item(i) == text)
+            return i;
+    return -2;
+}
+
+// Types into a cell as the view does: the first key at the grid, the rest in the editor.
+void Type(FlexGrid& grid, TextBox& editor, int row, int col, const std::string& text) {
+    grid.Focus.Set();
+    grid.Move_To(row, col);
+    grid.OnKeyDown(Keys::F2);
+    editor.Set_Text("");
+    for (std::size_t i = 1; i <= text.size(); ++i)
+        editor.Set_Text(text.substr(0, i));
+}
+
+void Enter(FlexGrid& grid, TextBox& editor, int row, int col, const std::string& text) {
+    Type(grid, editor, row, col, text);
+    editor.OnKeyDown(Keys::Enter);
+}
+
+class WtCalcs : public testing::Test {
+  protected:
+    TestMachine machine;
+    Desk desk{machine.Host};
+    SavedLengths lengths;
+    SavedRows rows;
+};
+
+class Type1 : public WtCalcs {
+  protected:
+    WtCalcsFrm form{desk, lengths};
+
+    void SetUp() override {
+        form.Load();
+        Choose("W8x10");
+    }
+    void Choose(const std::string& size) {
+        form.ShapeSizeUS.Select(Position_Of_Item(form.ShapeSizeUS, size));
+    }
+    void Length(int row, const std::string& text) {
+        Enter(form.ImperialFlex, form.EdiTxt, row, 1, text);
+    }
+    void Metres(int row, const std::string& text) {
+        Enter(form.MetricFlex, form.EdiTxtA, row, 1, text);
+    }
+    std::string Feet(int row, int col) { return form.ImperialFlex.Text(row, col); }
+    std::string Metric(int row, int col) { return form.MetricFlex.Text(row, col); }
+};
+
+class Type2 : public WtCalcs {
+  protected:
+    WtCalcsFrmA form{desk, rows};
+
+    void SetUp() override { form.Load(); }
+    void Pick(int row, const std::string& size) {
+        Pick(form.ImperialFlex, form.ShapeSizeUS, row, size);
+    }
+    void Pick(FlexGrid& grid, ComboBox& list, int row, const std::string& size) {
+        grid.Focus.Set();
+        grid.Press(row, 1);
+        list.Select(Position_Of_Item(list, size));
+        list.OnKeyDown(Keys::Enter);
+    }
+    void Length(int row, const std::string& text) {
+        Enter(form.ImperialFlex, form.EdiTxt, row, 2, text);
+    }
+    std::string Feet(int row, int col) { return form.ImperialFlex.Text(row, col); }
+    std::string Remark(int row) { return form.ImperialFlex.Remark(row, 3); }
+};
+
+} // namespace
+
+TEST_F(Type1, LengthsComeBackInNormalFormWithTheirWeight) {
+    struct Case {
+        const char* Size;
+        const char* Typed;
+        const char* Shown;
+        const char* Weight;
+    };
+    const Case cases[] = {
+        {"W18x50", "10'-6\"", "10'-6\"     ", "525.00     "},
+        {"W18x50", "20000'", "20000'-0\"     ", "1,000,000.00     "},
+        {"W8x10", "12'-6\"", "12'-6\"     ", "125.00     "},
+        {"W8x10", "5.5'", "5'-6\"     ", "55.00     "},
+        {"W8x10", "6", "6\"     ", "5.00     "},
+        {"W8x10", "  12'-6 3/8\" ", "12'-6 3/8\"     ", "125.31     "},
+    };
+    int row = 1;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Typed);
+        Choose(c.Size);
+        Length(row, c.Typed);
+        EXPECT_EQ(Feet(row, 1), c.Shown);
+        EXPECT_EQ(Feet(row, 2), c.Weight);
+        EXPECT_EQ(form.ImperialFlex.Row(), row + 1);
+        ++row;
+    }
+    EXPECT_EQ(machine.Boxes.Shown.size(), 0u);
+    Metres(1, "2.5");
+    EXPECT_EQ(Metric(1, 1), "2.50     ");
+    EXPECT_EQ(Metric(1, 2), "37.50     ");
+}
+
+TEST_F(Type1, AnInvalidLengthIsReportedOnceAndTheLastValidOneReturns) {
+    Length(1, "5'6\""); // valid up to 5'6
+    EXPECT_EQ(machine.Boxes.Shown, std::vector<std::string>{warning});
+    EXPECT_EQ(Feet(1, 1), "5'-0\"     ");
+    EXPECT_EQ(Feet(1, 2), "50.00     ");
+    EXPECT_EQ(form.LastLength, 5);
+
+    Type(form.ImperialFlex, form.EdiTxt, 2, 1, "7'-6-1");
+    form.ImperialFlex.Press(4, 1); // the other way out
+    EXPECT_EQ(machine.Boxes.Shown.size(), 2u);
+    EXPECT_EQ(Feet(2, 1), "7'-6\"");
+    EXPECT_EQ(Feet(2, 2), "75.00     ");
+}
+
+TEST_F(Type1, WithoutAnyValidLengthZeroReturns) {
+    Type(form.ImperialFlex, form.EdiTxt, 1, 1, "/");
+    form.EdiTxt.OnKeyDown(Keys::Tab);
+    EXPECT_EQ(Feet(1, 1), "0\"     ");
+    EXPECT_EQ(machine.Boxes.Shown.size(), 1u);
+}
+
+TEST_F(Type1, TheKeyFilters) {
+    FlexGrid& feet = form.ImperialFlex;
+    feet.Move_To(1, 1);
+    for (const int key : {int{'-'}, int{'\''}, int{'a'}, int{' '}}) {
+        feet.OnKeyPress(key);
+        EXPECT_FALSE(form.EdiTxt.Visible()) << key;
+    }
+    feet.OnKeyPress('7');
+    EXPECT_TRUE(form.EdiTxt.Visible());
+    EXPECT_EQ(form.EdiTxt.OnKeyPress('-'), '-');
+    EXPECT_EQ(form.EdiTxt.OnKeyPress('x'), 0);
+    form.MetricFlex.Move_To(1, 1);
+    form.MetricFlex.OnKeyPress('.');
+    EXPECT_EQ(form.EdiTxtA.Text(), ".");
+    EXPECT_EQ(form.EdiTxtA.OnKeyPress('.'), 0);
+    EXPECT_EQ(form.EdiTxtA.OnKeyPress('-'), 0);
+}
+
+TEST_F(Type1, AnEmptiedLengthHasNoWeight) {
+    Length(1, "1'");
+    Length(2, "2'");
+    form.ImperialFlex.Move_To(1, 1);
+    form.ImperialFlex.OnKeyDown(Keys::Delete);
+    EXPECT_EQ(Feet(1, 1) + Feet(1, 2), "");
+    Length(2, " ");
+    EXPECT_EQ(Feet(2, 2), "");
+}
+
+TEST_F(Type1, ASectionRecomputesBothSheetsAndBothListsFollow) {
+    Length(1, "2'");
+    Metres(3, "2");
+    form.ShapeSizeSI.Select(Position_Of_Item(form.ShapeSizeSI, "W460x74"));
+    EXPECT_EQ(form.ShapeSizeUS.Text(), "W18x50");
+    EXPECT_EQ(Feet(1, 2), "100.00     ");
+    EXPECT_EQ(Metric(3, 2), "148.00     ");
+    EXPECT_EQ(form.ImperialFlex.Row(), EntryRows);
+    EXPECT_EQ(form.MetricFlex.Row(), EntryRows);
+    form.ImperialFlex.Focus.Set();
+    EXPECT_EQ(form.ImperialFlex.Row(), 2) << "where the typing had stopped";
+    EXPECT_EQ(machine.Store.Get("CalcWtShapeSize0"), std::to_string(form.ShapeSizeUS.ListIndex()));
+
+    form.ShapeType.Select(12);
+    EXPECT_EQ(form.ShapeSizeUS.Text(), "Pipe12STD");
+    EXPECT_EQ(Feet(1, 2), "99.20     ");
+}
+
+TEST_F(Type1, ClearingEmptiesTheTabThatShowsAndTheTotalFollows) {
+    Length(1, "1'");
+    Length(2, "100'");
+    Metres(1, "2");
+    EXPECT_EQ(form.TotalLabel.Caption(), "Rows: 2     Total weight: 1,010.00 lb");
+    form.SSTab1.Select(MetricTab);
+    EXPECT_EQ(form.TotalLabel.Caption(), "Rows: 1     Total weight: 30.00 kg");
+    form.ClearButton.Click();
+    EXPECT_EQ(Metric(1, 1) + Metric(1, 2), "");
+    EXPECT_EQ(Feet(2, 2), "1,000.00     ");
+    EXPECT_EQ(form.TotalLabel.Caption(), "Rows: 0     Total weight: 0.00 kg");
+}
+
+TEST_F(Type1, LengthsComeBackWithTheWeightsOfTheSectionChosenByThen) {
+    Length(1, "1'-6\"");
+    Length(50, "2'");
+    Metres(2, "3");
+    form.Unload();
+    EXPECT_EQ(lengths[0].Imperial, "1'-6\"");
+    EXPECT_EQ(lengths[1].Metric, "3.00");
+    machine.Store.Set("CalcWtShapeType", "3"); // S-Shape, first size
+    WtCalcsFrm again(desk, lengths);
+    again.Load();
+    EXPECT_EQ(again.ImperialFlex.Text(1, 1), "1'-6\"     ");
+    EXPECT_EQ(again.ImperialFlex.Text(1, 2), "181.50     ");
+    EXPECT_EQ(again.ImperialFlex.Text(50, 2), "242.00     ");
+    EXPECT_EQ(again.ImperialFlex.Text(2, 2), "");
+    EXPECT_EQ(again.MetricFlex.Text(2, 2), "540.00     ");
+}
+
+TEST_F(Type1, ClosingCommitsWhatIsBeingTypedAndSavesTheChoice) {
+    form.ShapeType.Select(5);
+    Type(form.ImperialFlex, form.EdiTxt, 3, 1, "4'");
+    form.Unload();
+    EXPECT_EQ(lengths[2].Imperial, "4'-0\"");
+    EXPECT_EQ(machine.Store.Get("CalcWtShapeType"), "5");
+    EXPECT_EQ(machine.Store.Get("CalcWtShapeSize5"), "0");
+}
+
+TEST_F(Type1, AWeightThatIsNotOfTheSectionShownTellsSo) {
+    Length(1, "1'");
+    machine.Host.Places.Program = "/nowhere";
+    form.ShapeSizeUS.Select(0);
+    EXPECT_EQ(Feet(1, 2), "10.00     ") << "the figures of before stay";
+    EXPECT_EQ(form.ImperialFlex.Remark(1, 2), StaleWeightRemark);
+    machine.Host.Places.Program = TENSARIX_PROGRAM_DIR;
+    form.ShapeSizeUS.Select(1);
+    EXPECT_EQ(form.ImperialFlex.Remark(1, 2), "");
+    machine.Store.Set("CalcWtShapeSize1", "9999");
+    form.ShapeType.Select(1); // no size chosen
+    EXPECT_EQ(form.ImperialFlex.Remark(1, 2), StaleWeightRemark);
+}
+
+TEST_F(Type1, AColumnOfLengthsIsPasted) {
+    form.ImperialFlex.Move_To(2, 2);
+    machine.Clip.Held = "1'\tnote\r\n\r\n 2'-6 \r\n\r\n";
+    form.ImperialFlex.OnPaste();
+    EXPECT_EQ(Feet(2, 1), "1'-0\"     ");
+    EXPECT_EQ(Feet(2, 2), "10.00     ");
+    EXPECT_EQ(Feet(3, 2), "");
+    EXPECT_EQ(Feet(4, 1), "2'-6\"     ");
+    EXPECT_EQ(Feet(4, 2), "25.00     ");
+    form.ImperialFlex.OnCopy();
+    EXPECT_EQ(machine.Clip.Held, "1'-0\"     \r\r2'-6\"     ");
+    EXPECT_EQ(machine.Boxes.Shown.size(), 0u);
+}
+
+TEST_F(Type1, APasteThatIsRefusedWritesNothing) {
+    Length(3, "9'");
+    struct Case {
+        const char* Clip;
+        int Row;
+        const char* Message;
+    };
+    const Case cases[] = {
+        {"1'\n2'\n5'6\"\nLength\n3'", 2,
+         "Invalid distance input for row 4, 5. Nothing was pasted."},
+        {"1'\n2'\n3'", 49,
+         "There are 3 lengths to paste, but only 2 rows from row 49 on. Nothing was pasted."},
+    };
+    for (const Case& c : cases) {
+        machine.Boxes.Shown.clear();
+        machine.Clip.Held = c.Clip;
+        form.ImperialFlex.Move_To(c.Row, 1);
+        form.ImperialFlex.OnPaste();
+        EXPECT_EQ(machine.Boxes.Shown,
+                  std::vector<std::string>{"Warning|" + std::string{c.Message} + "|stop"});
+        EXPECT_EQ(Feet(2, 1), "     ");
+        EXPECT_EQ(Feet(3, 1), "9'-0\"     ");
+        EXPECT_EQ(Feet(49, 1), "     ");
+    }
+    machine.Clip.Held = "1,5\n2";
+    form.MetricFlex.Move_To(1, 1);
+    form.MetricFlex.OnPaste();
+    EXPECT_EQ(Metric(2, 1), "     ") << "a comma is no point";
+}
+
+TEST_F(Type2, TheLeadingNumberIsChargedAndARemarkTellsSo) {
+    struct Case {
+        const char* Typed;
+        const char* Shown;
+        const char* Weight;
+        const char* Charged; // empty: no remark
+    };
+    const Case cases[] = {
+        {"12'-6\"", "12'-6\"     ", "120.00     ", "12"},
+        {"6\"", "6\"     ", "60.00     ", "6"},
+        {"12'", "12'-0\"     ", "120.00     ", ""},
+        {"6 1/2", "6 1/2\"     ", "610.00     ", "61"},
+        {"1/2\"", "1/2\"     ", "10.00     ", "1"},
+    };
+    int row = 1;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.Typed);
+        Pick(row, "W8x10");
+        Length(row, c.Typed);
+        EXPECT_EQ(Feet(row, 2), c.Shown);
+        EXPECT_EQ(Feet(row, 3), c.Weight);
+        EXPECT_EQ(Remark(row), *c.Charged ? "Charged for " + std::string{c.Charged} + chargedTail
+                                          : std::string{});
+        ++row;
+    }
+    form.ImperialFlex.Move_To(1, 2);
+    EXPECT_EQ(form.RemarkLabel.Caption(), Remark(1));
+    form.ImperialFlex.Move_To(3, 2);
+    EXPECT_EQ(form.RemarkLabel.Caption(), "");
+}
+
+TEST_F(Type2, MetresAreChargedWhole) {
+    Pick(form.MetricFlex, form.ShapeSizeSI, 1, "W200x15");
+    Enter(form.MetricFlex, form.EdiTxtA, 1, 2, "2.5");
+    EXPECT_EQ(form.MetricFlex.Text(1, 3), "37.50     ");
+    EXPECT_EQ(form.MetricFlex.Remark(1, 3), "");
+}
+
+TEST_F(Type2, AWeightNeedsBothASizeAndALength) {
+    Pick(1, "W8x10");
+    EXPECT_EQ(Feet(1, 3), "");
+    Length(2, "3'");
+    EXPECT_EQ(Feet(2, 3), "");
+    Pick(2, "W8x10");
+    EXPECT_EQ(Feet(2, 3), "30.00     ");
+    form.ImperialFlex.Move_To(2, 1);
+    form.ImperialFlex.OnKeyDown(Keys::Delete);
+    EXPECT_EQ(Feet(2, 1) + Feet(2, 3), "");
+    EXPECT_EQ(Feet(2, 2), "3'-0\"     ");
+    form.ImperialFlex.Move_To(2, 3);
+    form.ImperialFlex.OnKeyPress('7');
+    EXPECT_FALSE(form.EdiTxt.Visible() || form.ShapeSizeUS.Visible());
+}
+
+TEST_F(Type2, ThePickedSizeWeighsAtOnceAndEscapeTakesItBack) {
+    Length(1, "10'");
+    form.ImperialFlex.Press(1, 1);
+    EXPECT_TRUE(form.ShapeSizeUS.Visible());
+    form.ShapeSizeUS.Select(Position_Of_Item(form.ShapeSizeUS, "W18x50"));
+    EXPECT_EQ(Feet(1, 3), "500.00     ");
+    EXPECT_EQ(Feet(1, 1), "");
+    form.ShapeSizeUS.OnKeyDown(Keys::Escape);
+    EXPECT_EQ(Feet(1, 3), "");
+    EXPECT_FALSE(form.ShapeSizeUS.Visible());
+}
+
+TEST_F(Type2, RowsKeepSizesOfOtherFamilies) {
+    Pick(1, "W8x10");
+    Length(1, "10'");
+    form.ShapeType.Focus.Set();
+    form.ShapeType.Select(12);
+    EXPECT_EQ(form.ShapeSizeUS.ListIndex(), -1);
+    EXPECT_EQ(Feet(1, 3), "100.00     ");
+    Length(1, "20'"); // the size of the cell counts, not the list
+    EXPECT_EQ(Feet(1, 3), "200.00     ");
+
+    // Leaving the list without a choice computes by the list's empty text.
+    form.ImperialFlex.Press(1, 1);
+    form.ImperialFlex.Focus.Set();
+    EXPECT_EQ(Feet(1, 1), "W8x10");
+    EXPECT_EQ(Feet(1, 3), "0.00     ");
+    EXPECT_NE(Remark(1), "");
+}
+
+TEST_F(Type2, NothingIsCommittedByAChangeOfTheTab) {
+    Length(1, "10'");
+    Type(form.ImperialFlex, form.EdiTxt, 1, 2, "12'");
+    form.SSTab1.Select(MetricTab);
+    EXPECT_FALSE(form.EdiTxt.Visible());
+    EXPECT_EQ(Feet(1, 2), "10'-0\"     ");
+
+    form.SSTab1.Select(ImperialTab);
+    form.ImperialFlex.Press(1, 1);
+    form.ShapeSizeUS.Select(3);
+    form.SSTab1.Select(MetricTab);
+    EXPECT_FALSE(form.ShapeSizeUS.Visible());
+    EXPECT_EQ(Feet(1, 1) + Feet(1, 3), "") << "no weight of a size that is not in the row";
+}
+
+TEST_F(Type2, ClearingHidesTheEditorsOfTheTab) {
+    Pick(1, "W8x10");
+    Type(form.ImperialFlex, form.EdiTxt, 1, 2, "12'");
+    form.ClearButton.Click();
+    EXPECT_FALSE(form.EdiTxt.Visible());
+    EXPECT_EQ(Feet(1, 1) + Feet(1, 2) + Feet(1, 3), "");
+}
+
+TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
+    Pick(1, "W8x10");
+    Length(1, "12'-6\"");
+    form.ShapeType.Select(4);
+    form.Unload();
+    EXPECT_EQ(machine.Store.Get("CalcWtShapeType"), "4");
+    EXPECT_EQ(machine.Store.Get("CalcWtShapeSize4"), "-1");
+    machine.Host.Places.Program = "/nowhere"; // nothing can be computed
+    WtCalcsFrmA again(desk, rows);
+    again.Load();
+    EXPECT_EQ(again.ImperialFlex.Text(1, 1), "W8x10");
+    EXPECT_EQ(again.ImperialFlex.Text(1, 2), "12'-6\"     ");
+    EXPECT_EQ(again.ImperialFlex.Text(1, 3), "120.00     ");
+    EXPECT_EQ(again.ImperialFlex.Remark(1, 3), std::string{"Charged for 12"} + chargedTail);
+    EXPECT_EQ(again.ImperialFlex.Text(2, 3), "     ");
+}
