@@ -1,9 +1,11 @@
 // What a user waits for on the screen: the start, and a change of section up to the painted grid.
+#include "window/CalcForm.h"
 #include "window/Program.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTemporaryDir>
 
 namespace {
@@ -80,6 +82,27 @@ void Read_Of_One_Section(benchmark::State& state) {
     }
 }
 BENCHMARK(Read_Of_One_Section)->Unit(benchmark::kMillisecond);
+
+// A typed key of the calculator: computed, lit and painted.
+void Calculator_Key_To_Painted_Panel(benchmark::State& state) {
+    QTemporaryDir home;
+    Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    program.Start();
+    CalcVariables vars;
+    CalcForm form(program.Form().Shared, vars, nullptr);
+    form.show();
+    form.grab();
+    const std::string keys = "12.5*7+3/9=s8-4^2=";
+    std::size_t at = 0;
+    for (auto _ : state) {
+        const QString typed(QLatin1Char(keys[at++ % keys.size()]));
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, typed);
+        QCoreApplication::sendEvent(&form, &press);
+        benchmark::DoNotOptimize(form.grab()); // all of it, at once
+    }
+    program.Window().close();
+}
+BENCHMARK(Calculator_Key_To_Painted_Panel)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

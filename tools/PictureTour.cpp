@@ -2,6 +2,11 @@
 //   picture_tour FOLDER
 // The user's own settings and data are left alone.
 #include "window/AboutForm.h"
+#include "window/CalcConstantForm.h"
+#include "window/CalcDataForm.h"
+#include "window/CalcForm.h"
+#include "window/CalcHelpForm.h"
+#include "window/CalcMemoryForm.h"
 #include "window/GridView.h"
 #include "window/Program.h"
 
@@ -9,10 +14,12 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QMenu>
 #include <QPalette>
 #include <QStandardPaths>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
@@ -58,6 +65,61 @@ class Tour {
         Take(QStringLiteral("browse-si"), program_.Window());
         page.ProfileOption1.Select();
         page.DimOption1.Select();
+    }
+
+    // The pages, an error, and the display at its fullest.
+    void Calculator(const QString& suffix) {
+        CalcVariables vars;
+        CalcForm form(program_.Form().Shared, vars, &program_.Window());
+        form.show();
+        for (const char* key : {"key_Sqr", "key_Sqrt", "key_1", "key_2", "key_dot", "key_5"})
+            form.Press_Key(key);
+        auto& pages = *form.findChild<QTabWidget*>();
+        for (int page = 0; page < pages.count(); ++page) {
+            pages.setCurrentIndex(page);
+            Take(QStringLiteral("calculator-%1%2").arg(page + 1).arg(suffix), form);
+        }
+        for (const char* key : {"key_divide", "key_0", "key_equal"})
+            form.Press_Key(key);
+        form.findChild<QWidget*>(QStringLiteral("key_AC"))->setFocus();
+        Take(QStringLiteral("calculator-error") + suffix, form);
+        pages.setCurrentIndex(0);
+        form.resize(form.size() * 3 / 2);
+        for (const char* key : {"key_AC", "key_6", "key_9", "key_Fact", "key_PM", "key_Min",
+                                "key_Rcp", "key_plus", "key_plus"})
+            form.Press_Key(key);
+        Take(QStringLiteral("calculator-large") + suffix, form);
+        Calculator_Dialogs(vars, form, suffix);
+        form.close();
+    }
+
+    void Calculator_Dialogs(CalcVariables& vars, CalcForm& form, const QString& suffix) {
+        vars.Registers[2] = {1.75, "Bolt spacing"};
+        vars.DataList = {2, 4, 4, 4, 5, 5, 7, 9};
+        for (const int mode : {memoryIn, memoryDelete}) {
+            CalcMemoryFrm memory(vars, mode, 12.5, {});
+            memory.Select_Row(2);
+            CalcMemoryForm dialog(memory, &form);
+            Show_And_Take(QStringLiteral("calculator-memory-%1").arg(mode) + suffix, dialog);
+        }
+        CalcDataFrm data(vars, {});
+        data.Toggle_Row(3, true);
+        CalcDataForm dataForm(data, &form);
+        Show_And_Take(QStringLiteral("calculator-data") + suffix, dataForm);
+        CalcConstantFrm constant(vars);
+        CalcConstantForm constantForm(constant, &form);
+        constantForm.findChild<QListWidget*>()->setCurrentRow(4);
+        Show_And_Take(QStringLiteral("calculator-constants") + suffix, constantForm);
+        CalcHelpFrm help("1.0", false, {});
+        CalcHelpForm helpForm(help, program_.Form().Shared.Host.Speech, &form);
+        helpForm.findChild<QListWidget*>()->setCurrentRow(6);
+        Show_And_Take(QStringLiteral("calculator-help") + suffix, helpForm);
+    }
+
+    void Show_And_Take(const QString& name, QDialog& dialog) {
+        dialog.show();
+        Take(name, dialog);
+        dialog.close();
     }
 
     void Weights(const QString& suffix) {
@@ -293,6 +355,7 @@ int main(int argc, char** argv) {
     tour.Beam({});
     tour.Popup();
     tour.About({});
+    tour.Calculator({});
     tour.Weights({});
     tour.Bolts({});
     tour.Welds({});
@@ -302,6 +365,7 @@ int main(int argc, char** argv) {
     tour.View_All(QStringLiteral("-dark"));
     tour.Beam(QStringLiteral("-dark"));
     tour.About(QStringLiteral("-dark"));
+    tour.Calculator(QStringLiteral("-dark"));
     tour.Weights(QStringLiteral("-dark"));
     tour.Bolts(QStringLiteral("-dark"));
     tour.Welds(QStringLiteral("-dark"));

@@ -3,6 +3,7 @@
 #include "shell/AboutFrm.h"
 #include "shell/Version.h"
 #include "window/AboutForm.h"
+#include "window/CalcForm.h"
 #include "window/WtCalcsForm.h"
 
 #include <QApplication>
@@ -44,8 +45,9 @@ bool Program::Start() {
     return true;
 }
 
-// The calculator is not there yet.
-void Program::Show_CalcMainFrm() {}
+void Program::Show_CalcMainFrm() {
+    CalcForm(form_.Shared, calculator_, window_.get()).exec();
+}
 
 void Program::Show_AboutFrm() {
     AboutFrm about(form_.Shared);

@@ -2,6 +2,7 @@
 // The picture tour and the window tests drive it as main() does.
 #pragma once
 
+#include "calculator/CalcVariables.h"
 #include "weights/WtCalcsFrm.h"
 #include "weights/WtCalcsFrmA.h"
 #include "window/DesktopVoice.h"
@@ -41,6 +42,7 @@ class Program final : public Dialogs {
     SingleInstance instance_;
     Machine machine_;
     MainFrm form_;
+    CalcVariables calculator_; // outlives its form
     SavedLengths savedLengths_; // of the weight calculators, until the program ends
     SavedRows savedRows_;
     std::unique_ptr<MainForm> window_;

@@ -1,0 +1,92 @@
+#include "window/CalcMemoryForm.h"
+
+#include "ui_CalcMemoryForm.h"
+#include "window/CalcRows.h"
+
+namespace Tensarix {
+
+namespace {
+
+// The caption with its accelerator marked.
+QString With_Accelerator(const std::string& caption, char accelerator) {
+    QString text = QString::fromStdString(caption);
+    const qsizetype at = text.indexOf(QLatin1Char(accelerator), 0, Qt::CaseInsensitive);
+    return at < 0 ? text : text.insert(at, QLatin1Char('&'));
+}
+
+} // namespace
+
+CalcMemoryForm::CalcMemoryForm(CalcMemoryFrm& frm, QWidget* parent)
+    : QDialog(parent), frm_(frm), ui_(std::make_unique<Ui::CalcMemoryForm>()) {
+    ui_->setupUi(this);
+    Prepare_Rows(*ui_->ItemBox);
+    Show_Texts();
+    Show_State();
+    Connect();
+    ui_->ItemBox->setFocus();
+}
+
+CalcMemoryForm::~CalcMemoryForm() = default;
+
+void CalcMemoryForm::Show_Texts() {
+    setWindowTitle(QString::fromStdString(frm_.Title));
+    ui_->PromptLab->setText(QString::fromStdString(frm_.Prompt));
+    ui_->OKButton->setText(With_Accelerator(frm_.OkCaption, frm_.Accelerator));
+    ui_->DescFrame->setTitle(QString::fromStdString(frm_.FrameCaption));
+    ui_->DescBox->setAccessibleName(ui_->DescFrame->title());
+    ui_->DescBox->setReadOnly(frm_.DescriptionLocked);
+    ui_->DeleteFrame->setVisible(frm_.DeleteFrame);
+    ui_->ItemBox->setSelectionMode(frm_.DeleteFrame ? QAbstractItemView::ExtendedSelection
+                                                    : QAbstractItemView::SingleSelection);
+}
+
+void CalcMemoryForm::Connect() {
+    connect(ui_->ItemBox, &QTreeWidget::itemSelectionChanged, this,
+            [this] { Do([this] { Take_Selection(); }); });
+    connect(ui_->DescBox, &QLineEdit::textEdited, this,
+            [this](const QString& text) { frm_.DescBox = text.toStdString(); });
+    connect(ui_->SelectAllButton, &QPushButton::clicked, this,
+            [this] { Do([this] { frm_.SelectAllButton(); }); });
+    connect(ui_->CLRButton, &QPushButton::clicked, this,
+            [this] { Do([this] { frm_.CLRButton(); }); });
+    connect(ui_->OKButton, &QPushButton::clicked, this,
+            [this] { Do([this] { frm_.OKButton(); }); });
+    connect(ui_->ExitButton, &QPushButton::clicked, this, &QDialog::reject);
+    if (!frm_.DeleteFrame)
+        connect(ui_->ItemBox, &QTreeWidget::itemDoubleClicked, ui_->OKButton, &QPushButton::click);
+}
+
+void CalcMemoryForm::Take_Selection() {
+    QTreeWidget& list = *ui_->ItemBox;
+    for (int row = 0; row < list.topLevelItemCount(); ++row) {
+        const bool selected = list.topLevelItem(row)->isSelected();
+        if (frm_.DeleteFrame)
+            frm_.Toggle_Row(row, selected);
+        else if (selected)
+            frm_.Select_Row(row);
+    }
+}
+
+void CalcMemoryForm::Show_State() {
+    Show_Rows(*ui_->ItemBox, frm_.ItemBox, frm_.Selected);
+    if (const QString text = QString::fromStdString(frm_.DescBox); ui_->DescBox->text() != text)
+        ui_->DescBox->setText(text);
+    ui_->OKButton->setEnabled(frm_.OKEnabled);
+}
+
+template <typename Work>
+void CalcMemoryForm::Do(Work work) {
+    work();
+    if (frm_.Closed)
+        QDialog::done(Accepted);
+    else
+        Show_State();
+}
+
+// Left by the frame, Escape or "Exit".
+void CalcMemoryForm::done(int result) {
+    frm_.ExitButton();
+    QDialog::done(result);
+}
+
+} // namespace Tensarix
