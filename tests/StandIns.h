@@ -34,7 +34,9 @@ class MapSettings final : public SettingsStore {
     void Set(const std::string& key, const std::string& text) {
         Kept[{"TensarixSetting", key}] = text;
     }
-    std::string Get(const std::string& key) { return Read("TensarixSetting", key).value_or("none"); }
+    std::string Get(const std::string& key) {
+        return Read("TensarixSetting", key).value_or("none");
+    }
 };
 
 class KeptClipboard final : public Clipboard {
@@ -143,9 +145,8 @@ struct TestMachine {
     CountedEvents Events;
     RecordedWindow Window;
     TestInstance Guard;
-    Machine Host{Store,  Clip,   Speech, Boxes,
-                 Time,   Events, Window, Guard,
-                 {TENSARIX_PROGRAM_DIR, Data.Path}};
+    Machine Host{
+        Store, Clip, Speech, Boxes, Time, Events, Window, Guard, {TENSARIX_PROGRAM_DIR, Data.Path}};
 };
 
 } // namespace Tensarix::Tests

@@ -202,9 +202,9 @@ void Evaluation_Step(CalcMainFrm& form) {
         ShowValue(form, vars.Running, {});
 }
 
-// The result that waits becomes the operand, unless a number was keyed. Then it goes on waiting: what
-// "Min" left of a keyed number, or a function as the angle of a conversion, comes back behind the
-// next "=". That is intended.
+// The result that waits becomes the operand, unless a number was keyed. Then it goes on waiting:
+// what "Min" left of a keyed number, or a function as the angle of a conversion, comes back behind
+// the next "=". That is intended.
 void Resume_Result(CalcVariables& vars) {
     if (vars.EntryText.empty())
         vars.EntryText.swap(vars.ResumeText);

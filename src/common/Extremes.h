@@ -6,7 +6,11 @@
 
 namespace Tensarix {
 
-inline double Largest_Of(std::initializer_list<double> list) { return std::max(list); }
-inline double Smallest_Of(std::initializer_list<double> list) { return std::min(list); }
+inline double Largest_Of(std::initializer_list<double> list) {
+    return std::max(list);
+}
+inline double Smallest_Of(std::initializer_list<double> list) {
+    return std::min(list);
+}
 
 } // namespace Tensarix

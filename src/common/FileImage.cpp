@@ -30,8 +30,8 @@ bool Write_New_File(const std::filesystem::path& path, const Bytes& bytes) {
     std::unique_ptr<std::FILE, CloseFile> file{std::fopen(path.string().c_str(), "wb")};
     if (!file)
         return false;
-    bool good = bytes.empty() ||
-                std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    bool good =
+        bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
     good = std::fflush(file.get()) == 0 && good;
 #if __has_include(<unistd.h>)
     good = good && fsync(fileno(file.get())) == 0;
@@ -41,11 +41,17 @@ bool Write_New_File(const std::filesystem::path& path, const Bytes& bytes) {
 
 } // namespace
 
-void ByteWriter::Int16(std::int16_t value) { Put(bytes_, static_cast<std::uint16_t>(value), 2); }
+void ByteWriter::Int16(std::int16_t value) {
+    Put(bytes_, static_cast<std::uint16_t>(value), 2);
+}
 
-void ByteWriter::Int32(std::int32_t value) { Put(bytes_, static_cast<std::uint32_t>(value), 4); }
+void ByteWriter::Int32(std::int32_t value) {
+    Put(bytes_, static_cast<std::uint32_t>(value), 4);
+}
 
-void ByteWriter::Double(double value) { Put(bytes_, std::bit_cast<std::uint64_t>(value), 8); }
+void ByteWriter::Double(double value) {
+    Put(bytes_, std::bit_cast<std::uint64_t>(value), 8);
+}
 
 void ByteWriter::Text(std::string_view bytes) {
     bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
@@ -68,11 +74,17 @@ std::uint64_t ByteReader::Take(std::size_t count) {
     return value;
 }
 
-std::int16_t ByteReader::Int16() { return static_cast<std::int16_t>(Take(2)); }
+std::int16_t ByteReader::Int16() {
+    return static_cast<std::int16_t>(Take(2));
+}
 
-std::int32_t ByteReader::Int32() { return static_cast<std::int32_t>(Take(4)); }
+std::int32_t ByteReader::Int32() {
+    return static_cast<std::int32_t>(Take(4));
+}
 
-double ByteReader::Double() { return std::bit_cast<double>(Take(8)); }
+double ByteReader::Double() {
+    return std::bit_cast<double>(Take(8));
+}
 
 std::string ByteReader::Text(std::size_t count) {
     if (Left() < count)

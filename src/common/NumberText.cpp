@@ -16,7 +16,9 @@ constexpr int significantDigits = 15;
 // Enough digits that a text which looks like a tie at the fifteenth digit is one.
 constexpr int exactDigits = 60;
 
-bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
+bool Is_Digit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // "d.ddde+xx" as std::to_chars writes it.
 DecimalText Parse_Scientific(std::string_view text) {
@@ -82,7 +84,9 @@ struct Pattern {
     int ExponentZeros = 0;
 };
 
-bool Is_Placeholder(char c) { return c == '0' || c == '#' || c == ',' || c == '.'; }
+bool Is_Placeholder(char c) {
+    return c == '0' || c == '#' || c == ',' || c == '.';
+}
 
 Pattern Read_Pattern(std::string_view text) {
     Pattern p;
@@ -219,8 +223,8 @@ DecimalText To_Decimal(double value) {
     if (value == 0)
         return {};
     std::array<char, 128> text{};
-    auto end = std::to_chars(text.data(), text.data() + text.size(), value,
-                             std::chars_format::scientific);
+    auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific);
     DecimalText number = Parse_Scientific({text.data(), end.ptr});
     if (number.Digits.size() > significantDigits) {
         end = std::to_chars(text.data(), text.data() + text.size(), value,
@@ -298,7 +302,9 @@ double Text_Number(std::string_view text) {
     return Leading_Value(text);
 }
 
-double Round_Half_Even(double value) { return std::nearbyint(value); }
+double Round_Half_Even(double value) {
+    return std::nearbyint(value);
+}
 
 std::int16_t Whole_16(double value) {
     const double whole = Round_Half_Even(Finite(value));

@@ -26,11 +26,19 @@ void Change_Place(Placement& target, const Placement& place, const View& view) {
 
 } // namespace
 
-void Label::Set_Caption(std::string caption) { Change(caption_, std::move(caption), Shown); }
-void Label::Set_Remark(std::string remark) { Change(remark_, std::move(remark), Shown); }
+void Label::Set_Caption(std::string caption) {
+    Change(caption_, std::move(caption), Shown);
+}
+void Label::Set_Remark(std::string remark) {
+    Change(remark_, std::move(remark), Shown);
+}
 
-void Button::Set_Caption(std::string caption) { Change(caption_, std::move(caption), Shown); }
-void Button::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
+void Button::Set_Caption(std::string caption) {
+    Change(caption_, std::move(caption), Shown);
+}
+void Button::Enable(bool enabled) {
+    Change(enabled_, enabled, Shown);
+}
 
 void Button::Click() const {
     if (enabled_)
@@ -42,8 +50,12 @@ void OptionButton::Group(const std::vector<OptionButton*>& buttons) {
         button->group_ = buttons;
 }
 
-void OptionButton::Set_Caption(std::string caption) { Change(caption_, std::move(caption), Shown); }
-void OptionButton::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
+void OptionButton::Set_Caption(std::string caption) {
+    Change(caption_, std::move(caption), Shown);
+}
+void OptionButton::Enable(bool enabled) {
+    Change(enabled_, enabled, Shown);
+}
 
 void OptionButton::Select() {
     if (value_)
@@ -54,7 +66,9 @@ void OptionButton::Select() {
     Run(OnClick);
 }
 
-void Frame::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
+void Frame::Enable(bool enabled) {
+    Change(enabled_, enabled, Shown);
+}
 
 void ComboBox::Clear() {
     text_.clear();
@@ -95,9 +109,15 @@ void ComboBox::Set_Text(std::string text) {
     Run(OnChange);
 }
 
-void ComboBox::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
-void ComboBox::Show(bool visible) { Change(visible_, visible, Shown); }
-void ComboBox::Set_Place(const Placement& place) { Change_Place(place_, place, Shown); }
+void ComboBox::Enable(bool enabled) {
+    Change(enabled_, enabled, Shown);
+}
+void ComboBox::Show(bool visible) {
+    Change(visible_, visible, Shown);
+}
+void ComboBox::Set_Place(const Placement& place) {
+    Change_Place(place_, place, Shown);
+}
 
 int Find_By_Typing(const ComboBox& list, const std::string& typed) {
     const std::string wanted = Upper(typed);
@@ -127,28 +147,48 @@ void TextBox::Set_SelStart(int position) {
     Change(selStart_, std::clamp(position, 0, Length()), Shown);
 }
 
-void TextBox::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
-void TextBox::Show(bool visible) { Change(visible_, visible, Shown); }
-void TextBox::Set_Place(const Placement& place) { Change_Place(place_, place, Shown); }
+void TextBox::Enable(bool enabled) {
+    Change(enabled_, enabled, Shown);
+}
+void TextBox::Show(bool visible) {
+    Change(visible_, visible, Shown);
+}
+void TextBox::Set_Place(const Placement& place) {
+    Change_Place(place_, place, Shown);
+}
 
 void TabControl::Select(int tab) {
     if (Change(tab_, tab, Shown))
         Run(OnChange);
 }
 
-void Picture::Set_Name(std::string name) { Change(name_, std::move(name), Shown); }
+void Picture::Set_Name(std::string name) {
+    Change(name_, std::move(name), Shown);
+}
 
-void MenuItem::Set_Caption(std::string caption) { Change(caption_, std::move(caption), Shown); }
-void MenuItem::Enable(bool enabled) { Change(enabled_, enabled, Shown); }
-void MenuItem::Check(bool checked) { Change(checked_, checked, Shown); }
+void MenuItem::Set_Caption(std::string caption) {
+    Change(caption_, std::move(caption), Shown);
+}
+void MenuItem::Enable(bool enabled) {
+    Change(enabled_, enabled, Shown);
+}
+void MenuItem::Check(bool checked) {
+    Change(checked_, checked, Shown);
+}
 
 void MenuItem::Click() const {
     if (enabled_)
         Run(OnClick);
 }
 
-void StatusBar::Set_Panel1(std::string text) { Change(panel1_, std::move(text), Shown); }
-void StatusBar::Set_Remark(std::string text) { Change(remark_, std::move(text), Shown); }
-void StatusBar::Set_Count(std::string text) { Change(count_, std::move(text), Shown); }
+void StatusBar::Set_Panel1(std::string text) {
+    Change(panel1_, std::move(text), Shown);
+}
+void StatusBar::Set_Remark(std::string text) {
+    Change(remark_, std::move(text), Shown);
+}
+void StatusBar::Set_Count(std::string text) {
+    Change(count_, std::move(text), Shown);
+}
 
 } // namespace Tensarix

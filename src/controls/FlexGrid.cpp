@@ -81,7 +81,9 @@ void FlexGrid::Clear() {
     Shown.Changed();
 }
 
-const std::string& FlexGrid::Text(int row, int col) const { return cells_[At(row, col)].Text; }
+const std::string& FlexGrid::Text(int row, int col) const {
+    return cells_[At(row, col)].Text;
+}
 
 void FlexGrid::Set_Text(int row, int col, std::string text) {
     cells_[At(row, col)].Text = std::move(text);
@@ -90,7 +92,9 @@ void FlexGrid::Set_Text(int row, int col, std::string text) {
     Shown.Changed();
 }
 
-const CellStyle& FlexGrid::Style(int row, int col) const { return cells_[At(row, col)].Style; }
+const CellStyle& FlexGrid::Style(int row, int col) const {
+    return cells_[At(row, col)].Style;
+}
 
 void FlexGrid::Set_Style(int row, int col, const CellStyle& style) {
     cells_[At(row, col)].Style = style;

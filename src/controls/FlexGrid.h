@@ -91,7 +91,8 @@ class FlexGrid {
     int RowSel() const { return rowSel_; }
     int ColSel() const { return colSel_; }
     // Makes the cell the current one and the selection; true if it wasn't the current one. Runs
-    // OnLeaveCell before and OnSelChange after. A cell that OnLeaveCell has taken away is not gone to.
+    // OnLeaveCell before and OnSelChange after. A cell that OnLeaveCell has taken away is not gone
+    // to.
     bool Move_To(int row, int col);
     // The selection goes from the current cell to this one.
     void Extend_To(int row, int col);

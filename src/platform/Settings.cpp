@@ -29,9 +29,13 @@ int Settings::Position(const SettingKey& key, std::string_view appended) const {
     return Whole_16(Number(key, appended));
 }
 
-bool Settings::Flag(const SettingKey& key) const { return Number(key) != 0; }
+bool Settings::Flag(const SettingKey& key) const {
+    return Number(key) != 0;
+}
 
-void Settings::Save(const SettingKey& key, std::string_view text) const { Save(key, {}, text); }
+void Settings::Save(const SettingKey& key, std::string_view text) const {
+    Save(key, {}, text);
+}
 
 void Settings::Save(const SettingKey& key, std::string_view appended, std::string_view text) const {
     store_.Write(key.Section, Full_Key(key, appended), text);

@@ -36,17 +36,17 @@ inline constexpr SettingKey fDimOption{"fDimOption", "0"};
 inline constexpr SettingKey ShapeType{"ShapeType", "0"};
 inline constexpr SettingKey fShapeType{"fShapeType", "0"};
 inline constexpr SettingKey xShapeType{"xShapeType", "0"};
-inline constexpr SettingKey zShapeType{"zShapeType", "0"};   // read only: nothing writes it
-inline constexpr SettingKey ShapeSize{"ShapeSize", "0"};     // (family)
-inline constexpr SettingKey zShapeSize{"zShapeSize", "0"};   // (family)
-inline constexpr SettingKey fCriterion{"fCriterion", "0"};   // (family)
-inline constexpr SettingKey fPoperty{"fPoperty", "0"};       // (family)
-inline constexpr SettingKey fValue{"fValue", ""};            // (family)
-inline constexpr SettingKey BeamSpan{"BeamSpan", "25"};      // alone, and (code tab)(method)
+inline constexpr SettingKey zShapeType{"zShapeType", "0"}; // read only: nothing writes it
+inline constexpr SettingKey ShapeSize{"ShapeSize", "0"};   // (family)
+inline constexpr SettingKey zShapeSize{"zShapeSize", "0"}; // (family)
+inline constexpr SettingKey fCriterion{"fCriterion", "0"}; // (family)
+inline constexpr SettingKey fPoperty{"fPoperty", "0"};     // (family)
+inline constexpr SettingKey fValue{"fValue", ""};          // (family)
+inline constexpr SettingKey BeamSpan{"BeamSpan", "25"};    // alone, and (code tab)(method)
 inline constexpr SettingKey AppliedCode{"AppliedCode", "1"};
 inline constexpr SettingKey CodeOpt{"CodeOpt", "0"};
-inline constexpr SettingKey YieldIndex{"YieldIndex", "0"};   // (code tab)
-inline constexpr SettingKey CFactor{"CFactor", "0"};         // (code tab)(method)
+inline constexpr SettingKey YieldIndex{"YieldIndex", "0"}; // (code tab)
+inline constexpr SettingKey CFactor{"CFactor", "0"};       // (code tab)(method)
 inline constexpr SettingKey cFlexRows{"cFlexRows", "16"};
 inline constexpr SettingKey WeldStrip{"WeldStrip", "1"};
 inline constexpr SettingKey WeldView{"WeldView", "1"};

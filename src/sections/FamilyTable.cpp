@@ -63,7 +63,9 @@ std::string Sections_In_Words(int count) {
     return std::to_string(count) + (count == 1 ? " section" : " sections");
 }
 
-std::string SpaceDesignation(std::string_view text) { return Trim(Replace_All(text, "x", " x ")); }
+std::string SpaceDesignation(std::string_view text) {
+    return Trim(Replace_All(text, "x", " x "));
+}
 
 std::string_view Double_Angle_Picture(std::string_view designation) {
     return Trim(designation).ends_with(shortLegsEnd) ? "DLUnEqImage1" : "DLUnEqImage2";

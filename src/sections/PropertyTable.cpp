@@ -108,30 +108,32 @@ constexpr LayoutEntry Same(const Property& everywhere) {
 constexpr LayoutEntry Two(const Property& browse, const Property& tables) {
     return {&browse, &tables, &tables};
 }
-constexpr LayoutEntry TablesOnly(const Property& tables) { return {nullptr, &tables, &tables}; }
+constexpr LayoutEntry TablesOnly(const Property& tables) {
+    return {nullptr, &tables, &tables};
+}
 
 constexpr LayoutEntry weight = Two(c::W, c::Wt);
 
 constexpr LayoutEntry entriesW[] = {
-    weight,         Same(c::A),    Same(c::d),      Same(c::bf),   Same(c::tw), Same(c::tf),
-    Same(c::kdes),  Same(c::kdet), Same(c::k1),     Same(c::T),    Same(c::bf_2tf),
-    Same(c::h_tw),  Same(c::Ix),   Same(c::Zx),     Same(c::Sx),   Same(c::rx), Same(c::Iy),
-    Same(c::Zy),    Same(c::Sy),   Same(c::ry),     Same(c::J),    Same(c::Cw), Same(c::Wno),
-    Same(c::Sw),    Same(c::Qf),   Same(c::Qw)};
+    weight,        Same(c::A),    Same(c::d),  Same(c::bf), Same(c::tw),     Same(c::tf),
+    Same(c::kdes), Same(c::kdet), Same(c::k1), Same(c::T),  Same(c::bf_2tf), Same(c::h_tw),
+    Same(c::Ix),   Same(c::Zx),   Same(c::Sx), Same(c::rx), Same(c::Iy),     Same(c::Zy),
+    Same(c::Sy),   Same(c::ry),   Same(c::J),  Same(c::Cw), Same(c::Wno),    Same(c::Sw),
+    Same(c::Qf),   Same(c::Qw)};
 
-constexpr LayoutEntry entriesS[] = {
-    weight,        Same(c::A),       Two(c::d, c::d_S), Same(c::bf), Same(c::tw),
-    Same(c::tf),   Two(c::k_S, c::k), Same(c::T),        Same(c::bf_2tf), Same(c::h_tw),
-    Same(c::Ix),   Same(c::Zx),      Same(c::Sx),       Same(c::rx), Same(c::Iy),
-    Same(c::Zy),   Same(c::Sy),      Same(c::ry),       Same(c::J),  Same(c::Cw),
-    Same(c::Wno),  Same(c::Sw),      Same(c::Qf),       Same(c::Qw)};
+constexpr LayoutEntry entriesS[] = {weight,          Same(c::A),    Two(c::d, c::d_S), Same(c::bf),
+                                    Same(c::tw),     Same(c::tf),   Two(c::k_S, c::k), Same(c::T),
+                                    Same(c::bf_2tf), Same(c::h_tw), Same(c::Ix),       Same(c::Zx),
+                                    Same(c::Sx),     Same(c::rx),   Same(c::Iy),       Same(c::Zy),
+                                    Same(c::Sy),     Same(c::ry),   Same(c::J),        Same(c::Cw),
+                                    Same(c::Wno),    Same(c::Sw),   Same(c::Qf),       Same(c::Qw)};
 
 constexpr LayoutEntry entriesC[] = {
-    weight,       Same(c::A),    Same(c::d),  Same(c::bf), Same(c::tw),        Same(c::tf),
-    Same(c::kdes), Same(c::kdet), Same(c::k1), Same(c::T),  Same(c::x),         Two(c::e0, c::eo),
-    Same(c::xp_C), Same(c::Ix),   Same(c::Zx), Same(c::Sx), Same(c::rx),        Same(c::Iy),
-    Same(c::Zy),  Same(c::Sy),   Same(c::ry), Same(c::J),  Same(c::Cw),        Same(c::ro_C),
-    Same(c::H)};
+    weight,      Same(c::A),        Same(c::d),    Same(c::bf),   Same(c::tw),
+    Same(c::tf), Same(c::kdes),     Same(c::kdet), Same(c::k1),   Same(c::T),
+    Same(c::x),  Two(c::e0, c::eo), Same(c::xp_C), Same(c::Ix),   Same(c::Zx),
+    Same(c::Sx), Same(c::rx),       Same(c::Iy),   Same(c::Zy),   Same(c::Sy),
+    Same(c::ry), Same(c::J),        Same(c::Cw),   Same(c::ro_C), Same(c::H)};
 
 // The tables of the channels number their columns wrongly: the heads fall back by two behind Zx,
 // the values behind EO, and what comes later is written over what stood there. That is intended.
@@ -140,51 +142,89 @@ constexpr int headColumnsC[] = {2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 
 constexpr int valueColumnsC[] = {2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 12,
                                  13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
 
-constexpr LayoutEntry entriesWT[] = {
-    weight,       Same(c::A),  Same(c::d),  Same(c::bf),     Same(c::tw), Same(c::tf),
-    {&c::k, &c::k_K, &c::k_KDET},           Same(c::y),      Same(c::yp), Same(c::bf_2tf),
-    Same(c::h_tw), Same(c::Ix), Same(c::Zx), Same(c::Sx),     Same(c::rx), Same(c::Iy),
-    Same(c::Zy),  Same(c::Sy), Same(c::ry), Same(c::J),      Same(c::Cw)};
+constexpr LayoutEntry entriesWT[] = {weight,
+                                     Same(c::A),
+                                     Same(c::d),
+                                     Same(c::bf),
+                                     Same(c::tw),
+                                     Same(c::tf),
+                                     {&c::k, &c::k_K, &c::k_KDET},
+                                     Same(c::y),
+                                     Same(c::yp),
+                                     Same(c::bf_2tf),
+                                     Same(c::h_tw),
+                                     Same(c::Ix),
+                                     Same(c::Zx),
+                                     Same(c::Sx),
+                                     Same(c::rx),
+                                     Same(c::Iy),
+                                     Same(c::Zy),
+                                     Same(c::Sy),
+                                     Same(c::ry),
+                                     Same(c::J),
+                                     Same(c::Cw)};
 
 constexpr LayoutEntry entriesST[] = {
-    weight,      Same(c::A),  Same(c::d),  Same(c::bf), Same(c::tw), Same(c::tf), Same(c::k),
-    Same(c::y),  Same(c::yp), TablesOnly(c::bf_2tf),    Same(c::d_tw), Same(c::Ix), Same(c::Zx),
-    Same(c::Sx), Same(c::rx), Same(c::Iy), Same(c::Zy), Same(c::Sy), Same(c::ry), Same(c::J),
-    Same(c::Cw)};
+    weight,      Same(c::A),  Same(c::d),  Same(c::bf),           Same(c::tw),   Same(c::tf),
+    Same(c::k),  Same(c::y),  Same(c::yp), TablesOnly(c::bf_2tf), Same(c::d_tw), Same(c::Ix),
+    Same(c::Zx), Same(c::Sx), Same(c::rx), Same(c::Iy),           Same(c::Zy),   Same(c::Sy),
+    Same(c::ry), Same(c::J),  Same(c::Cw)};
 
 constexpr LayoutEntry entriesHSSRec[] = {
-    weight,          Same(c::A),       Same(c::Ht), Same(c::b),  Same(c::tnom), Same(c::tdes),
-    Same(c::b_t_Rec), Same(c::h_t_Rec), Same(c::Ix), Same(c::Zx), Same(c::Sx),   Same(c::rx),
-    Same(c::Iy),     Same(c::Zy),      Same(c::Sy), Same(c::ry), Same(c::J),    Same(c::Cw),
-    Same(c::C)};
+    weight,        Same(c::A),       Same(c::Ht),      Same(c::b),  Same(c::tnom),
+    Same(c::tdes), Same(c::b_t_Rec), Same(c::h_t_Rec), Same(c::Ix), Same(c::Zx),
+    Same(c::Sx),   Same(c::rx),      Same(c::Iy),      Same(c::Zy), Same(c::Sy),
+    Same(c::ry),   Same(c::J),       Same(c::Cw),      Same(c::C)};
 
 constexpr LayoutEntry entriesHSSSqr[] = {
-    weight,          Same(c::A),       Same(c::Ht), Same(c::b_Sqr), Same(c::tnom), Same(c::tdes),
-    Same(c::b_t_Sqr), Same(c::h_t_Sqr), Same(c::I),  Same(c::Z),     Same(c::S),    Same(c::r),
-    Same(c::J),      Same(c::C)};
+    weight,        Same(c::A),       Same(c::Ht),      Same(c::b_Sqr), Same(c::tnom),
+    Same(c::tdes), Same(c::b_t_Sqr), Same(c::h_t_Sqr), Same(c::I),     Same(c::Z),
+    Same(c::S),    Same(c::r),       Same(c::J),       Same(c::C)};
 
 constexpr LayoutEntry entriesHSSRnd[] = {
     weight,     Same(c::A), Same(c::OD), Same(c::tnom), Same(c::tdes), Two(c::D_t, c::D_t_x),
     Same(c::I), Same(c::Z), Same(c::S),  Same(c::r),    Same(c::J),    Same(c::C)};
 
 constexpr LayoutEntry entriesPipe[] = {
-    weight,           Same(c::A), Same(c::OD), Same(c::ID), Same(c::tnom), Same(c::tdes_Pipe),
-    Same(c::D_t_Pipe), Same(c::I), Same(c::Z),  Same(c::S),  Same(c::r),    Same(c::J)};
+    weight,        Same(c::A),         Same(c::OD),       Same(c::ID),
+    Same(c::tnom), Same(c::tdes_Pipe), Same(c::D_t_Pipe), Same(c::I),
+    Same(c::Z),    Same(c::S),         Same(c::r),        Same(c::J)};
 
-constexpr LayoutEntry entriesSAngle[] = {
-    weight,      Same(c::A),  Same(c::d),  Same(c::b),  Same(c::t),  Same(c::kdes), Same(c::kdet),
-    Same(c::x),  Same(c::y),  Same(c::eo), Same(c::xp), Same(c::yp), Same(c::Ix),   Same(c::Zx),
-    Same(c::Sx), Same(c::rx), Same(c::Iy), Same(c::Zy), Same(c::Sy), Same(c::ry),   Same(c::rz),
-    Same(c::J),  Same(c::Cw), Same(c::ro), Two(c::TanAlpha, c::TanAlpha_US), Two(c::Qs, c::Qs_US)};
+constexpr LayoutEntry entriesSAngle[] = {weight,
+                                         Same(c::A),
+                                         Same(c::d),
+                                         Same(c::b),
+                                         Same(c::t),
+                                         Same(c::kdes),
+                                         Same(c::kdet),
+                                         Same(c::x),
+                                         Same(c::y),
+                                         Same(c::eo),
+                                         Same(c::xp),
+                                         Same(c::yp),
+                                         Same(c::Ix),
+                                         Same(c::Zx),
+                                         Same(c::Sx),
+                                         Same(c::rx),
+                                         Same(c::Iy),
+                                         Same(c::Zy),
+                                         Same(c::Sy),
+                                         Same(c::ry),
+                                         Same(c::rz),
+                                         Same(c::J),
+                                         Same(c::Cw),
+                                         Same(c::ro),
+                                         Two(c::TanAlpha, c::TanAlpha_US),
+                                         Two(c::Qs, c::Qs_US)};
 
 constexpr LayoutEntry entriesEqDAngle[] = {
     weight,      Same(c::A),  Same(c::d),  Same(c::b),  Same(c::t),  Same(c::y), Same(c::Ix),
     Same(c::Zx), Same(c::Sx), Same(c::rx), Same(c::ry), Same(c::ro), Same(c::H), Same(c::Qs)};
 
-constexpr LayoutEntry entriesUnEqDAngle[] = {
-    weight,      Same(c::A),  Same(c::d),  Same(c::b),  Same(c::t),  Same(c::y), Same(c::yp),
-    Same(c::Ix), Same(c::Zx), Same(c::Sx), Same(c::rx), Same(c::ry), Same(c::ro), Same(c::H),
-    Same(c::Qs)};
+constexpr LayoutEntry entriesUnEqDAngle[] = {weight,      Same(c::A),  Same(c::d),  Same(c::b),
+                                             Same(c::t),  Same(c::y),  Same(c::yp), Same(c::Ix),
+                                             Same(c::Zx), Same(c::Sx), Same(c::rx), Same(c::ry),
+                                             Same(c::ro), Same(c::H),  Same(c::Qs)};
 
 // A number as it is; a text is passed on unless it reads as a number.
 std::string Formatted(const FieldValue& value) {

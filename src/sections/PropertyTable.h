@@ -43,9 +43,9 @@ struct LayoutEntry {
 
 struct Layout {
     std::span<const LayoutEntry> Entries;
-    int BrowseRows;     // of the grid, with its head row
-    int SpareRowsFrom;  // rows from here on are emptied when the layout is laid out; 0: none
-    int TableColumns;   // of the View All and Find grids
+    int BrowseRows;    // of the grid, with its head row
+    int SpareRowsFrom; // rows from here on are emptied when the layout is laid out; 0: none
+    int TableColumns;  // of the View All and Find grids
     // Where the heads and the values stand on View All and Find, if not in order from column 2.
     std::span<const int> HeadColumns = {}, ValueColumns = {};
     std::size_t Unsearched = 0; // so many entries at the end are not listed on Find

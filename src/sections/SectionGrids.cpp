@@ -158,8 +158,8 @@ void Write_Name(FlexGrid& grid, int row, int col, const SectionRecordset& record
 
 } // namespace
 
-void PlainInitializer::operator()(FlexGrid& grid, const ComboBox& sizeList,
-                                  const SectionView& view, bool labelMode) const {
+void PlainInitializer::operator()(FlexGrid& grid, const ComboBox& sizeList, const SectionView& view,
+                                  bool labelMode) const {
     if (labelMode) {
         Lay_Out_Rows(grid, Rows);
         Write_Labels(grid, Rows);

@@ -31,7 +31,9 @@ namespace Tensarix {
 
 namespace {
 
-QString To_Qt(const std::string& text) { return QString::fromStdString(text); }
+QString To_Qt(const std::string& text) {
+    return QString::fromStdString(text);
+}
 
 // The list of a combo box as it stands in the control: nothing is copied.
 class ItemModel final : public QAbstractListModel {
@@ -43,8 +45,7 @@ class ItemModel final : public QAbstractListModel {
         return parent.isValid() ? 0 : shown_;
     }
     QVariant data(const QModelIndex& index, int role) const override {
-        if (index.row() >= control_.Count() ||
-            (role != Qt::DisplayRole && role != Qt::EditRole))
+        if (index.row() >= control_.Count() || (role != Qt::DisplayRole && role != Qt::EditRole))
             return {};
         return To_Qt(control_.Item(index.row()));
     }
@@ -68,8 +69,8 @@ class ItemModel final : public QAbstractListModel {
 template <typename Control>
 bool Tell_Key_Down(Control& control, const QKeyEvent& event) {
     const int code = Key_Code(event);
-    const bool selects = (event.modifiers() & Qt::ShiftModifier) != 0 && code >= Keys::Left &&
-                         code <= Keys::Down;
+    const bool selects =
+        (event.modifiers() & Qt::ShiftModifier) != 0 && code >= Keys::Left && code <= Keys::Down;
     if (!control.OnKeyDown || code == 0 || selects)
         return false;
     const bool shown = control.Visible();
@@ -377,7 +378,8 @@ void Bind(QAction* action, MenuItem& control) {
     };
     control.Shown.OnChanged = pull;
     pull();
-    QObject::connect(action, &QObject::destroyed, [&control] { control.Shown.OnChanged = nullptr; });
+    QObject::connect(action, &QObject::destroyed,
+                     [&control] { control.Shown.OnChanged = nullptr; });
     QObject::connect(action, &QAction::triggered, action, [pull, &control] {
         control.Click();
         pull();

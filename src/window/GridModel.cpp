@@ -33,9 +33,13 @@ int Cell_Alignment(Alignment alignment) {
 GridModel::GridModel(const FlexGrid& grid, QWidget* view)
     : QAbstractTableModel(view), grid_(grid), view_(view) {}
 
-int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
 
-int GridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : cols_; }
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : cols_;
+}
 
 bool GridModel::Has_Size_Of_Grid() const {
     return rows_ == grid_.Rows() - grid_.FixedRows() && cols_ == grid_.Cols();
@@ -74,12 +78,14 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 QVariant GridModel::Cell(int row, int col, int role) const {
     const CellStyle& style = grid_.Style(row, col);
     switch (role) {
-    case Qt::DisplayRole: return QString::fromStdString(grid_.Text(row, col));
+    case Qt::DisplayRole:
+        return QString::fromStdString(grid_.Text(row, col));
     case Qt::TextAlignmentRole: {
         const bool wraps = row < grid_.FixedRows() && grid_.WordWrap();
         return Cell_Alignment(style.Align) | (wraps ? Qt::TextWordWrap : 0);
     }
-    case Qt::FontRole: return Cell_Font(view_->font(), style);
+    case Qt::FontRole:
+        return Cell_Font(view_->font(), style);
     case Qt::ForegroundRole:
         if (style.Fore != Colours::Standard)
             return QBrush(Shown_Colour(style.Fore, view_->palette()));
@@ -94,7 +100,8 @@ QVariant GridModel::Cell(int row, int col, int role) const {
         if (const std::string& remark = grid_.Remark(row, col); !remark.empty())
             return QString::fromStdString(remark);
         return {};
-    default: return {};
+    default:
+        return {};
     }
 }
 
@@ -113,6 +120,10 @@ void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& pal
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
     QStyledItemDelegate::paint(painter, option, index);
+    // The view's own grid lines can't be seen under many a dark theme.
+    painter->setPen(Grid_Line_Colour(option.palette));
+    painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     if (index.data(GridModel::RemarkRole).isValid())
         Paint_Remark_Mark(*painter, option.rect, option.palette);
 }

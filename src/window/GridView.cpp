@@ -29,7 +29,9 @@ constexpr int cellMargin = 12;
 
 } // namespace
 
-void Bind(GridView* widget, FlexGrid& control) { widget->Show_Grid(control); }
+void Bind(GridView* widget, FlexGrid& control) {
+    widget->Show_Grid(control);
+}
 
 GridView::GridView(QWidget* parent) : QTableView(parent), frozen_(new QTableView(this)) {
     Prepare(*this);
@@ -60,9 +62,10 @@ void GridView::Prepare(QTableView& pane) const {
     pane.setHorizontalHeader(new HeadView(&pane));
     pane.setEditTriggers(NoEditTriggers);
     pane.setSelectionMode(NoSelection); // the grid itself selects
-    pane.setAutoScroll(false); // only Reveal_Current and the user scroll
+    pane.setAutoScroll(false);          // only Reveal_Current and the user scroll
     pane.setCornerButtonEnabled(false);
     pane.setWordWrap(false);
+    pane.setShowGrid(false); // the delegate draws the lines
     pane.setItemDelegate(new GridDelegate(&pane));
     pane.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     pane.verticalHeader()->setMinimumSectionSize(1);
@@ -250,15 +253,24 @@ bool GridView::Move_Key(QKeyEvent* event) {
     const int last = grid_->Rows() - 1, end = grid_->Cols() - 1;
     const int page = std::max(1, viewport()->height() / std::max(1, rowHeight(0)) - 1);
     switch (event->key()) {
-    case Qt::Key_Up: return Go_To(far ? 0 : row - 1, col, extend);
-    case Qt::Key_Down: return Go_To(far ? last : row + 1, col, extend);
-    case Qt::Key_Left: return Go_To(row, far ? 0 : col - 1, extend);
-    case Qt::Key_Right: return Go_To(row, far ? end : col + 1, extend);
-    case Qt::Key_PageUp: return Go_To(row - page, col, extend);
-    case Qt::Key_PageDown: return Go_To(row + page, col, extend);
-    case Qt::Key_Home: return Go_To(far ? 0 : row, 0, extend);
-    case Qt::Key_End: return Go_To(far ? last : row, end, extend);
-    default: return false;
+    case Qt::Key_Up:
+        return Go_To(far ? 0 : row - 1, col, extend);
+    case Qt::Key_Down:
+        return Go_To(far ? last : row + 1, col, extend);
+    case Qt::Key_Left:
+        return Go_To(row, far ? 0 : col - 1, extend);
+    case Qt::Key_Right:
+        return Go_To(row, far ? end : col + 1, extend);
+    case Qt::Key_PageUp:
+        return Go_To(row - page, col, extend);
+    case Qt::Key_PageDown:
+        return Go_To(row + page, col, extend);
+    case Qt::Key_Home:
+        return Go_To(far ? 0 : row, 0, extend);
+    case Qt::Key_End:
+        return Go_To(far ? last : row, end, extend);
+    default:
+        return false;
     }
 }
 
@@ -329,9 +341,15 @@ void GridView::focusInEvent(QFocusEvent* event) {
         Reveal_Current();
 }
 
-void GridView::mousePressEvent(QMouseEvent* event) { Press(*this, event); }
-void GridView::mouseMoveEvent(QMouseEvent* event) { Drag(*this, event); }
-void GridView::mouseReleaseEvent(QMouseEvent* event) { Release(event); }
+void GridView::mousePressEvent(QMouseEvent* event) {
+    Press(*this, event);
+}
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+    Drag(*this, event);
+}
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+    Release(event);
+}
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton)
@@ -391,7 +409,7 @@ QRect GridView::Cell_Rect(int row, int col) const {
     const QTableView& self = *this;
     const QTableView& pane = col < grid_->FixedCols() ? *frozen_ : self;
     const QRect cell = pane.visualRect(Index(row, col));
-    return {pane.viewport()->mapTo(this, cell.topLeft()), cell.size()};
+    return {pane.viewport()->mapTo(this, cell.topLeft()), cell.size() - QSize(1, 1)}; // the lines
 }
 
 bool GridView::eventFilter(QObject* watched, QEvent* event) {
@@ -407,12 +425,17 @@ bool GridView::Frozen_Event(QEvent* event) {
         setFocus(Qt::MouseFocusReason);
         Press(*frozen_, static_cast<QMouseEvent*>(event));
         return true;
-    case QEvent::MouseMove: Drag(*frozen_, static_cast<QMouseEvent*>(event)); return true;
-    case QEvent::MouseButtonRelease: Release(static_cast<QMouseEvent*>(event)); return true;
+    case QEvent::MouseMove:
+        Drag(*frozen_, static_cast<QMouseEvent*>(event));
+        return true;
+    case QEvent::MouseButtonRelease:
+        Release(static_cast<QMouseEvent*>(event));
+        return true;
     case QEvent::MouseButtonDblClick:
         mouseDoubleClickEvent(static_cast<QMouseEvent*>(event));
         return true;
-    default: return false;
+    default:
+        return false;
     }
 }
 

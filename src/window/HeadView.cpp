@@ -20,9 +20,10 @@ QSize HeadView::sectionSizeFromContents(int section) const {
     const QString text = model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
     const int flags = model()->headerData(section, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
     const int width = sectionSize(section) - 2 * headMargin;
-    const QSize size = (flags & Qt::TextWordWrap) != 0
-                           ? fontMetrics().boundingRect(0, 0, width, QWIDGETSIZE_MAX, flags, text).size()
-                           : fontMetrics().size(0, text);
+    const QSize size =
+        (flags & Qt::TextWordWrap) != 0
+            ? fontMetrics().boundingRect(0, 0, width, QWIDGETSIZE_MAX, flags, text).size()
+            : fontMetrics().size(0, text);
     return {size.width() + 2 * headMargin, size.height() + 2 * headMargin};
 }
 

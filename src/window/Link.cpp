@@ -14,7 +14,9 @@ Link::Link(QWidget* widget, View& view, std::function<void()> pull)
     pull_();
 }
 
-Link::~Link() { view_.OnChanged = nullptr; }
+Link::~Link() {
+    view_.OnChanged = nullptr;
+}
 
 void Link::Also(std::function<void()> pull) {
     pull();
@@ -28,7 +30,8 @@ void Link::Mark() {
     if (due_)
         return;
     due_ = true;
-    QMetaObject::invokeMethod(this, [this] { Flush(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { Flush(); }, Qt::QueuedConnection);
 }
 
 void Link::Flush() {
@@ -63,7 +66,9 @@ FocusLink::FocusLink(QWidget* widget, FocusPoint& point) : QObject(widget), poin
     widget->installEventFilter(this);
 }
 
-FocusLink::~FocusLink() { point_.Take = nullptr; }
+FocusLink::~FocusLink() {
+    point_.Take = nullptr;
+}
 
 bool FocusLink::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::FocusIn && event->type() != QEvent::FocusOut)

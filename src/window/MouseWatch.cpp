@@ -27,6 +27,8 @@ class MouseWatch final : public QObject {
 
 } // namespace
 
-void Watch_Mouse(QWidget* widget, Handler handler) { new MouseWatch(widget, std::move(handler)); }
+void Watch_Mouse(QWidget* widget, Handler handler) {
+    new MouseWatch(widget, std::move(handler));
+}
 
 } // namespace Tensarix

@@ -25,7 +25,9 @@ void PictureView::Load() {
     update();
 }
 
-QSize PictureView::sizeHint() const { return {330, 300}; }
+QSize PictureView::sizeHint() const {
+    return {330, 300};
+}
 
 void PictureView::paintEvent(QPaintEvent*) {
     if (!renderer_.isValid())

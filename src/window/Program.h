@@ -42,7 +42,7 @@ class Program final : public Dialogs {
     SingleInstance instance_;
     Machine machine_;
     MainFrm form_;
-    CalcVariables calculator_; // outlives its form
+    CalcVariables calculator_;  // outlives its form
     SavedLengths savedLengths_; // of the weight calculators, until the program ends
     SavedRows savedRows_;
     std::unique_ptr<MainForm> window_;

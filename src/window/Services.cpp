@@ -16,8 +16,8 @@ namespace Tensarix {
 
 namespace {
 
-constexpr qint64 turnEveryMs = 8;   // a yield turns the event loop at most this often
-constexpr int raiseTries = 60;      // the first instance may still be starting
+constexpr qint64 turnEveryMs = 8; // a yield turns the event loop at most this often
+constexpr int raiseTries = 60;    // the first instance may still be starting
 constexpr int raiseWaitMs = 50;
 constexpr char raiseWish[] = "raise";
 
@@ -31,9 +31,12 @@ QString Setting_Path(std::string_view section, std::string_view key) {
 
 QMessageBox::Icon Box_Icon(MessageIcon icon) {
     switch (icon) {
-    case MessageIcon::Stop: return QMessageBox::Critical;
-    case MessageIcon::Exclamation: return QMessageBox::Warning;
-    case MessageIcon::Information: break;
+    case MessageIcon::Stop:
+        return QMessageBox::Critical;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Information:
+        break;
     }
     return QMessageBox::Information;
 }
@@ -69,13 +72,17 @@ void IniSettings::Write(std::string_view section, std::string_view key, std::str
     file_.setValue(Setting_Path(section, key), To_Qt(text));
 }
 
-void DesktopClipboard::Clear() { QGuiApplication::clipboard()->clear(); }
+void DesktopClipboard::Clear() {
+    QGuiApplication::clipboard()->clear();
+}
 
 void DesktopClipboard::Set_Text(std::string_view text) {
     QGuiApplication::clipboard()->setText(To_Qt(text));
 }
 
-std::string DesktopClipboard::Text() { return QGuiApplication::clipboard()->text().toStdString(); }
+std::string DesktopClipboard::Text() {
+    return QGuiApplication::clipboard()->text().toStdString();
+}
 
 void MessageBoxes::Show(std::string_view text, std::string_view title, MessageIcon icon) {
     Ask(text, title, icon, QMessageBox::Ok);
@@ -124,7 +131,9 @@ SingleInstance::SingleInstance()
     server_.listen(socket_);
 }
 
-bool SingleInstance::Other_Runs() { return !first_; }
+bool SingleInstance::Other_Runs() {
+    return !first_;
+}
 
 void SingleInstance::Raise_Other() {
     for (int i = 0; i < raiseTries; ++i) {

@@ -53,6 +53,13 @@ QColor Shown_Colour(Colour value, const QPalette& palette) {
                            255 - colour.lightness() / 2);
 }
 
+QColor Grid_Line_Colour(const QPalette& palette) {
+    const QColor base = palette.color(QPalette::Base), text = palette.color(QPalette::Text);
+    const auto blend = [](int below, int above) { return (4 * below + above) / 5; };
+    return {blend(base.red(), text.red()), blend(base.green(), text.green()),
+            blend(base.blue(), text.blue())};
+}
+
 QByteArray Drawing(const QString& name, const QPalette& palette) {
     QFile file(QStringLiteral(":/pictures/") + name + QStringLiteral(".svg"));
     if (!file.open(QIODevice::ReadOnly))

@@ -16,6 +16,9 @@ bool Is_Dark(const QPalette& palette);
 // Not for Colours::Standard.
 QColor Shown_Colour(Colour value, const QPalette& palette);
 
+// The lines between the cells of a grid, seen on any base.
+QColor Grid_Line_Colour(const QPalette& palette);
+
 // The drawing of that name with the key colours of its file replaced by the palette's; empty if
 // the program holds none.
 QByteArray Drawing(const QString& name, const QPalette& palette);

@@ -341,7 +341,7 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"2 key_PtoR 30 = x-y", "1."},
         {"3 key_RtoP 4 =", "5."},
         {"3 key_RtoP 4 = x-y", "53.130102354156"},
-        {"3 key_PtoR 900 sqrt = + 1 =", "31."}, // the angle still waits; intended
+        {"3 key_PtoR 900 sqrt = + 1 =", "31."},          // the angle still waits; intended
         {"3 pm key_RtoP 4 pm = x-y", "53.130102354156"}, // no quadrant
         {"3 key_RtoP 4 = AC 6 key_RtoP 8 =", "10."},
         {"3 key_RtoP 4 = 6 key_RtoP 8 =", "10."},

@@ -71,17 +71,18 @@ TEST(NumberText, GeneralText) {
 }
 
 TEST(NumberText, NumericTestAndLeadingValue) {
-    for (const char* text : {"5", " 5.5 ", ".5", "5.", "-.5", "+3", "1e5", "1.E+03", "13.", "1E-400"})
+    for (const char* text :
+         {"5", " 5.5 ", ".5", "5.", "-.5", "+3", "1e5", "1.E+03", "13.", "1E-400"})
         EXPECT_TRUE(Is_Numeric(text)) << text;
-    for (const char* text : {"", " ", ".", "-", "5x", "1 2", "1e", "e5", "1,000", "1E999", "*ERROR*",
-                             "0x10", "inf", "nan"})
+    for (const char* text : {"", " ", ".", "-", "5x", "1 2", "1e", "e5", "1,000", "1E999",
+                             "*ERROR*", "0x10", "inf", "nan"})
         EXPECT_FALSE(Is_Numeric(text)) << text;
     const struct {
         const char* Text;
         double Value;
-    } cases[] = {{"5'-6\"", 5},  {"  50 Ksi", 50}, {"", 0},       {"abc", 0},    {"1 2 3", 123},
-                 {"1.2.3", 1.2}, {"-4e2x", -400},  {"4e", 4},     {".5.", 0.5},  {"- 7", -7},
-                 {"+8", 8},      {"1E-999", 0},    {"0E999", 0},  {"12,5", 12}};
+    } cases[] = {{"5'-6\"", 5},  {"  50 Ksi", 50}, {"", 0},      {"abc", 0},   {"1 2 3", 123},
+                 {"1.2.3", 1.2}, {"-4e2x", -400},  {"4e", 4},    {".5.", 0.5}, {"- 7", -7},
+                 {"+8", 8},      {"1E-999", 0},    {"0E999", 0}, {"12,5", 12}};
     for (const auto& c : cases)
         EXPECT_EQ(Leading_Value(c.Text), c.Value) << c.Text;
     EXPECT_THROW(Leading_Value("1E999"), Failure);

@@ -15,9 +15,9 @@ namespace {
 
 // From the ground up; rooms of one floor don't know each other.
 const std::map<std::string, int> floors{
-    {"common", 0},   {"controls", 1},    {"platform", 2}, {"measures", 3},   {"speech", 4},
-    {"desk", 5},     {"sections", 6},    {"beam", 7},     {"connections", 7}, {"weights", 7},
-    {"calculator", 7}, {"shell", 8},     {"window", 9},
+    {"common", 0},     {"controls", 1}, {"platform", 2}, {"measures", 3},    {"speech", 4},
+    {"desk", 5},       {"sections", 6}, {"beam", 7},     {"connections", 7}, {"weights", 7},
+    {"calculator", 7}, {"shell", 8},    {"window", 9},
 };
 
 struct Include {

@@ -193,8 +193,9 @@ TEST_F(BrowseTest, TheFamilyAndTheSelectionAreSpoken) {
     page.ShapeFlex.Move_To(Row_Of("Ix"), 1);
     EXPECT_EQ(machine.Speech.Spoken,
               (std::vector<std::string>{
-                  "W = 56.9 POUNDS PER FOOT :: Nominal Weight", "I X = 41 :: TIMES 10 TO THE POWER 6 MM TO THE POWER 4 :: Moment of "
-                            "Inertia about the x-axis"}));
+                  "W = 56.9 POUNDS PER FOOT :: Nominal Weight",
+                  "I X = 41 :: TIMES 10 TO THE POWER 6 MM TO THE POWER 4 :: Moment of "
+                  "Inertia about the x-axis"}));
 }
 
 // The store goes away while the program runs: the screen keeps what it shows, and tells that it is

@@ -98,8 +98,7 @@ TEST(PropertyTable, LostDigitsAreToldWithTheStoredNumber) {
     EXPECT_EQ(Lost_Digits_Remark(w, ix, us, "31100.00  "), "");
     const Property& cw = Named(Layouts::W, "Cw");
     EXPECT_EQ(Lost_Digits_Remark(w, cw, si, "144x10^12  "), "");
-    EXPECT_EQ(Lost_Digits_Remark(w, cw, si, "0.00  "),
-              "Stored value: 144,000,000,000,000 mm^6");
+    EXPECT_EQ(Lost_Digits_Remark(w, cw, si, "0.00  "), "Stored value: 144,000,000,000,000 mm^6");
 }
 
 // Every SI power on every section either reads back as the stored number or carries a remark that
