@@ -8,7 +8,7 @@ for which no figures are published.
 
 import math
 
-from canvas import BODY, Canvas
+from canvas import Canvas
 from outline import Outline, centroid, half_area, weak_axis
 
 SLOPE = 1 / 6   # flanges of S, ST, C and MC: 2 on 12
@@ -342,14 +342,7 @@ def double_lengths(canvas, frame, heels, t):
 
 # --- the list
 
-def faint_outline():
-    canvas, frame = Canvas("Section"), Frame(100, 62, 130, 176)
-    canvas.body(i_outline(frame, 12, 18, 12), fill="none", stroke=BODY)
-    return canvas
-
-
 PICTURES = {
-    "BaseImage": faint_outline,
     "WShapeImage": lambda: wide_flange("W-Shape", 150, 13, 19, 13),
     "MShapeImage": lambda: wide_flange("M-Shape", 112, 9, 12, 12, 180),
     "HPShapeImage": lambda: wide_flange("HP-Shape", 170, 16, 16, 13, 168),
