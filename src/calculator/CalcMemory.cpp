@@ -7,6 +7,7 @@
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "platform/Settings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,7 +17,8 @@ namespace Tensarix {
 
 namespace {
 
-constexpr std::string_view memorySection = "Setting", memoryKey = "MemoryIn";
+constexpr std::string_view memorySection = Setting::MemoryIn.Section;
+constexpr std::string_view memoryKey = Setting::MemoryIn.Name;
 constexpr std::size_t maxDescription = 65535; // bytes, what two bytes of length can count
 
 bool Is_Continuation(char c) {
