@@ -1,6 +1,7 @@
 // What start, change of mode and exit do to the beam page.
 #include "StandIns.h"
 #include "shell/MainFrm.h"
+#include "shell/NoDialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +11,6 @@ using namespace Tensarix;
 using namespace Tensarix::Tests;
 
 namespace {
-
-struct NoDialogs final : Dialogs {
-    void Show_CalcMainFrm() override {}
-    void Show_WtCalcsFrm() override {}
-    void Show_WtCalcsFrmA() override {}
-    void Show_AboutFrm() override {}
-};
 
 class BeamModeTest : public testing::Test {
   protected:

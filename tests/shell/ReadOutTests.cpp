@@ -2,6 +2,7 @@
 #include "StandIns.h"
 #include "shell/AboutFrm.h"
 #include "shell/MainFrm.h"
+#include "shell/NoDialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -9,13 +10,6 @@ using namespace Tensarix;
 using namespace Tensarix::Tests;
 
 namespace {
-
-struct NoDialogs final : Dialogs {
-    void Show_CalcMainFrm() override {}
-    void Show_WtCalcsFrm() override {}
-    void Show_WtCalcsFrmA() override {}
-    void Show_AboutFrm() override {}
-};
 
 struct SpokenEvent {
     const char* Name;

@@ -1,6 +1,7 @@
 // Find Sections and View All in the main window: start-up, settings at exit, the count.
 #include "StandIns.h"
 #include "shell/MainFrm.h"
+#include "shell/NoDialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +11,6 @@ using namespace Tensarix;
 using namespace Tensarix::Tests;
 
 namespace {
-
-struct NoDialogs final : Dialogs {
-    void Show_CalcMainFrm() override {}
-    void Show_WtCalcsFrm() override {}
-    void Show_WtCalcsFrmA() override {}
-    void Show_AboutFrm() override {}
-};
 
 class SearchSettingsTest : public testing::Test {
   protected:
