@@ -42,7 +42,10 @@ std::string FindPage::Count_Text() const {
     if (fShapeType.ListIndex() < 0)
         return {};
     const std::string all = Sections_In_Words(count_.OfFamily);
-    return searched_ ? std::to_string(count_.Found) + " found of " + all : all;
+    if (!searched_)
+        return all;
+    const std::string found = std::to_string(count_.Found) + " found of " + all;
+    return count_.Lightest.empty() ? found : found + ", lightest " + count_.Lightest;
 }
 
 std::string FindPage::Family_Key() const {

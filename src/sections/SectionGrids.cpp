@@ -5,6 +5,8 @@
 #include "common/NumberText.h"
 #include "sections/FindSearch.h"
 
+#include <limits>
+
 namespace Tensarix {
 
 namespace {
@@ -231,14 +233,23 @@ FindCount FindInitializer::operator()(FlexGrid& grid, std::string_view familyCod
         return count;
     const std::string column = FindColumnName(condition.Property, view.Units);
     double field = 0;
+    double lightest = std::numeric_limits<double>::infinity();
     Attempt([&] {
         for (record.MoveFirst(); !record.AtEnd(); record.MoveNext()) {
             Attempt([&] { field = Find_Field(record, Columns, column, view.Units); });
             bool matches = false;
             Attempt(
                 [&] { matches = CriterionMatches(condition.Criterion, condition.Value, field); });
-            if (matches)
-                Write_Table_Row(grid, ++count.Found, record, Columns, TableVariant::Find, view);
+            if (!matches)
+                continue;
+            Write_Table_Row(grid, ++count.Found, record, Columns, TableVariant::Find, view);
+            Attempt([&] {
+                if (const double weight = record.Number("W"); weight < lightest) {
+                    count.Lightest =
+                        Trim(grid.Text(count.Found, view.Units == Profile::SI ? 1 : 0));
+                    lightest = weight;
+                }
+            });
         }
     });
     grid.Set_Rows(Table_Rows(count.Found));

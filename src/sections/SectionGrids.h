@@ -52,6 +52,8 @@ struct FindCondition {
 
 struct FindCount {
     int Found = 0, OfFamily = 0;
+    std::string Lightest =
+        {}; // of those found, under its name in the active profile; a tie: the first
 };
 
 // Without searching, heads alone and blank rows; otherwise the sections that meet the condition,

@@ -144,12 +144,12 @@ void WtCalcsFrm::Compute_All() {
 
 void WtCalcsFrm::Compute_Row_Imperial(FlexGrid& grid) {
     const int row = grid.Row();
-    const std::string text = grid.Text(row, grid.Col());
-    if (Trim(text).empty()) {
+    const std::string text = Trim(grid.Text(row, grid.Col()));
+    if (text.empty()) {
         grid.Set_Text(row, weightCol, {});
         return;
     }
-    const std::optional<double> feet = Feet_Of(text);
+    const std::optional<double> feet = Feet_Of(text); // which takes 20'-1/2" only without padding
     if (feet)
         Write_Weight(grid, row, *feet, WeightPerFoot);
     if (!feet || !footIsCurrent_)

@@ -121,7 +121,7 @@ TEST_F(FindTest, GoSearchesAndEmptyBoxesAreRefused) {
     EXPECT_EQ(First(), "");
     page.fValue.Set_Text("500abc");
     page.FindButton.Click();
-    EXPECT_EQ(page.Count_Text(), "109 found of 274 sections");
+    EXPECT_EQ(page.Count_Text(), "109 found of 274 sections, lightest W36x135");
     EXPECT_EQ(page.fShapeFlex.Rows(), 110);
     page.fShapeFlex.Set_TopRow(50);
     page.FindButton.Click();
@@ -136,7 +136,7 @@ TEST_F(FindTest, EnterSearchesAtOnceAndKeepsTheScroll) {
     EXPECT_EQ(First(), "");
     page.fValue.OnKeyPress(Keys::Enter); // the empty box is a search for 0
     EXPECT_TRUE(machine.Boxes.Shown.empty());
-    EXPECT_EQ(page.Count_Text(), "274 found of 274 sections");
+    EXPECT_EQ(page.Count_Text(), "274 found of 274 sections, lightest W6x8.5");
     page.fShapeFlex.Set_TopRow(9);
     page.fValue.OnKeyPress(Keys::Enter);
     EXPECT_EQ(page.fShapeFlex.TopRow(), 9);
@@ -186,7 +186,7 @@ TEST_F(FindTest, TheNoteFollowsPropertyAndCriterion) {
     EXPECT_EQ(page.fValue.Count(), 0);
     page.fValue.Set_Text("0");
     page.FindButton.Click();
-    EXPECT_EQ(page.Count_Text(), "51 found of 51 sections");
+    EXPECT_EQ(page.Count_Text(), "51 found of 51 sections, lightest L2x2x1/8");
 }
 
 TEST_F(FindTest, SpokenAndShown) {

@@ -81,7 +81,7 @@ TEST_F(SearchSettingsTest, TheCountIsThatOfThePageInView) {
     form.Find.fCriterion.Select(2);
     form.Find.fValue.Set_Text("300");
     form.Find.FindButton.Click();
-    EXPECT_EQ(bar.Count(), "47 found of 274 sections");
+    EXPECT_EQ(bar.Count(), "47 found of 274 sections, lightest W36x302");
     form.OptButton[0].Select();
     EXPECT_EQ(bar.Count(), "");
     form.Find.RunFind();

@@ -44,7 +44,7 @@ TEST_F(FindWindowTest, ASearchByKeysAlone) {
     QTest::keyClicks(&value, "1a5-00"); // letters and signs are refused
     EXPECT_EQ(value.currentText(), "1500");
     QTest::keyClick(&value, Qt::Key_Return);
-    EXPECT_EQ(Text("CountPanel"), "18 found of 274 sections");
+    EXPECT_EQ(Text("CountPanel"), "18 found of 274 sections, lightest W44x335");
 
     // A number that stands in the list too: Enter must not choose it, which would end the result.
     value.lineEdit()->selectAll();
@@ -52,7 +52,7 @@ TEST_F(FindWindowTest, ASearchByKeysAlone) {
     QTest::keyClick(&value, Qt::Key_Enter);
     EXPECT_EQ(value.currentText(), "101");
     const QString found = Text("CountPanel");
-    EXPECT_NE(found, "18 found of 274 sections");
+    EXPECT_NE(found, "18 found of 274 sections, lightest W44x335");
     QTest::mouseClick(&Find<QRadioButton>("fDimOption2"), Qt::LeftButton, {}, {8, 8});
     EXPECT_TRUE(Page().fShapeFlex.Text(1, 4).ends_with("\"  ")); // searched again, in inches
     EXPECT_EQ(Text("CountPanel"), found);
@@ -70,7 +70,7 @@ TEST_F(FindWindowTest, AValueIsChosenFromTheListAndSearchedByTheButton) {
     QTest::keyClick(&value, Qt::Key_Tab);
     ASSERT_TRUE(go.hasFocus());
     QTest::keyClick(&go, Qt::Key_Space);
-    EXPECT_EQ(Text("CountPanel"), "1 found of 274 sections");
+    EXPECT_EQ(Text("CountPanel"), "1 found of 274 sections, lightest W6x8.5");
     QTest::mouseClick(&Find<QRadioButton>("fProfileOption2"), Qt::LeftButton, {}, {8, 8});
     Settle();
     EXPECT_EQ(value.currentText(), "8.5"); // stays, over the values of the other profile
