@@ -1,5 +1,6 @@
 #include "window/Services.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QCoreApplication>
@@ -10,6 +11,7 @@
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QThread>
+#include <QTimer>
 #include <QWidget>
 
 namespace Tensarix {
@@ -41,12 +43,23 @@ QMessageBox::Icon Box_Icon(MessageIcon icon) {
     return QMessageBox::Information;
 }
 
+// The box of a check that a mouse press set off has taken the release: the button would stay down.
+void Let_Go_Of_Buttons() {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    for (QWidget* widget : QApplication::allWidgets())
+        if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            button->setDown(false);
+}
+
 QMessageBox::StandardButton Ask(std::string_view text, std::string_view title, MessageIcon icon,
                                 QMessageBox::StandardButtons buttons) {
     QMessageBox box(Box_Icon(icon), To_Qt(title), To_Qt(text), buttons,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
+    QTimer::singleShot(0, qApp, Let_Go_Of_Buttons); // the press is handled before
+    return answer;
 }
 
 // A folder of the user that only the user can write, for the lock and the socket.

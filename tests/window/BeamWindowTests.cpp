@@ -121,10 +121,20 @@ TEST_F(BeamWindowTest, AnInvalidSpanIsToldOnce) {
     EXPECT_EQ(messages, 3);
     Back_To_The_Window();
 
+    // The press that raises the message is lost, and leaves no button down.
+    Type_Span("-");
+    QTest::mousePress(&Find<QPushButton>("OptButton0"), Qt::LeftButton);
+    QTest::mouseRelease(program->Window().statusBar(), Qt::LeftButton);
+    EXPECT_EQ(messages, 4);
+    Back_To_The_Window();
+    Settle();
+    EXPECT_FALSE(Find<QPushButton>("OptButton0").isDown());
+    EXPECT_TRUE(program->Form().OptButton[3].Value());
+
     // No question at the end.
     Type_Span("-");
     Stop();
-    EXPECT_EQ(messages, 3);
+    EXPECT_EQ(messages, 4);
 }
 
 TEST_F(BeamWindowTest, ThePopupByKeysCopiesThroughTheRealClipboard) {
