@@ -8,12 +8,23 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QProxyStyle>
 
 namespace Tensarix {
 
 namespace {
 
 constexpr int typedSearchMs = 1500; // a designation is typed slower than a word
+
+// The desktop's style, but a drop-down list hangs below its box, as long as it says and with a
+// scroll bar: one of 274 sections would else fill the screen.
+class ListsBelow final : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 } // namespace
 
@@ -22,6 +33,7 @@ void Program::Prepare_Application() {
     QApplication::setApplicationName(title);
     QApplication::setOrganizationName(title);
     QApplication::setDesktopFileName(QStringLiteral("tensarix"));
+    QApplication::setStyle(new ListsBelow);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tensarix.svg")));
     QApplication::setKeyboardInputInterval(typedSearchMs);
     QLocale::setDefault(QLocale::c());
