@@ -31,6 +31,8 @@ namespace Tensarix {
 
 namespace {
 
+constexpr int listItemsShown = 20; // of a list that hangs open
+
 QString To_Qt(const std::string& text) {
     return QString::fromStdString(text);
 }
@@ -215,6 +217,7 @@ class TextKeys final : public QObject {
 Link* Bind(QComboBox* widget, ComboBox& control) {
     auto* model = new ItemModel(control, widget);
     widget->setModel(model);
+    widget->setMaxVisibleItems(listItemsShown);
     if (widget->isEditable()) {
         widget->setCompleter(nullptr);
         // By itself the box would choose the item whose text was typed, when the typing ends.

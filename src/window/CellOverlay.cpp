@@ -20,7 +20,6 @@ namespace Tensarix {
 namespace {
 
 constexpr double boxTopTwips = 55; // clear of the grid line above
-constexpr int listItemsShown = 20;
 
 // Keeps one editor where its cell is.
 class CellOverlay final : public QObject {
@@ -141,7 +140,6 @@ void Lay_Over(GridView* view, const FlexGrid& grid, ComboBox& editor, const QStr
               const QString& accessibleName) {
     auto* widget = new QComboBox(view->viewport());
     Name(widget, name, accessibleName);
-    widget->setMaxVisibleItems(listItemsShown);
     Overlay(view, grid, widget, editor);
     // Scrolling closes the list; the keyboard goes to the grid first, which keeps what was picked.
     const auto leave = [view, widget] {
