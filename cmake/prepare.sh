@@ -3,7 +3,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl-dev \
 libsqlite3-dev libgtest-dev libbenchmark-dev fonts-dejavu-core"
 SPEECH_PACKAGES="speech-dispatcher speech-dispatcher-espeak-ng"
-TEST_PACKAGES="xvfb xauth"
+TEST_PACKAGES="xvfb xauth dpkg-dev file desktop-file-utils appstream xdotool xclip"
 
 say() { printf '== %s\n' "$*"; }
 
