@@ -41,7 +41,7 @@ if [ "$(id -u)" -eq 0 ]; then
 fi
 
 mkfifo "$work/display"
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
+Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/xvfb.log" &
 display_server=$!
 DISPLAY=:$(head -1 "$work/display")
 
