@@ -54,6 +54,12 @@ double From_Circle(const CalcVariables& vars, double radians) {
     return FromDegrees(vars, Degrees_Per_Radian() * radians);
 }
 
+std::string Turns_Remark(const CalcVariables& vars, double angle) {
+    if ((!vars.RadianMode && !vars.GradianMode) || std::abs(angle) < 360)
+        return {};
+    return "Taken at " + Number_Text(Without_Turns(angle)) + ": turns of 360 go off in any unit";
+}
+
 double Sine(const CalcVariables& vars, double angle) {
     if (Is_One_Of(vars, angle, 180, 360, zeroPlaces))
         return 0;

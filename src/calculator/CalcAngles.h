@@ -12,6 +12,9 @@ namespace Tensarix {
 double FromDegrees(const CalcVariables& vars, double degrees);
 double ToDegrees(const CalcVariables& vars, double angle);
 
+// Where that makes it another angle, what it is taken at; else empty.
+std::string Turns_Remark(const CalcVariables& vars, double angle);
+
 // An angle of the calculator in radians for the library's functions, and back.
 double To_Circle(const CalcVariables& vars, double angle);
 double From_Circle(const CalcVariables& vars, double radians);

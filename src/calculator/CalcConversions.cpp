@@ -62,8 +62,12 @@ bool Conversion_Pending(const CalcVariables& vars) {
 void Complete_Conversions(CalcMainFrm& form) {
     if (form.Vars.PolarActive)
         Complete_Polar(form.Vars);
-    if (form.Vars.RectActive)
+    if (form.Vars.RectActive) {
+        const bool quadrantLost = !form.Vars.Running && IsNegative(form.Vars.RectX.value_or(0));
         Complete_Rectangular(form.Vars);
+        if (quadrantLost)
+            form.Panel.Remark = "The angle (x-y) is half a turn off: x is negative";
+    }
 }
 
 void Clear_Conversions(CalcVariables& vars) {

@@ -203,6 +203,7 @@ void Key_All_Clear(CalcMainFrm& form) {
                       &V::ExponentNegative, &V::ResultPending, &V::FractionEntry})
         vars.*flag = false;
     vars.Operands.clear();
+    vars.Chain.Start({});
     vars.OpHistory.clear();
     vars.SexaCount.reset();
     Clear_Conversions(vars);

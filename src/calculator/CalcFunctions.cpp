@@ -55,6 +55,13 @@ void Angle_Key(CalcMainFrm& form) {
     Show_Result(form, Finite(function(form.Vars, Shown_Value(form.Vars))));
 }
 
+template <double (*function)(const CalcVariables&, double)>
+void Turned_Key(CalcMainFrm& form) {
+    const std::string remark = Turns_Remark(form.Vars, Shown_Value(form.Vars));
+    Angle_Key<function>(form);
+    form.Panel.Remark = remark;
+}
+
 double Squared(double x) {
     return pow(x, 2);
 }
@@ -128,8 +135,11 @@ void Key_Asex(CalcMainFrm& form) {
     const std::string text = Angular_Text(x);
     if (!vars.EntryText.empty())
         Entry_To_Operand(vars);
-    if (Characters(text) <= displayCharacters)
-        ShowValue(form, x, text);
+    if (Characters(text) > displayCharacters)
+        return;
+    ShowValue(form, x, text);
+    if (IsNegative(x) && !text.starts_with('-'))
+        form.Panel.Remark = "The angle is negative";
 }
 
 // Days since 1899-12-30, the day part with the time of the day.
@@ -152,6 +162,7 @@ void Key_Swap(CalcMainFrm& form) {
     const double shown = Shown_Value(vars);
     if (!Conversion_Pending(vars))
         vars.Running = shown;
+    vars.Chain.Lost = true;
     Show_Result(form, vars.SecondResult.value_or(0));
     vars.SecondResult = shown;
 }
@@ -170,9 +181,9 @@ constexpr FunctionKey functions[] = {
     {"alog", finish, Plain_Key<Power_Of_Ten>, {}},
     {"ln", finish, Plain_Key<Natural_Logarithm>, outOfRange},
     {"aln", finish, Plain_Key<Power_Of_E>, undefined},
-    {"sin", finish, Angle_Key<Sine>, {}},
-    {"cos", finish, Angle_Key<Cosine>, {}},
-    {"tan", finish, Angle_Key<Tangent>, outOfRange},
+    {"sin", finish, Turned_Key<Sine>, {}},
+    {"cos", finish, Turned_Key<Cosine>, {}},
+    {"tan", finish, Turned_Key<Tangent>, outOfRange},
     {"iSin", finish, Angle_Key<Inverse_Sine>, undefined},
     {"iCos", finish, Angle_Key<Inverse_Cosine>, undefined},
     {"iTan", finish, Angle_Key<Inverse_Tangent>, {}},

@@ -132,6 +132,7 @@ void Take_Key(CalcMainFrm& form, std::string_view token) {
 void KeyPress(CalcMainFrm& form, std::string_view token) {
     if (form.Vars.ClockRunning)
         return key_Time(form);
+    form.Panel.Remark.clear();
     if (Attempt([&] { Take_Key(form, token); }))
         return;
     form.Vars.ErrorText.clear();

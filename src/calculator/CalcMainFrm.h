@@ -27,6 +27,7 @@ struct CalcPanel {
     std::string Mem_Indicator;      // "MEM" or empty
     std::string CCalc_Indicator;    // "K" or empty
     std::string DateBox;            // the date while the clock runs
+    std::string Remark;             // where the number shown is not what one would expect
     int PrecIndex = -1;             // the row of PrecBox, 0 to 14, or none
     bool PrecEnabled = false;       // PrecBox and PrecLab
 };

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace Tensarix {
 
@@ -188,6 +189,14 @@ Total In_Range(CalcVariables& vars, double total) {
     return exponent < -maxExponent ? 0 : total;
 }
 
+void Remark_On_Priority(CalcMainFrm& form) {
+    const CalcVariables& vars = form.Vars;
+    if (vars.ErrorLatched || !vars.ConstOperator.empty())
+        return;
+    if (std::string remark = Priority_Remark(vars.Chain, *vars.Running); !remark.empty())
+        form.Panel.Remark = std::move(remark);
+}
+
 void Evaluation_Step(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
     const bool pending =
@@ -198,8 +207,10 @@ void Evaluation_Step(CalcMainFrm& form) {
     if (!vars.Running)
         ShowError(form);
     // A total is shown only while the operator repeats, and by "="; this is intended.
-    else if (vars.KeyToken == "=" || vars.Op1 == vars.KeyToken)
+    else if (vars.KeyToken == "=" || vars.Op1 == vars.KeyToken) {
         ShowValue(form, vars.Running, {});
+        Remark_On_Priority(form);
+    }
 }
 
 // The result that waits becomes the operand, unless a number was keyed. Then it goes on waiting:
@@ -241,6 +252,9 @@ void Shift_Operators(CalcVariables& vars) {
 
 void Binary_Step(CalcMainFrm& form) {
     Resume_Result(form.Vars);
+    if (!form.Vars.EntryText.empty())
+        form.Vars.Chain.Take_Number(Leading_Value(form.Vars.EntryText));
+    form.Vars.Chain.Take_Operator(form.Vars.KeyToken);
     Note_Operator(form.Vars);
     Toggle_Constant(form);
     Evaluation_Step(form);
@@ -252,9 +266,12 @@ void Equals_Step(CalcMainFrm& form) {
     Resume_Result(vars);
     if (vars.EntryText.empty() && Constant_Set(vars) && vars.Running)
         vars.EntryText = Number_Text(*vars.Running);
-    if (!vars.EntryText.empty())
+    if (!vars.EntryText.empty()) {
         vars.Operands.push_back(Leading_Value(vars.EntryText));
+        vars.Chain.Take_Number(vars.Operands.back());
+    }
     Evaluation_Step(form);
+    vars.Chain.Start(vars.Running);
     for (std::string* op : {&vars.Op1, &vars.Op2, &vars.Op3})
         op->clear();
     vars.Operands.clear();

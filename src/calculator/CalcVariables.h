@@ -2,6 +2,8 @@
 // CalcMainFrm in the same run keeps the entry, the pending operations and the display.
 #pragma once
 
+#include "calculator/CalcPriority.h"
+
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -49,6 +51,7 @@ struct CalcVariables {
     double LastOperand = 0, PrevOperand = 0, ThirdOperand = 0; // the newest three
     double PowerScratch = 0;
     std::optional<double> Running; // empty at rest, and after a failure until AC
+    PriorityChain Chain;           // for the panel's remark alone
 
     // Constant calculation
     std::optional<double> ConstOperand;

@@ -258,9 +258,11 @@ void CalcForm::Show_Panel() {
         {ui_->Mode_Indicator, panel.Mode_Indicator},
         {ui_->Mem_Indicator, panel.Mem_Indicator},
         {ui_->CCalc_Indicator, panel.CCalc_Indicator},
-        {ui_->DateBox, panel.DateBox}};
+        {ui_->DateBox, panel.DateBox},
+        {ui_->PanelRemark, panel.Remark}};
     for (const auto& [label, text] : texts)
         label->setText(To_Qt(text));
+    ui_->PanelRemark->setToolTip(ui_->PanelRemark->text());
     const std::pair<QRadioButton*, bool> options[] = {
         {ui_->StdButton, panel.DispMode_Indicator == "NORM"},
         {ui_->FxnButton, panel.DispMode_Indicator == "FIX"},

@@ -1,9 +1,11 @@
 // Generated calculations, all with fixed seeds: operator chains against plain evaluation by
 // priority, and random keys that must leave the panel in one of its forms.
+#include "Largest.h"
 #include "calculator/CalcConstants.h"
 #include "calculator/CalcMemoryFrm.h"
 #include "calculator/CalcStatistics.h"
 #include "calculator/CalcTestSupport.h"
+#include "calculator/CalcText.h"
 #include "common/NumberText.h"
 
 #include <gtest/gtest.h>
@@ -57,6 +59,11 @@ Chain Random_Chain(Random& random) {
             chain.Add(random, "root");
     }
     return chain;
+}
+
+std::string Any_Operator(Random& random) {
+    const char* const all[] = {"+", "-", "*", "/", "xy", "root"};
+    return all[random() % std::size(all)];
 }
 
 // Powers first, then products, then sums, each from the left.
@@ -145,6 +152,7 @@ void Answer_Dialogs(CalcMainFrm& form, Random& random) {
 TEST(CalcChains, FollowThePriorityOfTheOperators) {
     Random random(7);
     int withPowers = 0;
+    Tests::Largest deviation;
     for (int i = 0; i < 4000; ++i) {
         const Chain chain = Random_Chain(random);
         const std::string keys = chain.Keys();
@@ -155,8 +163,41 @@ TEST(CalcChains, FollowThePriorityOfTheOperators) {
         ASSERT_NEAR(calc.Vars.Running.value_or(NAN), expected,
                     1e-9 * std::max(1.0, std::abs(expected)))
             << keys;
+        ASSERT_EQ(calc.Form.Panel.Remark, "") << keys;
+        const double off = std::abs(*calc.Vars.Running - expected);
+        deviation.Take(off / std::max(1.0, std::abs(expected)), keys);
     }
     EXPECT_GT(withPowers, 1000);
+    deviation.Record("total");
+}
+
+// Any operators in any order, also beyond the reach of the undo: a total that the priority doesn't
+// give has its remark, and no other has one.
+TEST(CalcChains, ATotalAgainstThePriorityHasARemark) {
+    Random random(17);
+    int against = 0, compared = 0;
+    for (int i = 0; i < 4000; ++i) {
+        Chain chain;
+        chain.Numbers.push_back(2);
+        for (int count = 1 + Pick(random, 6); count > 0; --count)
+            chain.Add(random, Any_Operator(random));
+        CalcTest calc;
+        calc.Keys(chain.Keys());
+        if (calc.Vars.ErrorLatched || !std::isfinite(By_Priority(chain)))
+            continue;
+        const double expected = By_Priority(chain), off = std::abs(*calc.Vars.Running - expected);
+        const double part = off / std::max(1.0, std::abs(expected));
+        if (part > 1e-11 && part < 1e-6) // digits that the undo has lost
+            continue;
+        ASSERT_EQ(calc.Form.Panel.Remark,
+                  part < 1e-6 ? "" : "By operator priority: " + Number_Text(expected))
+            << chain.Keys();
+        against += part < 1e-6 ? 0 : 1;
+        ++compared;
+    }
+    EXPECT_GT(against, 500);
+    EXPECT_GT(compared, 3000);
+    RecordProperty("remarks", std::to_string(against) + " of " + std::to_string(compared));
 }
 
 TEST(CalcFuzz, ThePanelHoldsOneOfItsForms) {

@@ -13,6 +13,7 @@ struct PanelCase {
     const char* Keys;
     const char* Shown;
     const char* Constant = ""; // CCalc_Indicator
+    const char* Remark = "";
 };
 
 void Expect_Panels(std::initializer_list<PanelCase> cases) {
@@ -21,6 +22,7 @@ void Expect_Panels(std::initializer_list<PanelCase> cases) {
         calc.Keys(c.Keys);
         EXPECT_EQ(calc.Shown(), c.Shown) << c.Keys;
         EXPECT_EQ(calc.Form.Panel.CCalc_Indicator, c.Constant) << c.Keys;
+        EXPECT_EQ(calc.Form.Panel.Remark, c.Remark) << c.Keys;
         EXPECT_EQ(calc.Vars.ErrorLatched, calc.Form.Panel.DisplayBox.front() == '*') << c.Keys;
     }
 }
@@ -140,7 +142,8 @@ TEST(CalcPanel, Operators) {
         {"2 + 3 = + 4 =", "9."},
         {"2 + 3 = 7 + 1 =", "8."},
         {"2 + * 3 =", "6."},
-        {"2 + 3 * + 4 =", "7."}, // the number shown, not the total, goes on
+        {"2 + 3 * + 4 =", "7.", "",
+         "By operator priority: 9"}, // the number shown, not the total, goes on
         {"2 + 3 C 4 =", "6."},
         {"2 + 3 C =", "2."},
         {"5 + AC 3 =", "3."},
@@ -160,15 +163,17 @@ TEST(CalcPanel, Operators) {
 // What the undo of three operands cannot reach, and the two formulas of the root: kept as they are.
 TEST(CalcPanel, RequiredWrongResults) {
     Expect_Panels({
-        {"6 / 4 root 2 =", "24."},
-        {"6 * 4 root 2 =", "48."},
-        {"3 * 6 / 4 root 2 =", "72."},
-        {"1 + 3 xy 2 * 4 =", "40."},
-        {"10 - 3 xy 2 / 4 =", "0.25"},
-        {"1 + 2 * 3 xy 2 xy 2 =", "171."},
+        {"6 / 4 root 2 =", "24.", "", "By operator priority: 3"},
+        {"6 * 4 root 2 =", "48.", "", "By operator priority: 12"},
+        {"3 * 6 / 4 root 2 =", "72.", "", "By operator priority: 9"},
+        {"1 + 3 xy 2 * 4 =", "40.", "", "By operator priority: 37"},
+        {"10 - 3 xy 2 / 4 =", "0.25", "", "By operator priority: 7.75"},
+        {"1 + 2 * 3 xy 2 xy 2 =", "171.", "", "By operator priority: 163"},
         {"12 pm exp 2 =", "1200."},
         {"0.000000001 exp 3 pm sin", "0."}, // so near to zero counts as zero
-        {"RadButton 400 sin", Shown_After("RadButton 40 sin").c_str()},
+        {"RadButton 400 sin", Shown_After("RadButton 40 sin").c_str(), "",
+         "Taken at 40: turns of 360 go off in any unit"},
+        {"RadButton 359 sin", Shown_After("359 RadButton sin").c_str()},
     });
 }
 
@@ -332,7 +337,7 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"12.51 asex", "12°30'36\"."},
         {"390 asex", "30°0'0\"."},
         {"30.25 pm asex", "-30°15'0\"."},
-        {"0.5 pm asex", "0°30'0\"."}, // loses its sign, as intended
+        {"0.5 pm asex", "0°30'0\".", "", "The angle is negative"}, // loses its sign, as intended
         {"123.456789 pm asex", "-123.456789"},
         {"30.25 asex + 1 =", "31.25"},
         {"2 + 30.25 asex =", "32.25"},
@@ -343,6 +348,7 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"3 key_RtoP 4 = x-y", "53.130102354156"},
         {"3 key_PtoR 900 sqrt = + 1 =", "31."},          // the angle still waits; intended
         {"3 pm key_RtoP 4 pm = x-y", "53.130102354156"}, // no quadrant
+        {"3 pm key_RtoP 4 =", "5.", "", "The angle (x-y) is half a turn off: x is negative"},
         {"3 key_RtoP 4 = AC 6 key_RtoP 8 =", "10."},
         {"3 key_RtoP 4 = 6 key_RtoP 8 =", "10."},
         {"3 key_RtoP 4 = 6 key_RtoP 8 = x-y", "0."}, // only a fresh calculation has a second result

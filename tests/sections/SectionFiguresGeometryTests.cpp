@@ -1,6 +1,7 @@
 // The figures of a section have to agree with each other: what can be computed from its dimensions,
 // its parent or its single angle is computed here and compared. The tolerances are a little above
 // the largest difference that the printed three digits, fillets and sloping flanges leave.
+#include "Largest.h"
 #include "SectionFiguresShapes.h"
 #include "common/NumberText.h"
 
@@ -335,12 +336,16 @@ TEST(SectionFiguresGeometry, FiguresAgreeWithEachOther) {
         std::istringstream families{check.Families};
         for (std::string family; families >> family;) {
             ASSERT_FALSE(All_Rows().at(family).empty());
+            Tests::Largest deviation;
             for (const Row& row : All_Rows().at(family)) {
                 const double computed = check.Computed(row);
+                deviation.Take(std::abs(row(check.Column) / computed - 1), row.Us);
                 EXPECT_LE(std::abs(row(check.Column) - computed), check.Tolerance * computed)
                     << row.Us << ' ' << check.Column << ' ' << row(check.Column) << ", computed "
                     << computed;
             }
+            deviation.Record(std::string{check.Column} + " of " + family + ", check " +
+                             std::to_string(&check - checks + 1));
         }
     }
 }
