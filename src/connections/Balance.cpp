@@ -353,6 +353,8 @@ std::optional<double> BalancedWeldCoefficient(int item, double L, double kL, dou
 }
 
 std::string BalanceRemark(double shown, std::optional<double> balanced, double tolerance) {
+    if (!balanced && shown > 0)
+        return "Not checked: no centre that satisfies all equilibrium conditions was found";
     if (!balanced || !(*balanced > 0) || !std::isfinite(shown))
         return {};
     const double excess = shown / *balanced - 1;

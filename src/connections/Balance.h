@@ -27,7 +27,8 @@ std::optional<double> BalancedWeldCoefficient(int item, double L, double kL, dou
 inline constexpr double BoltRemarkTolerance = 0.025;
 inline constexpr double WeldRemarkTolerance = 0.05;
 
-// What stands beside a coefficient that is off by more than the tolerance; else empty.
+// What stands beside a coefficient that is off by more than the tolerance, or that there is nothing
+// to hold against; else empty.
 std::string BalanceRemark(double shown, std::optional<double> balanced, double tolerance);
 
 } // namespace Tensarix

@@ -141,6 +141,7 @@ void BoltPage::Init_cFlex() {
                          .Back = Colours::HeadBack});
         cFlex.Set_Text(0, col, heads[col]);
     }
+    cFlex.Set_Remark(0, BoltColumn::C, std::string{FarthestBoltRemark});
     for (int row = 1; row < cFlex.Rows(); ++row)
         Lay_Out_Row(row);
     cFlex.Select_Range(1, 1, 1, 1);

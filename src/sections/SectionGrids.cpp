@@ -74,6 +74,11 @@ void Write_Value(FlexGrid& grid, int row, int col, const SectionRecordset& recor
     grid.Set_Remark(row, col, Lost_Digits_Remark(record, property, view.Units, text));
 }
 
+bool Is_Detailing_K(const Property& property, Profile profile) {
+    return property.Symbol == "k" &&
+           (profile == Profile::US ? property.USColumn : property.SIColumn).ends_with("KDET");
+}
+
 void Write_Values(FlexGrid& grid, const Layout& layout, const SectionRecordset& record,
                   const SectionView& view) {
     int row = 0;
@@ -84,6 +89,8 @@ void Write_Values(FlexGrid& grid, const Layout& layout, const SectionRecordset& 
         ++row;
         if (!Attempt([&] { Write_Value(grid, row, valueColumn, record, property, view); }))
             Mark_Left(grid, row, valueColumn, StaleValueRemark);
+        else if (Is_Detailing_K(property, view.Units))
+            grid.Set_Remark(row, valueColumn, std::string{DetailingRemark});
         if (property.WritesUnit)
             grid.Set_Text(row, unitColumn, std::string{Unit_Text(property, view.Units)});
     }
@@ -190,9 +197,13 @@ void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, P
         grid.Set_ColWidth(col, col < nameColumns ? nameWidth : valueWidth);
     Write_Head(grid, 0, "Standard US\nProfile");
     Write_Head(grid, 1, "SI Equivalent\nProfile");
-    for (std::size_t i = 0; i < layout.Entries.size(); ++i)
-        Write_Head(grid, Column_Of(layout.HeadColumns, i),
-                   Head_Text(Of_Variant(layout.Entries[i], variant), profile));
+    for (std::size_t i = 0; i < layout.Entries.size(); ++i) {
+        const Property& property = Of_Variant(layout.Entries[i], variant);
+        const int col = Column_Of(layout.HeadColumns, i);
+        Write_Head(grid, col, Head_Text(property, profile));
+        if (Is_Detailing_K(property, profile))
+            grid.Set_Remark(0, col, std::string{DetailingRemark});
+    }
     Mark_Shifted_Columns(grid, layout, variant, profile);
 }
 

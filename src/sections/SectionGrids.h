@@ -21,6 +21,10 @@ inline constexpr std::string_view StaleValueRemark =
 inline constexpr std::string_view EarlierValueRemark =
     "Not tabulated for this section; the text is that of the property written here first";
 
+// On a "k" that isn't read from the design values.
+inline constexpr std::string_view DetailingRemark =
+    "The detailing value, kdet, not the design value";
+
 // What all three forms share.
 struct SectionView {
     std::filesystem::path ProgramFolder;
@@ -109,7 +113,7 @@ inline constexpr FindInitializer fUnEqDAngle_Initializer{Layouts::UnEqDAngle};
 enum class TableVariant { ViewAll, Find };
 
 // Sizes the grid for so many rows with the head row, clears it, and writes the heads. A head under
-// which another property's values stand says so in its remark.
+// which another property's values stand, or a k of detailing, says so in its remark.
 void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, Profile profile,
                    int rows);
 // Writes the designations and values of the current record into a row.

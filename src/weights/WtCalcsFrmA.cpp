@@ -88,7 +88,7 @@ void WtCalcsFrmA::Init_Head(FlexGrid& grid, bool imperial) {
     Init_Sheet(grid, columns);
 }
 
-// The weights come back as texts and are not computed; what was charged is told all the same.
+// The weights come back as texts and are not computed, with what was remarked on them.
 void WtCalcsFrmA::Load() {
     Init_Head_Imperial();
     Init_Head_Metric();
@@ -99,8 +99,8 @@ void WtCalcsFrmA::Load() {
                                   Trim(saved.*column.Imperial).append(column.Padding));
             MetricFlex.Set_Text(row, column.Col, Trim(saved.*column.Metric).append(column.Padding));
         }
-        if (!Trim(saved.ImperialWeight).empty())
-            ImperialFlex.Set_Remark(row, weightCol, Charged_Remark(saved.ImperialLength));
+        ImperialFlex.Set_Remark(row, weightCol, saved.ImperialRemark);
+        MetricFlex.Set_Remark(row, weightCol, saved.MetricRemark);
         ++row;
     }
     Start_Family_List();
@@ -116,6 +116,8 @@ void WtCalcsFrmA::Unload() {
             saved.*column.Imperial = Trim(ImperialFlex.Text(row, column.Col));
             saved.*column.Metric = Trim(MetricFlex.Text(row, column.Col));
         }
+        saved.ImperialRemark = ImperialFlex.Remark(row, weightCol);
+        saved.MetricRemark = MetricFlex.Remark(row, weightCol);
         ++row;
     }
 }

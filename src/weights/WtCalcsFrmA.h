@@ -13,7 +13,7 @@ namespace Tensarix {
 // runs.
 struct SavedRow {
     std::string ImperialSize, MetricSize, ImperialLength, MetricLength, ImperialWeight,
-        MetricWeight;
+        MetricWeight, ImperialRemark, MetricRemark;
 };
 using SavedRows = std::array<SavedRow, EntryRows>;
 

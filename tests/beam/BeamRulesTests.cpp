@@ -1,4 +1,6 @@
+#include "Largest.h"
 #include "beam/BeamRules.h"
+#include "sections/SectionFiguresRows.h"
 
 #include <gtest/gtest.h>
 
@@ -36,7 +38,105 @@ void Expect_Load(const Case& c, const BeamLoad& load) {
     EXPECT_EQ(load.SpanFeet, std::max(c.Span, load.BoundaryFeet)) << c.Name;
 }
 
+enum Edition { Ninth, ASD, LRFD };
+
+BeamLoad Load_Of(Edition edition, const BeamInput& input) {
+    return edition == Ninth
+               ? Beam_Load_9th(input)
+               : Beam_Load_13th(input, edition == ASD ? DesignMethod::ASD : DesignMethod::LRFD);
+}
+
+BeamSection Section_Of(const FigureRow& row) {
+    return {row("ZX"), row("SX"),   row("D"),
+            row("TW"), row("H_TW"), row.Has("BF_2TF") ? row("BF_2TF") : 0};
+}
+
+// What a section may carry, kip-ft and kips.
+struct Strength {
+    double Moment, Shear;
+};
+
+Strength Strength_Of(Edition edition, const BeamSection& s, double Fy) {
+    if (edition == Ninth) // F1-1, F4-1
+        return {0.66 * Fy * s.Sx / 12, 0.4 * Fy * s.d * s.tw};
+    const double root = std::sqrt(29000 / Fy), Mp = Fy * s.Zx;
+    const double part = std::max(0.0, (s.bf_2tf - 0.38 * root) / (1.0 * root - 0.38 * root));
+    const double Mn = Mp - (Mp - 0.7 * Fy * s.Sx) * part; // F2-1, F3-1
+    const double Vn = 0.6 * Fy * s.d * s.tw;              // G2-1, Cv = 1
+    const bool stocky = s.h_tw <= 2.24 * root;            // G2.1(a)
+    if (edition == ASD)
+        return {Mn / 12 / 1.67, Vn / (stocky ? 1.5 : 1.67)};
+    return {0.9 * Mn / 12, Vn * (stocky ? 1.0 : 0.9)};
+}
+
 } // namespace
+
+// M = w L^2 / 8 and V = w L / 2: the moment is that of the section, the shear no more than it has,
+// and all of it where the span was raised to the boundary.
+TEST(BeamRules, EveryLoadIsInEquilibriumWithTheStrengthOfItsSection) {
+    Tests::Largest moment, reaction, shear;
+    for (const char* family : {"W", "M", "HP", "S", "C", "MC"})
+        for (const FigureRow& row : All_Rows().at(family))
+            for (const double Fy : {36.0, 50.0})
+                for (const Edition edition : {Ninth, ASD, LRFD})
+                    for (const double typed : {0.0, 2.0, 7.0, 25.0, 60.0}) {
+                        const BeamSection section = Section_Of(row);
+                        const Strength strength = Strength_Of(edition, section, Fy);
+                        const BeamLoad load = Load_Of(edition, {.Section = section,
+                                                                .YieldKsi = static_cast<float>(Fy),
+                                                                .TypedSpanFeet = typed});
+                        const double w = load.LoadKipsPerFoot, L = load.SpanFeet;
+                        moment.Take(std::abs(w * L * L / 8 / strength.Moment - 1), row.Us);
+                        reaction.Take(std::abs(load.EndReactionKips / (w * L / 2) - 1), row.Us);
+                        shear.Take(w * L / 2 / strength.Shear - 1, row.Us);
+                        ASSERT_LT(std::abs(w * L * L / 8 / strength.Moment - 1), 1e-12) << row.Us;
+                        ASSERT_LT(std::abs(load.EndReactionKips / (w * L / 2) - 1), 1e-12);
+                        ASSERT_LT(w * L / 2 / strength.Shear, 1 + 1e-12) << row.Us;
+                        ASSERT_GE(L, typed);
+                        if (L > typed) {
+                            ASSERT_GT(w * L / 2 / strength.Shear, 1 - 1e-12) << row.Us;
+                        }
+                        // No flange is slender: the rules need no further range.
+                        ASSERT_LT(section.bf_2tf, std::sqrt(29000 / Fy));
+                    }
+    moment.Record("moment");
+    reaction.Record("end reaction");
+    shear.Record("shear above the strength");
+}
+
+// Manual, 13th Edition, table 3-2: available moments and shears at 50 ksi, three digits.
+TEST(BeamRules, TabulatedStrengths) {
+    struct Row {
+        const char* Name;
+        double MomentASD, MomentLRFD, ShearASD, ShearLRFD; // 0: left out
+    };
+    const Row rows[] = {{"W36x150", 1450, 2180, 449, 673}, {"W24x55", 334, 503, 167, 252},
+                        {"W21x44", 238, 358, 145, 217},    {"W18x50", 252, 379, 128, 192},
+                        {"W12x26", 92.8, 140, 0, 0},       {"W14x99", 430, 646, 138, 207},
+                        {"W14x90", 382, 574, 0, 0},        {"W12x65", 237, 356, 0, 0},
+                        {"W10x12", 31.2, 46.9, 0, 0},      {"W8x31", 75.8, 114, 0, 0},
+                        {"W8x10", 21.9, 32.9, 0, 0}};
+    Tests::Largest deviation;
+    const auto compare = [&deviation](double value, double printed, const char* name) {
+        if (printed == 0)
+            return;
+        const double unit = std::pow(10, std::floor(std::log10(printed)) - 2);
+        EXPECT_LE(std::abs(value - printed), 0.501 * unit) << name;
+        deviation.Take(std::abs(value / printed - 1), name);
+    };
+    for (const Row& row : rows)
+        for (const FigureRow& section : All_Rows().at("W"))
+            if (section.Us == row.Name)
+                for (const Edition edition : {ASD, LRFD}) {
+                    const BeamLoad far = Load_Of(edition, {Section_Of(section), 50, 60}),
+                                   near = Load_Of(edition, {Section_Of(section), 50, 0});
+                    compare(far.LoadKipsPerFoot * 60 * 60 / 8,
+                            edition == ASD ? row.MomentASD : row.MomentLRFD, row.Name);
+                    compare(near.EndReactionKips, edition == ASD ? row.ShearASD : row.ShearLRFD,
+                            row.Name);
+                }
+    deviation.Record("table 3-2");
+}
 
 // M = 0.66 Fy Sx / 12 kip-ft, V = 0.4 Fy d tw, R = 4 M / L, w = 2 R / L.
 TEST(BeamRules, NinthEdition) {

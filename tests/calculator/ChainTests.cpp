@@ -200,6 +200,58 @@ TEST(CalcChains, ATotalAgainstThePriorityHasARemark) {
     RecordProperty("remarks", std::to_string(against) + " of " + std::to_string(compared));
 }
 
+// In long double, with angles in degrees.
+TEST(CalcFunctions, AgreeWithTheLibraryToThirteenDigits) {
+    using Real = long double;
+    static const Real degree = std::acos(Real{-1}) / 180;
+    const struct {
+        const char* Token;
+        double Low, High;
+        Real (*Exact)(Real);
+    } functions[] = {
+        {"sqr", -1e6, 1e6, [](Real x) { return x * x; }},
+        {"cube", -1e4, 1e4, [](Real x) { return x * x * x; }},
+        {"sqrt", 0.01, 1e9, [](Real x) { return std::sqrt(x); }},
+        {"cubt", -1e9, 1e9, [](Real x) { return std::cbrt(x); }},
+        {"rcp", 0.01, 1e6, [](Real x) { return 1 / x; }},
+        {"log", 2, 1e9, [](Real x) { return std::log10(x); }},
+        {"ln", 2, 1e9, [](Real x) { return std::log(x); }},
+        {"alog", -9, 9, [](Real x) { return std::pow(Real{10}, x); }},
+        {"aln", -20, 20, [](Real x) { return std::exp(x); }},
+        {"sin", -359, 359, [](Real x) { return std::sin(x * degree); }},
+        {"cos", -359, 359, [](Real x) { return std::cos(x * degree); }},
+        {"tan", -80, 80, [](Real x) { return std::tan(x * degree); }},
+        {"iSin", -0.99, 0.99, [](Real x) { return std::asin(x) / degree; }},
+        {"iCos", -0.99, 0.99, [](Real x) { return std::acos(x) / degree; }},
+        {"iTan", -1e3, 1e3, [](Real x) { return std::atan(x) / degree; }},
+        {"sinh", -20, 20, [](Real x) { return std::sinh(x); }},
+        {"cosh", -20, 20, [](Real x) { return std::cosh(x); }},
+        {"tanh", -9, 9, [](Real x) { return std::tanh(x); }},
+        {"isinh", 0.5, 1e3, [](Real x) { return std::asinh(x); }},
+        {"icosh", 1.5, 1e3, [](Real x) { return std::acosh(x); }},
+        {"itanh", -0.99, 0.99, [](Real x) { return std::atanh(x); }},
+    };
+    Random random(23);
+    for (const auto& function : functions) {
+        Tests::Largest deviation;
+        for (int i = 0; i < 300; ++i) {
+            const double part = double(random()) / 4294967296.0;
+            const std::string text =
+                Format_Number(function.Low + part * (function.High - function.Low), "0.0########");
+            CalcTest calc;
+            ASSERT_TRUE(Key_In_Number(calc.Form, text));
+            calc.Keys(function.Token);
+            ASSERT_FALSE(calc.Vars.ErrorLatched) << text << function.Token;
+            const Real exact = function.Exact(Text_Number(text));
+            const double off = static_cast<double>(std::abs(calc.Vars.LastResult - exact) /
+                                                   std::max(Real{1}, std::abs(exact)));
+            EXPECT_LT(off, 1e-13) << text << function.Token;
+            deviation.Take(off, text);
+        }
+        deviation.Record(function.Token);
+    }
+}
+
 TEST(CalcFuzz, ThePanelHoldsOneOfItsForms) {
     Random random(11);
     std::vector<const CalcKey*> keys;

@@ -1,5 +1,6 @@
 #include "measures/FeetInchFormatting.h"
 
+#include "Largest.h"
 #include "common/Failure.h"
 #include "measures/FeetInchParsing.h"
 
@@ -90,10 +91,15 @@ TEST(FeetInchFormatting, EveryTextReadsBackAsTheSameLength) {
             ASSERT_NEAR(*back, feet, halfSixteenth + 1e-9) << text;
         }
     }
-    for (int sixteenths = 0; sixteenths <= 16 * 12 * 60; ++sixteenths) {
+    Tests::Largest deviation;
+    for (int sixteenths = -16 * 12 * 60; sixteenths <= 16 * 12 * 60; ++sixteenths) {
         const std::string text = Digits(sixteenths / 16.0 / 12);
-        ASSERT_EQ(Digits(Feet_Of(text).value()), text);
+        const double back = Feet_Of(text).value();
+        ASSERT_EQ(Digits(back), text);
+        ASSERT_NEAR(back * 12 * 16, sixteenths, 1e-10) << text;
+        deviation.Take(std::abs(back * 12 - sixteenths / 16.0), text);
     }
+    deviation.Record("inches");
 }
 
 TEST(FeetInchFormatting, AnythingThatParsesCanBeFormattedAndParsedAgain) {

@@ -111,6 +111,13 @@ TEST_F(BrowseTest, ANullLeavesTheTextAndARemarkTellsIt) {
     EXPECT_EQ(page.ShapeFlex.Remark(row, 1), "");
 }
 
+TEST_F(BrowseTest, TheKOfAnSShapeTellsThatItIsTheDetailingOne) {
+    Choose("S-Shape", "S24x121");
+    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("k"), 1), DetailingRemark);
+    page.ProfileOption2.Select();
+    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("k"), 1), "");
+}
+
 // The unit of xp is left from the family shown before; the text stands, but not silently.
 TEST_F(BrowseTest, TheUnitOfXpOfTheChannelsIsNotWritten) {
     Choose("Rectangular HSS", "HSS20x12x5/8");

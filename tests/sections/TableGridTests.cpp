@@ -113,6 +113,9 @@ TEST(TableGrid, WhatDiffersFromBrowse) {
         Fill(grid, Named(c.Type), c.Variant, {program, c.Units});
         const int col = Column_Of(grid, c.Head);
         ASSERT_GE(col, 2) << c.Type << c.Head;
+        const bool detailingK =
+            c.Head == std::string{"k"} && std::string{c.Column}.ends_with("KDET");
+        EXPECT_EQ(grid.Remark(0, col), detailingK ? DetailingRemark : "") << c.Type << c.Head;
         const auto values =
             plain.Numbers(std::string{"SELECT "} + c.Column + " FROM ShapeTable WHERE TYPE='" +
                           c.Type + "' ORDER BY SEQ");

@@ -395,7 +395,13 @@ TEST_F(Type2, ClearingHidesTheEditorsOfTheTab) {
 TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
     Pick(1, "W8x10");
     Length(1, "12'-6\"");
+    Pick(2, "W8x10");
+    Length(2, "10'");
     form.ShapeType.Select(4);
+    form.ImperialFlex.Press(2, 1); // the list is left without a choice
+    form.ImperialFlex.Focus.Set();
+    const std::string noSize = Remark(2);
+    EXPECT_NE(noSize, "");
     form.Unload();
     EXPECT_EQ(machine.Store.Get("CalcWtShapeType"), "4");
     EXPECT_EQ(machine.Store.Get("CalcWtShapeSize4"), "-1");
@@ -406,5 +412,7 @@ TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
     EXPECT_EQ(again.ImperialFlex.Text(1, 2), "12'-6\"     ");
     EXPECT_EQ(again.ImperialFlex.Text(1, 3), "120.00     ");
     EXPECT_EQ(again.ImperialFlex.Remark(1, 3), std::string{"Charged for 12"} + chargedTail);
-    EXPECT_EQ(again.ImperialFlex.Text(2, 3), "     ");
+    EXPECT_EQ(again.ImperialFlex.Text(2, 3), "0.00     ");
+    EXPECT_EQ(again.ImperialFlex.Remark(2, 3), noSize);
+    EXPECT_EQ(again.ImperialFlex.Text(3, 3), "     ");
 }

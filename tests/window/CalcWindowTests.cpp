@@ -87,6 +87,22 @@ TEST_F(CalcWindowTest, KeyboardAndClicksCalculateTheSame) {
     });
 }
 
+TEST_F(CalcWindowTest, ARemarkStandsUnderTheNumberUntilTheNextKey) {
+    Calculate([](QWidget& calculator) {
+        auto& remark = Of<QLabel>(calculator, "PanelRemark");
+        const QSize size = calculator.size();
+        Type(calculator, "1+3^2*4=");
+        EXPECT_EQ(Display(calculator), "40.");
+        EXPECT_EQ(remark.text(), "By operator priority: 37");
+        EXPECT_EQ(remark.toolTip(), remark.text());
+        Settle();
+        EXPECT_GE(remark.height(), remark.fontMetrics().height());
+        EXPECT_EQ(calculator.size(), size);
+        Type(calculator, "5");
+        EXPECT_EQ(remark.text(), "");
+    });
+}
+
 TEST_F(CalcWindowTest, TypedKeys) {
     struct {
         const char* Typed;
