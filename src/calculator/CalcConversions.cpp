@@ -60,8 +60,10 @@ bool Conversion_Pending(const CalcVariables& vars) {
 }
 
 void Complete_Conversions(CalcMainFrm& form) {
-    if (form.Vars.PolarActive)
+    if (form.Vars.PolarActive) {
+        form.Panel.Remark = Turns_Remark(form.Vars, Shown_Value(form.Vars));
         Complete_Polar(form.Vars);
+    }
     if (form.Vars.RectActive) {
         const bool quadrantLost = !form.Vars.Running && IsNegative(form.Vars.RectX.value_or(0));
         Complete_Rectangular(form.Vars);

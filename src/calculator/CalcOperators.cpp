@@ -250,11 +250,21 @@ void Shift_Operators(CalcVariables& vars) {
     vars.EntryText.clear();
 }
 
+// What waited behind "=" is not the number that was shown, which the chain goes on with.
+void Follow_Operator(CalcVariables& vars, bool resumes) {
+    if (!vars.EntryText.empty()) {
+        const double number = Leading_Value(vars.EntryText);
+        const bool waited = resumes && vars.EntryText == vars.Chain.Waiting;
+        if (!waited || number == Shown_Value(vars))
+            vars.Chain.Take_Number(number);
+    }
+    vars.Chain.Take_Operator(vars.KeyToken);
+}
+
 void Binary_Step(CalcMainFrm& form) {
+    const bool resumes = form.Vars.EntryText.empty();
     Resume_Result(form.Vars);
-    if (!form.Vars.EntryText.empty())
-        form.Vars.Chain.Take_Number(Leading_Value(form.Vars.EntryText));
-    form.Vars.Chain.Take_Operator(form.Vars.KeyToken);
+    Follow_Operator(form.Vars, resumes);
     Note_Operator(form.Vars);
     Toggle_Constant(form);
     Evaluation_Step(form);
@@ -272,6 +282,7 @@ void Equals_Step(CalcMainFrm& form) {
     }
     Evaluation_Step(form);
     vars.Chain.Start(vars.Running);
+    vars.Chain.Waiting = vars.ResumeText;
     for (std::string* op : {&vars.Op1, &vars.Op2, &vars.Op3})
         op->clear();
     vars.Operands.clear();

@@ -14,6 +14,8 @@ struct PriorityChain {
     std::vector<double> Numbers;
     std::vector<std::string> Operators; // as many, or one less
 
+    // What "=" left waiting beside the total: the next operator takes it instead.
+    std::string Waiting;
     // Not followed any more until the next Start.
     bool Lost = false;
 

@@ -286,13 +286,14 @@ std::string Value_Text(const SectionRecordset& record, const Property& property,
 
 std::string Lost_Digits_Remark(const SectionRecordset& record, const Property& property,
                                Profile profile, std::string_view text) {
-    if (property.Kind != PropertyKind::SecondMoment || profile == Profile::US)
+    if (property.Kind != PropertyKind::SecondMoment)
         return {};
-    const double stored = record.Number(property.SIColumn);
+    const double stored =
+        record.Number(profile == Profile::US ? property.USColumn : property.SIColumn);
     const double shown = Leading_Value(Replace_All(text, "x10^", "E"));
     if (General_Text(shown) == General_Text(stored))
         return {};
-    return "Stored value: " + With_Thousands(stored).append(" ").append(property.SIUnit);
+    return "Stored value: " + With_Thousands(stored).append(" ").append(Unit_Text(property, profile));
 }
 
 std::string_view Unit_Text(const Property& property, Profile profile) {

@@ -64,7 +64,7 @@ std::string Value_Text(const SectionRecordset& record, const Property& property,
 double Value_Number(const SectionRecordset& record, const Property& property, Profile profile);
 
 // What the cell's text no longer tells: "Stored value: 12,900,000,000 mm^4" where a power of ten
-// lost digits of the number in the store, otherwise empty.
+// or the fourth decimal of a small figure lost digits of the number in the store, otherwise empty.
 std::string Lost_Digits_Remark(const SectionRecordset& record, const Property& property,
                                Profile profile, std::string_view text);
 

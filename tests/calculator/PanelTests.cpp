@@ -346,7 +346,8 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"2 key_PtoR 30 = x-y", "1."},
         {"3 key_RtoP 4 =", "5."},
         {"3 key_RtoP 4 = x-y", "53.130102354156"},
-        {"3 key_PtoR 900 sqrt = + 1 =", "31."},          // the angle still waits; intended
+        {"3 key_PtoR 900 sqrt = + 1 =", "31.", "",
+         "By operator priority: 3.59807621135332"},      // the angle still waits; intended
         {"3 pm key_RtoP 4 pm = x-y", "53.130102354156"}, // no quadrant
         {"3 pm key_RtoP 4 =", "5.", "", "The angle (x-y) is half a turn off: x is negative"},
         {"3 key_RtoP 4 = AC 6 key_RtoP 8 =", "10."},
@@ -460,7 +461,8 @@ TEST(CalcPanel, MemoryAndStatistics) {
         {"5 key_Min AC mo", "5."},
         {"5 key_Min + mo =", "10."},
         {"1 / 4 = key_Min 7 * mo =", "1.75"},
-        {"2 + 12 key_Min = + 1 =", "13."}, // the 12 still waits; intended
+        {"2 + 12 key_Min = + 1 =", "13.", "", "By operator priority: 15"}, // the 12 waits; intended
+        {"2 + 12 key_Min = mo + 1 =", "13."},
         {"12 key_Min 5", "125."},
         {"1 frc 4 key_Min AC mo", "0.25"},
         {"7 + 1 / 0 = key_Min AC mo", "0."},
