@@ -67,7 +67,7 @@ class Tour {
         page.DimOption1.Select();
     }
 
-    // The pages, an error, and the display at its fullest.
+    // The pages, a remark, an error, and the display at its fullest.
     void Calculator(const QString& suffix) {
         CalcVariables vars;
         CalcForm form(program_.Form().Shared, vars, &program_.Window());
@@ -79,6 +79,10 @@ class Tour {
             pages.setCurrentIndex(page);
             Take(QStringLiteral("calculator-%1%2").arg(page + 1).arg(suffix), form);
         }
+        for (const char* key : {"key_AC", "key_1", "key_plus", "key_3", "key_Xy", "key_2",
+                                "key_multiply", "key_4", "key_equal"})
+            form.Press_Key(key);
+        Take(QStringLiteral("calculator-remark") + suffix, form);
         for (const char* key : {"key_divide", "key_0", "key_equal"})
             form.Press_Key(key);
         form.findChild<QWidget*>(QStringLiteral("key_AC"))->setFocus();
