@@ -120,11 +120,16 @@ std::optional<Bytes> Read_Whole_File(const std::filesystem::path& path, std::siz
 }
 
 bool Replace_File(const std::filesystem::path& path, const Bytes& bytes) {
-    std::filesystem::path fresh = path;
-    fresh += ".new";
     std::error_code error;
+    std::filesystem::path target = std::filesystem::canonical(path, error); // behind a link
+    if (error)
+        target = path;
+    std::filesystem::path fresh = target;
+    fresh += ".new";
     if (Write_New_File(fresh, bytes)) {
-        std::filesystem::rename(fresh, path, error);
+        if (const auto old = std::filesystem::status(target, error); !error)
+            std::filesystem::permissions(fresh, old.permissions(), error);
+        std::filesystem::rename(fresh, target, error);
         if (!error)
             return true;
     }

@@ -53,7 +53,10 @@ class ByteReader {
 std::optional<Bytes> Read_Whole_File(const std::filesystem::path& path,
                                      std::size_t limit = 64u << 20);
 
-// Writes the new file beside the old one, then gives it the name. False: the old file is as it was.
+// Writes the new file beside the old one, under its name with ".new" behind it, then gives it the
+// name; the old one's permissions stay, and so does a link to it. False: the old file is as it was.
+// A program that is killed meanwhile leaves the old file or the new one, and at most one ".new",
+// which the next replacement overwrites.
 bool Replace_File(const std::filesystem::path& path, const Bytes& bytes);
 
 } // namespace Tensarix

@@ -75,6 +75,8 @@ class Instance {
   public:
     virtual ~Instance() = default;
     virtual bool Other_Runs() = 0;
+    // Returns when the other one has been raised, or doesn't answer for long, or has ended: then
+    // no other runs.
     virtual void Raise_Other() = 0;
 };
 

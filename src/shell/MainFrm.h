@@ -40,7 +40,8 @@ class MainFrm {
     MainFrm(Machine& machine, Dialogs& dialogs);
     MainFrm(const MainFrm&) = delete;
 
-    // False: another instance runs and has been raised; this one has to end, without a window.
+    // False: another instance ran and was asked to come up. This one has to end, without a window,
+    // unless the other has ended instead.
     bool Load();
     // Reads the settings, selects the first mode and fills each page, in this fixed order.
     void StartUp();

@@ -17,7 +17,7 @@ namespace Tensarix {
 
 namespace {
 
-const QString geometryKey = QStringLiteral("Window/Geometry");
+constexpr std::string_view geometrySection = "Window", geometryKey = "Geometry"; // Base64
 constexpr QSize firstSize{1240, 700}; // fits a screen of 1366 x 768 with its task bar
 
 // The mode that shows is told by more than a shade.
@@ -31,7 +31,7 @@ void Show_Chosen_In_Bold(QPushButton* button) {
 
 } // namespace
 
-MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
+MainForm::MainForm(MainFrm& form, SettingsStore& settings, DesktopEvents& events)
     : form_(form), settings_(settings), events_(events) {
     Ui::MainWindowForm ui;
     ui.setupUi(this);
@@ -62,20 +62,24 @@ MainForm::MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events)
 }
 
 void MainForm::Restore_Place() {
-    if (restoreGeometry(settings_.File().value(geometryKey).toByteArray()))
+    const std::string saved = settings_.Read(geometrySection, geometryKey).value_or("");
+    if (restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(saved))))
         return;
     resize(firstSize.boundedTo(screen()->availableSize()));
 }
 
-void MainForm::Raise() {
+bool MainForm::Raise() {
+    if (!isVisible()) // closed, and the program is about to end
+        return false;
     if (isMinimized())
         showNormal();
     raise();
     activateWindow();
+    return true;
 }
 
 void MainForm::closeEvent(QCloseEvent* event) {
-    settings_.File().setValue(geometryKey, saveGeometry());
+    settings_.Write(geometrySection, geometryKey, saveGeometry().toBase64().toStdString());
     form_.Query_Unload();
     events_.Close();
     event->accept();

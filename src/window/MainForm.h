@@ -12,10 +12,10 @@ class MainForm final : public QMainWindow {
     Q_OBJECT
 
   public:
-    MainForm(MainFrm& form, IniSettings& settings, DesktopEvents& events);
+    MainForm(MainFrm& form, SettingsStore& settings, DesktopEvents& events);
 
     // Un-minimises the window and brings it to the front.
-    void Raise();
+    bool Raise();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -26,7 +26,7 @@ class MainForm final : public QMainWindow {
     void Restore_Place();
 
     MainFrm& form_;
-    IniSettings& settings_;
+    SettingsStore& settings_;
     DesktopEvents& events_;
 };
 

@@ -47,13 +47,16 @@ Program::Program(const Folders& folders)
 Program::~Program() = default;
 
 bool Program::Start() {
-    if (!form_.Load())
-        return false;
+    while (!form_.Load()) {
+        if (instance_.Other_Runs())
+            return false;
+        settings_.Read_Again(); // the other one has ended meanwhile
+    }
     window_ = std::make_unique<MainForm>(form_, settings_, events_);
     mainWindow_.Set_Widget(window_.get());
     mainWindow_.Set_On_Top(form_.Shared.OnTop);
-    instance_.On_Raise([this] { window_->Raise(); });
     window_->show();
+    instance_.On_Raise([this] { return window_->Raise(); });
     return true;
 }
 

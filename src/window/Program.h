@@ -6,6 +6,7 @@
 #include "weights/WtCalcsFrm.h"
 #include "weights/WtCalcsFrmA.h"
 #include "window/DesktopVoice.h"
+#include "window/IniSettings.h"
 #include "window/MainForm.h"
 
 #include <memory>
@@ -20,7 +21,7 @@ class Program final : public Dialogs {
     // Application-wide ways: names, icon, how long a typed search goes on.
     static void Prepare_Application();
 
-    // False: another instance runs; nothing is shown.
+    // False: another instance runs and has been raised; nothing is shown.
     bool Start();
 
     MainFrm& Form() { return form_; }
@@ -32,6 +33,7 @@ class Program final : public Dialogs {
     void Show_AboutFrm() override;
 
   private:
+    SingleInstance instance_; // ends last, when the settings have been saved
     IniSettings settings_;
     DesktopClipboard clipboard_;
     DesktopVoice voice_;
@@ -39,7 +41,6 @@ class Program final : public Dialogs {
     SteadyClock clock_;
     DesktopEvents events_;
     DesktopWindow mainWindow_;
-    SingleInstance instance_;
     Machine machine_;
     MainFrm form_;
     CalcVariables calculator_;  // outlives its form

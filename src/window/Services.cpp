@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLocalSocket>
@@ -14,21 +15,23 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 namespace Tensarix {
 
 namespace {
 
-constexpr qint64 turnEveryMs = 8; // a yield turns the event loop at most this often
-constexpr int raiseTries = 60;    // the first instance may still be starting
-constexpr int raiseWaitMs = 50;
-constexpr char raiseWish[] = "raise";
+constexpr qint64 turnEveryMs = 8;      // a yield turns the event loop at most this often
+constexpr int raisePatienceMs = 20000; // the first instance may still be starting, or be ending
+constexpr int raiseWaitMs = 50;        // between two tries
+constexpr char raisedAnswer[] = "raised";
 
 QString To_Qt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString Setting_Path(std::string_view section, std::string_view key) {
-    return To_Qt(section) + QLatin1Char('/') + To_Qt(key);
 }
 
 QMessageBox::Icon Box_Icon(MessageIcon icon) {
@@ -69,21 +72,6 @@ QString Runtime_Folder() {
 }
 
 } // namespace
-
-IniSettings::IniSettings()
-    : file_(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tensarix"),
-            QStringLiteral("Tensarix")) {}
-
-std::optional<std::string> IniSettings::Read(std::string_view section, std::string_view key) {
-    const QString path = Setting_Path(section, key);
-    if (!file_.contains(path))
-        return std::nullopt;
-    return file_.value(path).toString().toStdString();
-}
-
-void IniSettings::Write(std::string_view section, std::string_view key, std::string_view text) {
-    file_.setValue(Setting_Path(section, key), To_Qt(text));
-}
 
 void DesktopClipboard::Clear() {
     QGuiApplication::clipboard()->clear();
@@ -130,18 +118,32 @@ void DesktopWindow::Close() {
         widget_->close();
 }
 
+ProcessLock::ProcessLock(const QString& path)
+    : file_(open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {}
+
+ProcessLock::~ProcessLock() {
+    if (file_ >= 0)
+        close(file_);
+}
+
+bool ProcessLock::Take() {
+    return file_ < 0 || flock(file_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
 SingleInstance::SingleInstance()
     : lock_(Runtime_Folder() + QStringLiteral("/tensarix.lock")),
       socket_(Runtime_Folder() + QStringLiteral("/tensarix.socket")) {
-    lock_.setStaleLockTime(0); // a lock is stale when its program has ended, not when it is old
-    first_ = lock_.tryLock();
-    if (!first_ && lock_.error() != QLockFile::LockFailedError)
-        first_ = true; // no lock can be kept here: rather a second window than none
-    if (!first_)
-        return;
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
-    QLocalServer::removeServer(socket_); // what a crashed run left behind
-    server_.listen(socket_);
+    Take_Place();
+}
+
+bool SingleInstance::Take_Place() {
+    first_ = lock_.Take(); // none can be kept: rather a second window than none
+    if (first_) {
+        server_.setSocketOptions(QLocalServer::UserAccessOption);
+        QLocalServer::removeServer(socket_); // what a crashed run left behind
+        server_.listen(socket_);
+    }
+    return first_;
 }
 
 bool SingleInstance::Other_Runs() {
@@ -149,26 +151,35 @@ bool SingleInstance::Other_Runs() {
 }
 
 void SingleInstance::Raise_Other() {
-    for (int i = 0; i < raiseTries; ++i) {
-        QLocalSocket socket;
-        socket.connectToServer(socket_);
-        if (socket.waitForConnected(raiseWaitMs)) {
-            socket.write(raiseWish);
-            socket.waitForBytesWritten();
-            socket.disconnectFromServer();
+    QElapsedTimer waited;
+    waited.start();
+    while (!waited.hasExpired(raisePatienceMs)) {
+        if (Other_Answers(raisePatienceMs - static_cast<int>(waited.elapsed())) || Take_Place())
             return;
-        }
         QThread::msleep(raiseWaitMs);
     }
 }
 
-void SingleInstance::On_Raise(std::function<void()> raise) {
-    QObject::connect(&server_, &QLocalServer::newConnection, &server_,
-                     [this, raise = std::move(raise)] {
-                         while (QLocalSocket* socket = server_.nextPendingConnection())
-                             socket->deleteLater();
-                         raise();
-                     });
+// A connection alone says nothing: the system makes it for a program that is ending, too.
+bool SingleInstance::Other_Answers(int patienceMs) {
+    QLocalSocket socket;
+    socket.connectToServer(socket_);
+    return socket.waitForConnected(patienceMs) && socket.waitForReadyRead(patienceMs);
+}
+
+void SingleInstance::On_Raise(std::function<bool()> raise) {
+    const auto answer = [this, raise = std::move(raise)] {
+        while (QLocalSocket* socket = server_.nextPendingConnection()) {
+            QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+            if (raise()) {
+                socket->write(raisedAnswer);
+                socket->flush(); // whatever becomes of the event loop
+            }
+            socket->disconnectFromServer();
+        }
+    };
+    QObject::connect(&server_, &QLocalServer::newConnection, &server_, answer);
+    answer(); // to those who asked during the start
 }
 
 Folders Program_Folders() {

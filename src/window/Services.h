@@ -5,27 +5,13 @@
 
 #include <QElapsedTimer>
 #include <QLocalServer>
-#include <QLockFile>
 #include <QPointer>
-#include <QSettings>
 
 #include <memory>
 
 class QWidget;
 
 namespace Tensarix {
-
-// A per-user INI file; a group is a section.
-class IniSettings final : public SettingsStore {
-  public:
-    IniSettings();
-    std::optional<std::string> Read(std::string_view section, std::string_view key) override;
-    void Write(std::string_view section, std::string_view key, std::string_view text) override;
-    QSettings& File() { return file_; }
-
-  private:
-    QSettings file_;
-};
 
 class DesktopClipboard final : public Clipboard {
   public:
@@ -74,18 +60,37 @@ class DesktopWindow final : public MainWindow {
     QPointer<QWidget> widget_;
 };
 
-// A lock file of the user tells who was first; a local socket carries the wish to be raised. Both
-// are free again when their program has ended, however it ended.
+// A file that one process holds. The system itself takes it back when that process ends, however it
+// ends; what stands in the file, and how old it is, never counts.
+class ProcessLock {
+  public:
+    explicit ProcessLock(const QString& path);
+    ~ProcessLock();
+    ProcessLock(const ProcessLock&) = delete;
+    // False: another process holds it. Where no lock can be kept it is true.
+    bool Take();
+
+  private:
+    int file_;
+};
+
+// A lock tells who was first. A connection to the first one's local socket is the wish to be
+// raised, and is answered once that has been done. An instance that ends saves before it gives up
+// its lock: who waits for an answer meanwhile takes its place.
 class SingleInstance final : public Instance {
   public:
     SingleInstance();
     bool Other_Runs() override;
     void Raise_Other() override;
-    // The first instance: what to do when another one asks.
-    void On_Raise(std::function<void()> raise);
+    // The first instance: what to do when another one asks. False: it is closing, and gives no
+    // answer.
+    void On_Raise(std::function<bool()> raise);
 
   private:
-    QLockFile lock_;
+    bool Take_Place();
+    bool Other_Answers(int patienceMs);
+
+    ProcessLock lock_; // given up after the socket
     QString socket_;
     QLocalServer server_;
     bool first_ = false;

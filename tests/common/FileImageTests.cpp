@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <map>
+#include <string>
+
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Tensarix;
@@ -20,7 +25,45 @@ class FileImageTest : public testing::Test {
         fs::permissions(folder, fs::perms::owner_all);
         fs::remove_all(folder);
     }
+    // Everything in it, by name.
+    std::map<std::string, Bytes> All() const {
+        std::map<std::string, Bytes> all;
+        for (const auto& entry : fs::directory_iterator(folder))
+            all[entry.path().filename()] = Read_Whole_File(entry.path()).value_or(Bytes{});
+        return all;
+    }
     fs::path folder;
+};
+
+// A disk on which no file can grow beyond so many bytes.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t room) {
+        getrlimit(RLIMIT_FSIZE, &old_);
+        const rlimit limit{room, old_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &old_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    FullDisk(const FullDisk&) = delete;
+
+  private:
+    void (*handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit old_{};
+};
+
+// As a user whom permissions bind, which the superuser is not.
+class BoundByPermissions {
+  public:
+    BoundByPermissions() { set_ = geteuid() == 0 && seteuid(nobody) == 0; }
+    ~BoundByPermissions() { set_ = set_ && seteuid(0) == 0; }
+    BoundByPermissions(const BoundByPermissions&) = delete;
+
+  private:
+    static constexpr uid_t nobody = 65534;
+    bool set_ = false;
 };
 
 } // namespace
@@ -67,4 +110,52 @@ TEST_F(FileImageTest, AFailedReplacementLeavesTheOldFile) {
     EXPECT_FALSE(Read_Whole_File(folder / "none"));
     EXPECT_FALSE(Read_Whole_File(folder));
     EXPECT_FALSE(Read_Whole_File(folder / "a.dat", 2));
+}
+
+TEST_F(FileImageTest, OnAFullDiskTheOldFileStaysAlone) {
+    ASSERT_TRUE(Replace_File(folder / "a.dat", {1, 2, 3}));
+    const auto before = All();
+    struct {
+        rlim_t room;
+        std::size_t size;
+    } const cases[] = {{0, 1}, {100, 101}, {5000, 100000}};
+    for (const auto& each : cases) {
+        bool written = true;
+        {
+            const FullDisk disk(each.room);
+            written = Replace_File(folder / "a.dat", Bytes(each.size));
+        }
+        EXPECT_FALSE(written) << each.size;
+        EXPECT_EQ(All(), before) << each.size;
+    }
+}
+
+TEST_F(FileImageTest, InAFolderThatCannotBeWrittenTheOldFileStays) {
+    ASSERT_TRUE(Replace_File(folder / "a.dat", {1, 2, 3}));
+    const auto before = All();
+    fs::permissions(folder, fs::perms(0555));
+    {
+        const BoundByPermissions user;
+        EXPECT_FALSE(Replace_File(folder / "a.dat", {4}));
+        EXPECT_FALSE(Replace_File(folder / "b.dat", {4}));
+    }
+    EXPECT_FALSE(Replace_File(folder / "a.dat" / "c.dat", {4})); // no folder at all
+    EXPECT_EQ(All(), before);
+}
+
+// A killed program has left its new file, which may be longer.
+TEST_F(FileImageTest, WhatAKillLeftIsOverwritten) {
+    ASSERT_TRUE(Replace_File(folder / "a.dat.new", Bytes(1000)));
+    ASSERT_TRUE(Replace_File(folder / "a.dat", {1}));
+    EXPECT_EQ(All(), (std::map<std::string, Bytes>{{"a.dat", {1}}}));
+}
+
+TEST_F(FileImageTest, ALinkAndThePermissionsStay) {
+    ASSERT_TRUE(Replace_File(folder / "a.dat", {1}));
+    fs::permissions(folder / "a.dat", fs::perms(0600));
+    fs::create_symlink("a.dat", folder / "link");
+    ASSERT_TRUE(Replace_File(folder / "link", {2}));
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    EXPECT_EQ(Read_Whole_File(folder / "a.dat"), Bytes{2});
+    EXPECT_EQ(fs::status(folder / "a.dat").permissions(), fs::perms(0600));
 }

@@ -1,15 +1,25 @@
-// Two real processes of the program.
+// Several real processes of the program.
+#include "RealProcess.h"
 #include "WindowTest.h"
 
 #include <QFile>
-#include <QLockFile>
-#include <QProcess>
-#include <QTemporaryDir>
+
+#include <vector>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
 
 namespace {
+
+using Process = std::unique_ptr<QProcess>;
+
+bool Runs(const Process& process) {
+    return process->state() != QProcess::NotRunning;
+}
+
+bool Ended_Well(const Process& process) {
+    return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+}
 
 class InstanceTest : public testing::Test {
   protected:
@@ -17,43 +27,55 @@ class InstanceTest : public testing::Test {
 
     void SetUp() override { Use_Home(home.path()); }
 
-    static void Launch(QProcess& process) {
-        process.start(QStringLiteral(TENSARIX_PROGRAM_DIR "/tensarix"), QStringList());
-        ASSERT_TRUE(process.waitForStarted());
-    }
-    // The program has taken its place once its socket is there.
-    bool Wait_For_Socket() {
-        return QTest::qWaitFor([this] { return QFile::exists(home.path() + "/tensarix.socket"); },
-                               10000);
+    // The one that listens, and one for each connection to it.
+    qsizetype Sockets() const {
+        QFile file(QStringLiteral("/proc/net/unix"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count(home.path().toLocal8Bit()) : 0;
     }
 };
 
 } // namespace
 
 TEST_F(InstanceTest, TheSecondEndsQuietlyAndTheFirstGoesOn) {
-    QProcess first, second;
-    Launch(first);
-    ASSERT_TRUE(Wait_For_Socket());
-    Launch(second);
-    ASSERT_TRUE(second.waitForFinished(10000));
-    EXPECT_EQ(second.exitCode(), 0);
-    EXPECT_EQ(second.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(first.state(), QProcess::Running);
-    first.kill();
-    first.waitForFinished();
+    const Process first = Launch_Tensarix();
+    ASSERT_TRUE(Comes_Up(home.path()));
+    const Process second = Launch_Tensarix();
+    ASSERT_TRUE(second->waitForFinished(patienceMs));
+    EXPECT_TRUE(Ended_Well(second));
+    EXPECT_TRUE(Runs(first));
+    Kill(*first);
 }
 
-TEST_F(InstanceTest, WhatACrashedRunLeftBehindDoesNotBlockTheNext) {
-    QProcess first, second;
-    Launch(first);
-    ASSERT_TRUE(Wait_For_Socket());
-    first.kill();
-    ASSERT_TRUE(first.waitForFinished());
-    ASSERT_TRUE(QFile::exists(home.path() + "/tensarix.socket"));
-    Launch(second);
-    EXPECT_FALSE(second.waitForFinished(1500)); // it runs on
-    second.kill();
-    second.waitForFinished();
+// From the second round on a killed run has left its lock and its socket behind.
+TEST_F(InstanceTest, OfSeveralStartedAtOnceOneStays) {
+    for (std::size_t round = 0; round < 8; ++round) {
+        SCOPED_TRACE(round);
+        std::vector<Process> all(2 + round % 3);
+        for (Process& each : all)
+            each = Launch_Tensarix();
+        const auto running = [&all] { return std::count_if(all.begin(), all.end(), Runs); };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return running() <= 1; }, patienceMs));
+        EXPECT_EQ(running(), 1);
+        for (const Process& each : all)
+            EXPECT_TRUE(Runs(each) || Ended_Well(each));
+        EXPECT_TRUE(Comes_Up(home.path()));
+        for (Process& each : all)
+            Kill(*each);
+        ASSERT_TRUE(QFile::exists(home.path() + "/tensarix.socket"));
+    }
+}
+
+// As a run leaves it that is killed at the wrong moment, or a full disk.
+TEST_F(InstanceTest, WhatStandsInTheLockFileDoesNotCount) {
+    for (const QByteArray& text : {QByteArray(), QByteArray("1\ntensarix\n")}) {
+        QFile lock(home.path() + "/tensarix.lock");
+        ASSERT_TRUE(lock.open(QIODevice::WriteOnly) && lock.write(text) == text.size());
+        lock.close();
+        const Process program = Launch_Tensarix();
+        EXPECT_TRUE(Comes_Up(home.path()));
+        EXPECT_TRUE(Runs(program));
+        Kill(*program);
+    }
 }
 
 // The minimised window of the first comes back when the second asks.
@@ -61,9 +83,28 @@ TEST_F(InstanceTest, TheFirstWindowIsRaised) {
     Program first({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
     ASSERT_TRUE(first.Start());
     first.Window().showMinimized();
-    QProcess second;
-    Launch(second);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !first.Window().isMinimized(); }, 10000));
-    EXPECT_TRUE(second.state() == QProcess::NotRunning || second.waitForFinished(10000));
+    const Process second = Launch_Tensarix();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !first.Window().isMinimized(); }, patienceMs));
+    EXPECT_TRUE(!Runs(second) || second->waitForFinished(patienceMs));
+    EXPECT_TRUE(Ended_Well(second));
     first.Window().close();
+}
+
+// The first is closing: it takes no more wishes, and who asks must not end with it.
+TEST_F(InstanceTest, WhoAsksOneThatIsClosingTakesItsPlace) {
+    auto first =
+        std::make_unique<Program>(Folders{TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    ASSERT_TRUE(first->Start());
+    const qsizetype before = Sockets();
+    const Process second = Launch_Tensarix();
+    QElapsedTimer waited;
+    for (waited.start(); Sockets() == before && !waited.hasExpired(patienceMs);)
+        QThread::msleep(5); // without a turn of the event loop, which would answer
+    ASSERT_GT(Sockets(), before);
+    first->Window().close();
+    QCoreApplication::processEvents(); // the wish arrives at a closed window
+    first.reset();
+    EXPECT_TRUE(Comes_Up(home.path()));
+    EXPECT_TRUE(Runs(second));
+    Kill(*second);
 }

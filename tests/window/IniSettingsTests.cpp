@@ -1,0 +1,92 @@
+#include "WindowTest.h"
+#include "window/IniSettings.h"
+
+#include <QDir>
+
+using namespace Tensarix;
+using namespace Tensarix::Tests;
+
+namespace {
+
+class IniSettingsTest : public testing::Test {
+  protected:
+    QTemporaryDir home;
+    QString path = home.filePath("Tensarix/Tensarix.ini");
+
+    void SetUp() override { Use_Home(home.path()); }
+
+    QByteArray Text() const {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : "missing";
+    }
+    void Set_Text(const QByteArray& text) const {
+        QDir().mkpath(home.filePath("Tensarix"));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+};
+
+} // namespace
+
+TEST_F(IniSettingsTest, AnyTextComesBackUnderAnyName) {
+    const std::string texts[] = {"",
+                                 "-12.5",
+                                 " 12' - 6 3/8\" ",
+                                 "a, b; c",
+                                 "@Size(1)",
+                                 "\\x41 = \x01"
+                                 "f\n",
+                                 "\xC3\x98 \xE2\x82\xAC",
+                                 "%41",
+                                 "[Section]\na=b",
+                                 "Zm9v+/=="};
+    const std::string sections[] = {"TensarixSetting", "/opt/Ten sarix=1/\xC3\xA9\xE2\x82\xAC"};
+    {
+        IniSettings settings;
+        for (const std::string& section : sections)
+            for (const std::string& text : texts)
+                settings.Write(section, "key of " + text, text);
+    }
+    IniSettings settings;
+    for (const std::string& section : sections)
+        for (const std::string& text : texts)
+            EXPECT_EQ(settings.Read(section, "key of " + text), text) << Text().constData();
+}
+
+TEST_F(IniSettingsTest, WhatItDoesNotKnowStays) {
+    Set_Text("alone=1\n\n[Other]\nlist=a, b\npair=\"c, d\"\n\n[TensarixSetting]\nShapeType=3\n");
+    IniSettings settings;
+    settings.Write("TensarixSetting", "ShapeType", "4");
+    EXPECT_EQ(settings.Read("TensarixSetting", "ShapeType"), "4");
+    settings.Save();
+    const QByteArray saved = Text();
+    EXPECT_EQ(saved, "[Other]\nlist=\"a, b\"\npair=\"c, d\"\n\n[TensarixSetting]\nShapeType=4\n\n"
+                     "[General]\nalone=1\n");
+}
+
+// Once a turn, and only what is new.
+TEST_F(IniSettingsTest, ATurnOfTheEventLoopSaves) {
+    IniSettings settings;
+    settings.Write("TensarixSetting", "AlwaysOnTop", "1");
+    EXPECT_EQ(Text(), "missing");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Text(), "[TensarixSetting]\nAlwaysOnTop=1\n");
+    ASSERT_TRUE(QFile::remove(path));
+    settings.Write("TensarixSetting", "AlwaysOnTop", "1");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Text(), "missing");
+}
+
+// No folder can be made there: nothing is saved, nothing hangs, and the next change tries again.
+TEST_F(IniSettingsTest, WithoutAFolderItGoesOn) {
+    QFile(home.filePath("Tensarix")).open(QIODevice::WriteOnly);
+    IniSettings settings;
+    settings.Write("TensarixSetting", "OnTop", "1");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(settings.Read("TensarixSetting", "OnTop"), "1");
+    ASSERT_TRUE(QFile::remove(home.filePath("Tensarix")));
+    settings.Write("TensarixSetting", "OnTop", "0");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Text(), "[TensarixSetting]\nOnTop=0\n");
+}
