@@ -134,11 +134,13 @@ void IniSettings::Save() {
     if (!unsaved_)
         return;
     Read_Again();
-    const QByteArray image = Ini_Image(All());
     const QFileInfo place(file_.fileName());
+    const std::filesystem::path path = QFile::encodeName(place.filePath()).toStdString();
+    if (place.exists() && !Read_Whole_File(path))
+        return; // what stands there would be lost
+    const QByteArray image = Ini_Image(All());
     QDir().mkpath(place.path());
-    unsaved_ = !Replace_File(QFile::encodeName(place.filePath()).toStdString(),
-                             Bytes(image.begin(), image.end()));
+    unsaved_ = !Replace_File(path, Bytes(image.begin(), image.end()));
 }
 
 } // namespace Tensarix
