@@ -1,37 +1,12 @@
-// One pass of each search against the plain loops. The counter ratio_to_plain is the engine's time
-// over the plain loop's, measured in turn in the same run.
-#include <benchmark/benchmark.h>
-
-#include <algorithm>
-#include <chrono>
-
+// One pass of each search against the plain loops. Each counter is the engine's time over that
+// of the loop it is named for.
+#include "Compare.h"
 #include "PlainSearches.h"
 #include "connections/WeldConfigurations.h"
 #include "connections/WeldPass.h"
 
 namespace Tensarix {
 namespace {
-
-template <typename Work>
-double Seconds_Of(Work&& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-// The best of each in turns, so that another process on the machine weighs on neither.
-template <typename Engine, typename Reference>
-void Compare(benchmark::State& state, Engine&& engine, Reference&& reference) {
-    double best = 1e9;
-    double bestReference = 1e9;
-    for (auto _ : state) {
-        const double seconds = Seconds_Of(engine);
-        state.SetIterationTime(seconds);
-        best = std::min(best, seconds);
-        bestReference = std::min(bestReference, Seconds_Of(reference));
-    }
-    state.counters["ratio_to_plain"] = best / bestReference;
-}
 
 using Clock = std::chrono::steady_clock;
 
@@ -67,8 +42,9 @@ double Some_Bolt_Passes(const BoltCase& bolts, int stride) {
 
 void BM_BoltPass(benchmark::State& state) {
     const BoltCase bolts = Case_Of(state);
-    Compare(
-        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, BoltYieldStride)); },
+    Bench::Compare(
+        state, "ratio_to_plain",
+        [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, BoltYieldStride)); },
         [&] {
             benchmark::DoNotOptimize(Plain::BoltC(bolts.group, bolts.ex, bolts.angle, Passes));
         });
@@ -84,8 +60,9 @@ BENCHMARK(BM_BoltPass)
 // The program's stride against never asking.
 void BM_BoltYield(benchmark::State& state) {
     const BoltCase bolts = Case_Of(state);
-    Compare(
-        state, [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, BoltYieldStride)); },
+    Bench::Compare(
+        state, "ratio_to_never_asking",
+        [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, BoltYieldStride)); },
         [&] { benchmark::DoNotOptimize(Some_Bolt_Passes(bolts, Passes)); });
 }
 BENCHMARK(BM_BoltYield)->Args({3, 1, 8, 0})->Args({6, 2, 6, 75})->UseManualTime();
@@ -122,8 +99,9 @@ double Weld_Pass(const std::vector<WeldLine>& lines, std::int16_t strips, int st
 void BM_WeldPass(benchmark::State& state) {
     const std::vector<WeldLine> lines = Turned_Box(double(state.range(0)));
     const auto strips = std::int16_t(state.range(1));
-    Compare(
-        state, [&] { benchmark::DoNotOptimize(Weld_Pass(lines, strips, WeldYieldStride)); },
+    Bench::Compare(
+        state, "ratio_to_plain",
+        [&] { benchmark::DoNotOptimize(Weld_Pass(lines, strips, WeldYieldStride)); },
         [&] { benchmark::DoNotOptimize(Plain::WeldPassSums(lines, 123.4, strips)); });
 }
 BENCHMARK(BM_WeldPass)->Args({0, 4})->Args({30, 4})->Args({0, 32})->Args({30, 32})->UseManualTime();
@@ -131,8 +109,9 @@ BENCHMARK(BM_WeldPass)->Args({0, 4})->Args({30, 4})->Args({0, 32})->Args({30, 32
 // The clock looked at in the program's stride against never.
 void BM_WeldYield(benchmark::State& state) {
     const std::vector<WeldLine> lines = Turned_Box(double(state.range(0)));
-    Compare(
-        state, [&] { benchmark::DoNotOptimize(Weld_Pass(lines, 4, WeldYieldStride)); },
+    Bench::Compare(
+        state, "ratio_to_never_asking",
+        [&] { benchmark::DoNotOptimize(Weld_Pass(lines, 4, WeldYieldStride)); },
         [&] { benchmark::DoNotOptimize(Weld_Pass(lines, 4, 1 << 30)); });
 }
 BENCHMARK(BM_WeldYield)->Arg(0)->Arg(30)->UseManualTime();

@@ -1,9 +1,8 @@
 // A weld run on the screen, its report shown as it grows, against the search alone with a report
 // that nobody keeps.
+#include "Compare.h"
 #include "connections/WeldConfigurations.h"
 #include "window/Program.h"
-
-#include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -30,21 +29,14 @@ struct NoDisplay final : WeldDisplay {
     long passes = 0;
 };
 
-void Weld_Search_Alone(benchmark::State& state) {
-    const Case& c = cases[state.range(0)];
-    NoDisplay display;
+double Search_Alone(const Case& c, NoDisplay& display) {
     WeldState weld;
     auto turn = [] { return true; };
     SearchYield yield{turn, WeldYieldStride};
     WeldSearch search{weld, display, yield};
-    for (auto _ : state)
-        benchmark::DoNotOptimize(WeldConfigurationResult(c.item, std::atof(c.L), std::atof(c.kL),
-                                                         std::atof(c.aL), std::atof(c.angle),
-                                                         WeldModeC, search));
-    state.counters["passes"] =
-        benchmark::Counter(static_cast<double>(display.passes), benchmark::Counter::kAvgIterations);
+    return WeldConfigurationResult(c.item, std::atof(c.L), std::atof(c.kL), std::atof(c.aL),
+                                   std::atof(c.angle), WeldModeC, search);
 }
-BENCHMARK(Weld_Search_Alone)->DenseRange(0, 1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void Weld_Run_On_The_Screen(benchmark::State& state) {
     const Case& c = cases[state.range(0)];
@@ -60,11 +52,15 @@ void Weld_Run_On_The_Screen(benchmark::State& state) {
     for (const char* text : {c.L, c.kL, c.aL, c.angle})
         design.Welds.WeldFlex.Set_Text(row++, 1, text);
     QCoreApplication::processEvents();
-    for (auto _ : state)
-        design.Welds.StartIterationButton.Click();
+    NoDisplay display;
+    Bench::Compare(
+        state, "ratio_to_search_alone", [&] { design.Welds.StartIterationButton.Click(); },
+        [&] { benchmark::DoNotOptimize(Search_Alone(c, display)); });
+    state.counters["passes"] =
+        static_cast<double>(display.passes) / static_cast<double>(state.iterations());
     program.Window().close();
 }
-BENCHMARK(Weld_Run_On_The_Screen)->DenseRange(0, 1)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(Weld_Run_On_The_Screen)->DenseRange(0, 1)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 } // namespace
 
