@@ -4,20 +4,27 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
+
+#include <time.h>
 
 namespace Tensarix::Bench {
 
+inline double Cpu_Seconds() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+// Processor time: what is waited for another process doesn't count.
 template <typename Work>
 double Seconds_Of(Work&& work) {
-    const auto start = std::chrono::steady_clock::now();
+    const double start = Cpu_Seconds();
     work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return Cpu_Seconds() - start;
 }
 
 // Reports the work's time, and as a counter the work's best time over the reference's best. The
-// two take turns, so that another process on the machine weighs on neither. Register the benchmark
-// with UseManualTime.
+// two take turns, so that both meet the same machine. Register the benchmark with UseManualTime.
 template <typename Work, typename Reference>
 void Compare(benchmark::State& state, const char* counter, Work&& work, Reference&& reference) {
     double best = 1e9;

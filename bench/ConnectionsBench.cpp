@@ -5,6 +5,8 @@
 #include "connections/WeldConfigurations.h"
 #include "connections/WeldPass.h"
 
+#include <chrono>
+
 namespace Tensarix {
 namespace {
 

@@ -51,7 +51,8 @@ void View_All_To_Painted_Grid(benchmark::State& state) {
     ComboBox& families = program.Form().ViewAll.xShapeType;
     const auto show_another = [&] {
         families.Select(PipeFamily);
-        program.Window().grab();
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
     };
     const auto choose_longest = [&] { families.Select(UnEqualDoubleAngleFamily); };
     double painted = 1e9, unpainted = 1e9;
