@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QLocalSocket>
 #include <QMessageBox>
+#include <QShortcut>
 #include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
@@ -60,6 +61,9 @@ QMessageBox::StandardButton Ask(std::string_view text, std::string_view title, M
     QMessageBox box(Box_Icon(icon), To_Qt(title), To_Qt(text), buttons,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
+    const QShortcut copy(QKeySequence::Copy, &box);
+    QObject::connect(&copy, &QShortcut::activated, &box,
+                     [&box] { QGuiApplication::clipboard()->setText(box.text()); });
     const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
     QTimer::singleShot(0, qApp, Let_Go_Of_Buttons); // the press is handled before
     return answer;
