@@ -108,6 +108,8 @@ class Walk {
     void To(Mode mode) {
         program_.Form().OptButton[static_cast<std::size_t>(mode)].Select();
         Settle();
+        const QString button = QStringLiteral("OptButton%1").arg(static_cast<int>(mode));
+        program_.Window().findChild<QWidget*>(button)->setFocus();
     }
 
     void Browse() {
