@@ -181,6 +181,27 @@ class NoWheel final : public QObject {
     }
 };
 
+// A text that Tab goes to is chosen as a whole, ready to be copied, as that of a box would be.
+class WholeText final : public QObject {
+  public:
+    explicit WholeText(QLabel* label) : QObject(label), label_(label) {
+        label->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::FocusOut)
+            label_->setSelection(0, 0);
+        if (event->type() == QEvent::FocusIn &&
+            static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason)
+            label_->setSelection(0, static_cast<int>(label_->text().size()));
+        return false;
+    }
+
+  private:
+    QLabel* label_;
+};
+
 // Keys of a text box: every character passes the control's filter first.
 class TextKeys final : public QObject {
   public:
@@ -309,10 +330,15 @@ void Bind(QAbstractButton* widget, OptionButton& control) {
 }
 
 void Bind(QLabel* widget, Label& control) {
-    new Link(widget, control.Shown, [widget, &control] {
+    const bool stop = (widget->focusPolicy() & Qt::TabFocus) != 0;
+    new Link(widget, control.Shown, [widget, stop, &control] {
         widget->setText(To_Qt(control.Caption()));
         widget->setToolTip(To_Qt(control.Remark()));
+        if (stop) // there is nothing to be seen in an empty one
+            widget->setFocusPolicy(control.Caption().empty() ? Qt::ClickFocus : Qt::StrongFocus);
     });
+    if (stop)
+        new WholeText(widget);
 }
 
 void Bind(QGroupBox* widget, Frame& control) {

@@ -3,6 +3,8 @@
 #include "WindowTest.h"
 #include "window/CalcForm.h"
 #include "window/GridView.h"
+#include "window/IconList.h"
+#include "window/ReportView.h"
 #include "window/WtCalcsForm.h"
 
 #include <QAccessible>
@@ -15,6 +17,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -282,4 +285,73 @@ TEST_F(AccessGate, EveryScreen) {
     });
     offences.removeDuplicates();
     EXPECT_TRUE(offences.isEmpty()) << offences.join(QLatin1Char('\n')).toStdString();
+}
+
+// A screen reader tells of a cell its row, its column, its text and its remark.
+TEST_F(AccessGate, TablesTellTheirHeads) {
+    MainFrm& form = program->Form();
+    form.ViewAll.xShapeType.Select(4);
+    form.Find.fCriterion.Select(4);
+    form.Find.fValue.Set_Text("0");
+    form.Find.RunFind();
+    const std::tuple<Mode, const char*, FlexGrid&> grids[] = {
+        {Mode::Browse, "ShapeFlex", form.Browse.ShapeFlex},
+        {Mode::Find, "fShapeFlex", form.Find.fShapeFlex},
+        {Mode::ViewAll, "xShapeFlex", form.ViewAll.xShapeFlex},
+        {Mode::BeamLoad, "zShapeFlex", form.Beam.zShapeFlex},
+        {Mode::Connection, "cFlex", form.Design.Bolts.cFlex},
+        {Mode::Connection, "ccFlex", form.Design.Bolts.ccFlex},
+        {Mode::Connection, "WeldFlex", form.Design.Welds.WeldFlex}};
+    for (const auto& [mode, name, grid] : grids) {
+        SCOPED_TRACE(name);
+        form.OptButton[static_cast<std::size_t>(mode)].Select();
+        const int heads = grid.FixedRows(), row = std::min(heads + 2, grid.Rows() - 1);
+        grid.Set_Remark(row, 1, "doubtful");
+        Settle();
+        auto* table =
+            QAccessible::queryAccessibleInterface(&Find<GridView>(name))->tableInterface();
+        ASSERT_TRUE(table);
+        ASSERT_EQ(table->rowCount(), grid.Rows() - heads);
+        EXPECT_NE(grid.Text(row, 0), "");
+        EXPECT_EQ(table->rowDescription(row - heads).toStdString(), grid.Text(row, 0));
+        for (int col = 0; heads > 0 && col < grid.Cols(); ++col)
+            EXPECT_EQ(table->columnDescription(col).toStdString(), grid.Text(0, col));
+        QAccessibleInterface* const cell = table->cellAt(row - heads, 1);
+        EXPECT_EQ(cell->text(QAccessible::Name).toStdString(), grid.Text(row, 1));
+        EXPECT_EQ(cell->text(QAccessible::Description), "doubtful");
+    }
+}
+
+// What the mouse does by clicking, dragging and resting, with the keyboard.
+TEST_F(AccessGate, KeysForWhatTheMouseDoes) {
+    MainFrm& form = program->Form();
+    const auto key = [](QWidget& widget, Qt::Key code, Qt::KeyboardModifiers with = {}) {
+        widget.setFocus();
+        QTest::keyClick(&widget, code, with);
+        Settle();
+    };
+    key(Find<QPushButton>("OptButton0"), Qt::Key_Right);
+    EXPECT_TRUE(form.OptButton[1].Value());
+    key(Find<GridView>("fShapeFlex"), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(Find<QMenu>("mnuEdit1").isVisible());
+    Find<QMenu>("mnuEdit1").close();
+    form.Shared.StatBar.Set_Remark("doubtful");
+    Settle();
+    key(Find<GridView>("fShapeFlex"), Qt::Key_F1, Qt::ControlModifier);
+    EXPECT_TRUE(QToolTip::text().endsWith(QStringLiteral("\ndoubtful")));
+
+    form.OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
+    form.Design.DesignSSTab.Select(WeldTab);
+    int chosen = 0;
+    form.Design.Welds.WeldView.OnItemClick = [&chosen] { ++chosen; };
+    Settle();
+    key(Find<IconList>("WeldView"), Qt::Key_Down);
+    key(Find<IconList>("WeldView"), Qt::Key_Space); // the current one once more
+    EXPECT_EQ(chosen, 2);
+    form.Design.Welds.IterationDisplayBox.Append("one\r\ntwo\r\nthree\r\nfour");
+    auto& report = Find<ReportView>("IterationDisplayBox");
+    for (const Qt::Key code : {Qt::Key_End, Qt::Key_Up})
+        key(report, code, Qt::ShiftModifier);
+    key(report, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "one\ntwo\nthree");
 }

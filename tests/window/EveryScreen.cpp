@@ -35,6 +35,17 @@ void Activate(QWidget& top) {
     Settle();
 }
 
+// By Escape, which in the calculator clears what is being typed.
+void Leave(QWidget& dialog) {
+    if (dialog.isVisible() && !dynamic_cast<CalcForm*>(&dialog)) {
+        Activate(dialog);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible())
+            << "Escape leaves " << dialog.metaObject()->className() << " open";
+    }
+    dialog.close();
+}
+
 // Tries again until the next dialog has the keyboard.
 void When_Open(const QWidget* below, const std::shared_ptr<bool>& done, const Act& act,
                int tries = openTries) {
@@ -46,7 +57,7 @@ void When_Open(const QWidget* below, const std::shared_ptr<bool>& done, const Ac
             return When_Open(below, done, act, tries - 1);
         *done = true;
         act(*dialog);
-        dialog->close();
+        Leave(*dialog);
     });
 }
 
