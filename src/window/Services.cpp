@@ -112,9 +112,14 @@ void DesktopWindow::Set_On_Top(bool onTop) {
     if (!widget_ || widget_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop)
         return;
     const bool visible = widget_->isVisible();
+    QWidget* const focused = widget_->focusWidget();
     widget_->setWindowFlag(Qt::WindowStaysOnTopHint, onTop); // hides the window
-    if (visible)
-        widget_->show();
+    if (!visible)
+        return;
+    widget_->show();
+    widget_->activateWindow();
+    if (focused) // the keyboard stays where it was
+        focused->setFocus();
 }
 
 void DesktopWindow::Close() {
