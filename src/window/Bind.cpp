@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractListModel>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -19,11 +20,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -178,6 +181,27 @@ class NoWheel final : public QObject {
     }
 };
 
+// A text that Tab goes to is chosen as a whole, ready to be copied, as that of a box would be.
+class WholeText final : public QObject {
+  public:
+    explicit WholeText(QLabel* label) : QObject(label), label_(label) {
+        label->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::FocusOut)
+            label_->setSelection(0, 0);
+        if (event->type() == QEvent::FocusIn &&
+            static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason)
+            label_->setSelection(0, static_cast<int>(label_->text().size()));
+        return false;
+    }
+
+  private:
+    QLabel* label_;
+};
+
 // Keys of a text box: every character passes the control's filter first.
 class TextKeys final : public QObject {
   public:
@@ -214,7 +238,22 @@ class TextKeys final : public QObject {
 
 } // namespace
 
+// By itself a group learns this only from the focus.
+void Choose(QAbstractButton* option) {
+    option->setChecked(true);
+    for (auto* other :
+         option->parent()->findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
+        if (other->autoExclusive())
+            other->setFocusPolicy(other == option ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void Name_List(QComboBox* widget) {
+    widget->view()->setAccessibleName(
+        QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name));
+}
+
 Link* Bind(QComboBox* widget, ComboBox& control) {
+    Name_List(widget);
     auto* model = new ItemModel(control, widget);
     widget->setModel(model);
     widget->setMaxVisibleItems(listItemsShown);
@@ -285,16 +324,21 @@ void Bind(QAbstractButton* widget, OptionButton& control) {
         widget->setText(To_Qt(control.Caption()));
         widget->setEnabled(control.Enabled());
         if (control.Value())
-            widget->setChecked(true);
+            Choose(widget);
     });
     QObject::connect(widget, &QAbstractButton::clicked, link, [&control] { control.Select(); });
 }
 
 void Bind(QLabel* widget, Label& control) {
-    new Link(widget, control.Shown, [widget, &control] {
+    const bool stop = (widget->focusPolicy() & Qt::TabFocus) != 0;
+    new Link(widget, control.Shown, [widget, stop, &control] {
         widget->setText(To_Qt(control.Caption()));
         widget->setToolTip(To_Qt(control.Remark()));
+        if (stop) // there is nothing to be seen in an empty one
+            widget->setFocusPolicy(control.Caption().empty() ? Qt::ClickFocus : Qt::StrongFocus);
     });
+    if (stop)
+        new WholeText(widget);
 }
 
 void Bind(QGroupBox* widget, Frame& control) {
@@ -348,10 +392,10 @@ void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control) {
 }
 
 void Bind(QStatusBar* widget, StatusBar& control) {
-    const auto panel = [widget](const char* name, const char* accessibleName, int stretch) {
+    const auto panel = [widget](const char* name, const char* description, int stretch) {
         auto* label = new QLabel(widget);
         label->setObjectName(QLatin1String(name));
-        label->setAccessibleName(QLatin1String(accessibleName));
+        label->setAccessibleDescription(QLatin1String(description)); // its name is its text
         label->setTextFormat(Qt::PlainText);
         label->setMinimumWidth(1); // a long text must not widen the window
         widget->addWidget(label, stretch);
@@ -369,6 +413,12 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         count->setMinimumWidth(count->sizeHint().width()); // short, and never cut
     });
     Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
+    // Where the bar cuts a text, its tool tip has it whole: here is the key for that.
+    auto* whole = new QShortcut(Qt::CTRL | Qt::Key_F1, widget);
+    QObject::connect(whole, &QShortcut::activated, widget, [widget, panel1, remark] {
+        const QString texts = panel1->toolTip() + QLatin1Char('\n') + remark->toolTip();
+        QToolTip::showText(panel1->mapToGlobal(QPoint(0, 0)), texts.trimmed(), widget);
+    });
 }
 
 void Bind(QAction* action, MenuItem& control) {

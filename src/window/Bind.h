@@ -24,6 +24,12 @@ class GridView;
 class Link;
 class PictureView;
 
+// Checks the option, which is then the one of its group that Tab goes to.
+void Choose(QAbstractButton* option);
+
+// An open list is a window of its own, which a screen reader calls like its box.
+void Name_List(QComboBox* widget);
+
 // The link, for what else the widget takes over from its control.
 Link* Bind(QComboBox* widget, ComboBox& control);
 Link* Bind(QLineEdit* widget, TextBox& control);

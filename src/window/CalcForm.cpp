@@ -7,6 +7,7 @@
 #include "calculator/CalcStatistics.h"
 #include "shell/Version.h"
 #include "ui_CalcForm.h"
+#include "window/Bind.h"
 #include "window/CalcConstantForm.h"
 #include "window/CalcDataForm.h"
 #include "window/CalcHelpForm.h"
@@ -230,6 +231,7 @@ void CalcForm::Make_Modes() {
     }
     for (int digits = 0; digits < precisions; ++digits)
         ui_->PrecBox->addItem(QString::number(digits));
+    Name_List(ui_->PrecBox);
     ui_->PrecBox->installEventFilter(this);
     ui_->MultiPage1->tabBar()->installEventFilter(this);
     connect(ui_->PrecBox, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -272,7 +274,7 @@ void CalcForm::Show_Panel() {
         {ui_->GradButton, panel.Mode_Indicator == "GRADIAN"}};
     for (const auto& [option, chosen] : options)
         if (chosen)
-            option->setChecked(true);
+            Choose(option);
     ui_->PrecBox->setCurrentIndex(panel.PrecIndex);
     ui_->PrecBox->setEnabled(panel.PrecEnabled);
     ui_->PrecLab->setEnabled(panel.PrecEnabled);

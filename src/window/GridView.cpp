@@ -1,6 +1,7 @@
 #include "window/GridView.h"
 
 #include "window/Bind.h"
+#include "window/FocusFrame.h"
 #include "window/GridModel.h"
 #include "window/HeadView.h"
 #include "window/KeyCodes.h"
@@ -289,16 +290,21 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
-        if (!Tab_Key(*event))
-            QAbstractScrollArea::keyPressEvent(event);
+        Tab_Key(event);
         return;
     }
     if (!Move_Key(event))
         Edit_Key(event);
 }
 
-bool GridView::Tab_Key(const QKeyEvent& event) {
-    return grid_->OnTab && grid_->OnTab(event.key() == Qt::Key_Backtab);
+// From cell to cell while there is one to fill in; with Control out of the table at once.
+void GridView::Tab_Key(QKeyEvent* event) {
+    const bool back =
+        event->key() == Qt::Key_Backtab || (event->modifiers() & Qt::ShiftModifier) != 0;
+    if ((event->modifiers() & Qt::ControlModifier) != 0)
+        QAbstractScrollArea::focusNextPrevChild(!back);
+    else if (!grid_->OnTab || !grid_->OnTab(back))
+        event->ignore();
 }
 
 void GridView::Edit_Key(QKeyEvent* event) {
@@ -328,7 +334,9 @@ bool GridView::event(QEvent* event) {
             return true;
         }
     }
-    return QTableView::event(event);
+    const bool done = QTableView::event(event);
+    Show_Focus(*this, *event);
+    return done;
 }
 
 // Who comes by the keyboard sees where he is.

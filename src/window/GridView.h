@@ -60,7 +60,7 @@ class GridView : public QTableView {
     void Scrolled();
     void Reveal_Current();
     bool Move_Key(QKeyEvent* event);
-    bool Tab_Key(const QKeyEvent& event);
+    void Tab_Key(QKeyEvent* event);
     void Edit_Key(QKeyEvent* event);
     bool Go_To(int row, int col, bool extend);
     void Press(QTableView& pane, QMouseEvent* event);

@@ -5,6 +5,7 @@
 #include "window/Theme.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -78,6 +79,13 @@ void IconList::Clicked(int row) {
     if (!chosenByPress_)
         Attempt([&] { list_->Click(row + 1); });
     chosenByPress_ = false;
+}
+
+void IconList::keyPressEvent(QKeyEvent* event) {
+    QListWidget::keyPressEvent(event);
+    chosenByPress_ = false; // no click follows
+    if (event->key() == Qt::Key_Space)
+        Clicked(currentRow());
 }
 
 QSize IconList::sizeHint() const {

@@ -1,4 +1,5 @@
-// Shows a list of items with icons, which follow the palette. The arrow keys choose as clicks do.
+// Shows a list of items with icons, which follow the palette. The arrow keys choose as clicks do,
+// and the space bar the current one once more.
 #pragma once
 
 #include "controls/ListView.h"
@@ -20,6 +21,7 @@ class IconList : public QListWidget {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void Pull();

@@ -1,5 +1,6 @@
 #include "window/Link.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QMetaObject>
@@ -70,9 +71,13 @@ FocusLink::~FocusLink() {
     point_.Take = nullptr;
 }
 
-bool FocusLink::eventFilter(QObject*, QEvent* event) {
+bool FocusLink::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::FocusIn && event->type() != QEvent::FocusOut)
         return false;
+    // The open list of a box is a part of it.
+    for (const QObject* now = QApplication::focusWidget(); now; now = now->parent())
+        if (now == watched && event->type() == QEvent::FocusOut)
+            return false;
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
     if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
         reason == Qt::MenuBarFocusReason)

@@ -1,5 +1,7 @@
 #include "window/ReportView.h"
 
+#include "window/FocusFrame.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -177,16 +179,40 @@ bool ReportView::event(QEvent* event) {
     default:
         break;
     }
-    return QAbstractScrollArea::event(event);
+    const bool done = QAbstractScrollArea::event(event);
+    Show_Focus(*this, *event);
+    return done;
 }
 
 void ReportView::keyPressEvent(QKeyEvent* event) {
+    if ((event->modifiers() & Qt::ShiftModifier) != 0 && Select_Key(event->key()))
+        return;
     if (event->key() == Qt::Key_Home)
         verticalScrollBar()->setValue(0);
     else if (event->key() == Qt::Key_End)
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     else
         QAbstractScrollArea::keyPressEvent(event);
+}
+
+// Selects as a drag of the mouse does, beginning with the first line in view.
+bool ReportView::Select_Key(int key) {
+    QScrollBar& bar = *verticalScrollBar();
+    const int at = anchor_ < 0 ? bar.value() : end_, page = bar.pageStep();
+    const std::pair<int, int> moves[] = {{Qt::Key_Up, at - 1},        {Qt::Key_Down, at + 1},
+                                         {Qt::Key_PageUp, at - page}, {Qt::Key_PageDown, at + page},
+                                         {Qt::Key_Home, 0},           {Qt::Key_End, Lines() - 1}};
+    const auto* const move =
+        std::find_if(std::begin(moves), std::end(moves),
+                     [key](const std::pair<int, int>& entry) { return entry.first == key; });
+    if (move == std::end(moves))
+        return false;
+    if (anchor_ < 0)
+        anchor_ = at;
+    end_ = std::clamp(move->second, 0, Lines() - 1);
+    bar.setValue(std::clamp(bar.value(), end_ - page + 1, end_));
+    viewport()->update();
+    return true;
 }
 
 int ReportView::Line_At(const QPoint& point) const {

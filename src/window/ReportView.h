@@ -44,6 +44,7 @@ class ReportView : public QAbstractScrollArea {
     void Describe();
     void Copy();
     void Select_All();
+    bool Select_Key(int key);
     int Line_At(const QPoint& point) const;
     int Line_Height() const;
 

@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QLocalSocket>
 #include <QMessageBox>
+#include <QShortcut>
 #include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
@@ -60,6 +61,9 @@ QMessageBox::StandardButton Ask(std::string_view text, std::string_view title, M
     QMessageBox box(Box_Icon(icon), To_Qt(title), To_Qt(text), buttons,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
+    const QShortcut copy(QKeySequence::Copy, &box);
+    QObject::connect(&copy, &QShortcut::activated, &box,
+                     [&box] { QGuiApplication::clipboard()->setText(box.text()); });
     const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
     QTimer::singleShot(0, qApp, Let_Go_Of_Buttons); // the press is handled before
     return answer;
@@ -108,9 +112,14 @@ void DesktopWindow::Set_On_Top(bool onTop) {
     if (!widget_ || widget_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop)
         return;
     const bool visible = widget_->isVisible();
+    QWidget* const focused = widget_->focusWidget();
     widget_->setWindowFlag(Qt::WindowStaysOnTopHint, onTop); // hides the window
-    if (visible)
-        widget_->show();
+    if (!visible)
+        return;
+    widget_->show();
+    widget_->activateWindow();
+    if (focused) // the keyboard stays where it was
+        focused->setFocus();
 }
 
 void DesktopWindow::Close() {
