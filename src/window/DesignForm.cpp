@@ -5,7 +5,9 @@
 #include "window/Bind.h"
 #include "window/CellOverlay.h"
 
+#include <QApplication>
 #include <QTabWidget>
+#include <QTimer>
 
 #include <cmath>
 
@@ -44,6 +46,18 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     return form;
 }
 
+// Of two buttons of which one is enabled at a time: the keyboard stays with the pair.
+void Share_Focus(QPushButton* one, QPushButton* other) {
+    const auto hand_over = [](QPushButton* from, QPushButton* to) {
+        QObject::connect(qApp, &QApplication::focusChanged, from, [from, to](QWidget* old) {
+            if (old == from && !from->isEnabled())
+                QTimer::singleShot(0, to, [to] { to->setFocus(); });
+        });
+    };
+    hand_over(one, other);
+    hand_over(other, one);
+}
+
 QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     auto* form = new QWidget(parent);
     Ui::WeldForm ui;
@@ -64,6 +78,7 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.StartIterationButton, page.StartIterationButton);
     Bind(ui.StopIterationButton, page.StopIterationButton);
     Bind(ui.ClearDisplayButton, page.ClearDisplayButton);
+    Share_Focus(ui.StartIterationButton, ui.StopIterationButton);
     return form;
 }
 

@@ -239,8 +239,9 @@ void GridView::Reveal_Current() {
 }
 
 bool GridView::Go_To(int row, int col, bool extend) {
+    const int first = grid_->OnTab ? grid_->FixedCols() : 0; // to fill in, a head is of no use
     row = std::clamp(row, grid_->FixedRows(), grid_->Rows() - 1);
-    col = std::clamp(col, 0, grid_->Cols() - 1);
+    col = std::clamp(col, first, grid_->Cols() - 1);
     grid_->Go_To(row, col, extend);
     Reveal_Current();
     return true;

@@ -41,6 +41,9 @@ MainForm::MainForm(MainFrm& form, SettingsStore& settings, DesktopEvents& events
     for (std::size_t i = 0; i < form.OptButton.size(); ++i) {
         Show_Chosen_In_Bold(modes[i]);
         Bind(modes[i], form.OptButton[i]);
+        const QKeySequence key(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(i)));
+        modes[i]->setShortcut(key);
+        modes[i]->setToolTip(key.toString(QKeySequence::NativeText));
     }
     // One page a mode, in their order.
     ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));

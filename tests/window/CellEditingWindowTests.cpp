@@ -164,6 +164,8 @@ TEST_F(EditedGrid, ArrowsWalkInTheTextAndLeaveAtItsEnds) {
     EXPECT_TRUE(line->isVisible()) << "Shift selects";
     Key(Qt::Key_Left);
     EXPECT_EQ(Where(), "1,1");
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(Where(), "1,1") << "a row's head is not to be filled in";
 }
 
 TEST_F(EditedGrid, TheMouse) {

@@ -75,10 +75,8 @@ void Keys_To(QWidget& top, const char* name, const char* keys) {
     Activate(top);
     auto* const widget = top.findChild<QWidget*>(QLatin1String(name));
     widget->setFocus();
-    if (qobject_cast<GridView*>(widget)) {
+    if (qobject_cast<GridView*>(widget))
         QTest::keyClick(widget, Qt::Key_Home, Qt::ControlModifier);
-        QTest::keyClick(widget, Qt::Key_Right);
-    }
     for (; *keys; ++keys) {
         Settle();
         QTest::keyClick(QApplication::focusWidget(), *keys);
