@@ -17,6 +17,7 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     Bind(ui.zShapeSizeSI, page.zShapeSizeSI);
     Bind(ui.ShapeLab, page.ShapeLab);
     Bind(ui.zShapeFlex, page.zShapeFlex);
+    ui.zShapeFlex->Show_All_Columns();
     Bind(ui.AppliedCode, page.AppliedCode);
     Bind(ui.CodeFrame, page.CodeFrame);
     Bind(ui.CodeOpt0, page.CodeOpt[0]);

@@ -13,6 +13,7 @@
 #include "window/CalcHelpForm.h"
 #include "window/CalcKeyLayout.h"
 #include "window/CalcMemoryForm.h"
+#include "window/FittingArea.h"
 #include "window/KeyCodes.h"
 #include "window/Theme.h"
 
@@ -37,7 +38,6 @@ constexpr int displayCharacters = 17, exponentCharacters = 3;
 constexpr double displaySize = 3.2, exponentSize = 2.1; // against the font of the form, at least
 constexpr double exponentRaise = 0.2;
 constexpr int precisions = 15;
-constexpr double screenPart = 0.92;                  // at most, of its height and width
 constexpr int pageTop = 8;                           // from the tabs to the keys
 constexpr int dialogOffset = 90, pointsPerInch = 72; // of the memory dialog, to the right
 
@@ -120,7 +120,9 @@ CalcForm::CalcForm(const Desk& desk, CalcVariables& vars, QWidget* parent)
     Colour_Panel();
     Open(calc_);
     Show_Panel();
-    resize(sizeHint().boundedTo(screen()->availableSize() * screenPart));
+    Let_Scroll(*this);
+    restoreGeometry(QByteArray::fromBase64(
+        QByteArray::fromStdString(Settings(desk_.Host.Store).Text(Setting::CalculatorPlace))));
     setFocus();
 }
 
@@ -371,6 +373,8 @@ bool CalcForm::Clock_Yield() {
 void CalcForm::done(int result) {
     if (!closed_) {
         closed_ = true;
+        Settings(desk_.Host.Store)
+            .Save(Setting::CalculatorPlace, saveGeometry().toBase64().toStdString());
         Close(calc_);
     }
     if (clockLoop_)

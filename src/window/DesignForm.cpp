@@ -4,25 +4,22 @@
 #include "ui_WeldForm.h"
 #include "window/Bind.h"
 #include "window/CellOverlay.h"
+#include "window/FittingArea.h"
 
 #include <QTabWidget>
-
-#include <cmath>
 
 namespace Tensarix {
 
 namespace {
 
 constexpr int remarkLines = 4;
+constexpr int remarkWidth = 30; // average characters
 
-// A small grid shows all its rows.
-void Fit_Rows(GridView* view, const FlexGrid& grid) {
-    long height = 0;
-    for (int row = 0; row < grid.Rows(); ++row)
-        height += std::lround(grid.RowHeight(row) * view->Twip_Scale());
-    view->setFixedHeight(static_cast<int>(height) + 2 * view->frameWidth());
-    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+// A small grid shows whole.
+void Show_Whole(GridView* view) {
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->Show_All_Rows();
+    view->Show_All_Columns();
 }
 
 QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
@@ -34,9 +31,10 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
              QStringLiteral("Bolt group input"));
     Bind(ui.ccFlex, page.ccFlex);
     Bind(ui.xxFlex, page.xxFlex);
-    Fit_Rows(ui.ccFlex, page.ccFlex);
-    Fit_Rows(ui.xxFlex, page.xxFlex);
+    Show_Whole(ui.ccFlex);
+    Show_Whole(ui.xxFlex);
     Bind(ui.RowRemark, page.RowRemark);
+    ui.RowRemark->setFixedWidth(remarkWidth * ui.RowRemark->fontMetrics().averageCharWidth());
     Bind(ui.AddRowButton, page.AddRowButton);
     Bind(ui.RemRowButton, page.RemRowButton);
     Bind(ui.SaveButton, page.SaveButton);
@@ -53,7 +51,7 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.WeldFlex, page.WeldFlex);
     Lay_Over(ui.WeldFlex, page.WeldFlex, page.EdiTxtA, QStringLiteral("EdiTxtA"),
              QStringLiteral("Weld parameter"));
-    Fit_Rows(ui.WeldFlex, page.WeldFlex);
+    Show_Whole(ui.WeldFlex);
     Bind(ui.WeldStripBox, page.WeldStripBox);
     Bind(ui.IterationDisplayBox, page.IterationDisplayBox);
     Bind(ui.ElapsedIndicator, page.ElapsedIndicator);
@@ -72,8 +70,10 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
 QWidget* Make_Design_Form(DesignPage& page, QWidget* parent) {
     auto* tabs = new QTabWidget(parent);
     tabs->setObjectName(QStringLiteral("DesignSSTab"));
-    tabs->addTab(Make_Bolt_Form(page.Bolts, tabs), QStringLiteral("Bolt Coefficient"));
-    tabs->addTab(Make_Weld_Form(page.Welds, tabs), QStringLiteral("Weld Coefficient"));
+    tabs->addTab(new FittingArea(Make_Bolt_Form(page.Bolts, tabs)),
+                 QStringLiteral("Bolt Coefficient"));
+    tabs->addTab(new FittingArea(Make_Weld_Form(page.Welds, tabs)),
+                 QStringLiteral("Weld Coefficient"));
     Bind(tabs, page.DesignSSTab);
     return tabs;
 }

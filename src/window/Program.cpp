@@ -4,6 +4,7 @@
 #include "shell/Version.h"
 #include "window/AboutForm.h"
 #include "window/CalcForm.h"
+#include "window/MarkStyle.h"
 #include "window/WtCalcsForm.h"
 
 #include <QApplication>
@@ -37,6 +38,7 @@ void Program::Prepare_Application() {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tensarix.svg")));
     QApplication::setKeyboardInputInterval(typedSearchMs);
     QLocale::setDefault(QLocale::c());
+    Use_Mark_Style();
 }
 
 Program::Program(const Folders& folders)

@@ -1,0 +1,73 @@
+#include "window/FittingArea.h"
+
+#include <QDialog>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr double screenPart = 0.92;             // the rest is the frame's
+constexpr int leastWidth = 40, leastLines = 12; // average characters
+
+QSize Character_Size(const QWidget& widget) {
+    return {widget.fontMetrics().averageCharWidth(), widget.fontMetrics().lineSpacing()};
+}
+
+} // namespace
+
+FittingArea::FittingArea(QWidget* contents, QWidget* parent) : QScrollArea(parent) {
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(contents);
+    // What lies behind shows, as it would without the area.
+    contents->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+}
+
+QSize FittingArea::sizeHint() const {
+    const QSize size = widget()->sizeHint();
+    return size.expandedTo({0, widget()->heightForWidth(size.width())});
+}
+
+QSize FittingArea::minimumSizeHint() const {
+    const QSize one = Character_Size(*this);
+    return QSize(leastWidth * one.width(), leastLines * one.height()).boundedTo(sizeHint());
+}
+
+bool FittingArea::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::viewportEvent(event);
+}
+
+// The keys are for the window.
+void FittingArea::keyPressEvent(QKeyEvent* event) {
+    event->ignore();
+}
+
+void Fit_To_Screen(QWidget& window, QSize wanted) {
+    window.resize(wanted.boundedTo(window.screen()->availableSize() * screenPart));
+}
+
+void Let_Scroll(QDialog& dialog, QSize characters) {
+    const auto constraint = dialog.layout()->sizeConstraint();
+    dialog.layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    auto* contents = new QWidget;
+    contents->setLayout(dialog.layout());
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(new FittingArea(contents, &dialog));
+    const QSize one = Character_Size(dialog);
+    const QSize least(characters.width() * one.width(), characters.height() * one.height());
+    Fit_To_Screen(dialog, dialog.sizeHint().expandedTo(least));
+    if (constraint == QLayout::SetFixedSize)
+        dialog.setFixedSize(dialog.size());
+}
+
+} // namespace Tensarix
