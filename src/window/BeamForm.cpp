@@ -2,11 +2,12 @@
 
 #include "ui_BeamForm.h"
 #include "window/Bind.h"
+#include "window/FittingArea.h"
 
 namespace Tensarix {
 
 QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::BeamForm ui;
     ui.setupUi(form);
     ui.AppliedCode->addTab(QStringLiteral(" Per AISC 9th Edition "));

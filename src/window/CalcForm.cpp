@@ -38,8 +38,9 @@ constexpr int displayCharacters = 17, exponentCharacters = 3;
 constexpr double displaySize = 3.2, exponentSize = 2.1; // against the font of the form, at least
 constexpr double exponentRaise = 0.2;
 constexpr int precisions = 15;
-constexpr int pageTop = 8;                           // from the tabs to the keys
-constexpr int dialogOffset = 90, pointsPerInch = 72; // of the memory dialog, to the right
+constexpr double calculatorPart = 0.9, leastPoints = 6; // of a small screen's height; font
+constexpr int pageTop = 8;                              // from the tabs to the keys
+constexpr int dialogOffset = 90, pointsPerInch = 72;    // of the memory dialog, to the right
 
 // The display's own colours.
 constexpr QRgb panelLight = 0xFFDFE8D6, inkLight = 0xFF10200F;
@@ -120,6 +121,7 @@ CalcForm::CalcForm(const Desk& desk, CalcVariables& vars, QWidget* parent)
     Colour_Panel();
     Open(calc_);
     Show_Panel();
+    Fit_Font();
     Let_Scroll(*this);
     restoreGeometry(QByteArray::fromBase64(
         QByteArray::fromStdString(Settings(desk_.Host.Store).Text(Setting::CalculatorPlace))));
@@ -185,6 +187,16 @@ void CalcForm::Show_Help() {
                     desk_.ReadOut, speak);
     CalcHelpForm dialog(frm, desk_.Host.Speech, this);
     Open_Dialog(dialog);
+}
+
+// The display and the keys stand together: on a small screen they are rather small than scrolled.
+void CalcForm::Fit_Font() {
+    const int room = static_cast<int>(screen()->availableSize().height() * calculatorPart);
+    QFont smaller = font();
+    while (layout()->totalMinimumSize().height() > room && smaller.pointSizeF() > leastPoints) {
+        smaller.setPointSizeF(smaller.pointSizeF() - 1);
+        setFont(smaller);
+    }
 }
 
 // Keys and pages

@@ -13,6 +13,7 @@ namespace Tensarix {
 namespace {
 
 constexpr int remarkLines = 4;
+const QString widestResult = QStringLiteral("  ** 0000.00000  ");
 constexpr int remarkWidth = 30; // average characters
 
 // A small grid shows whole.
@@ -22,8 +23,16 @@ void Show_Whole(GridView* view) {
     view->Show_All_Columns();
 }
 
+// A remark is as wide as its column, which a long one does not widen.
+void Keep_Width(QLabel* remark) {
+    QSizePolicy policy = remark->sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    remark->setSizePolicy(policy);
+    remark->setMinimumWidth(remarkWidth * remark->fontMetrics().averageCharWidth());
+}
+
 QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::BoltForm ui;
     ui.setupUi(form);
     Bind(ui.cFlex, page.cFlex);
@@ -34,7 +43,7 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     Show_Whole(ui.ccFlex);
     Show_Whole(ui.xxFlex);
     Bind(ui.RowRemark, page.RowRemark);
-    ui.RowRemark->setFixedWidth(remarkWidth * ui.RowRemark->fontMetrics().averageCharWidth());
+    Keep_Width(ui.RowRemark);
     Bind(ui.AddRowButton, page.AddRowButton);
     Bind(ui.RemRowButton, page.RemRowButton);
     Bind(ui.SaveButton, page.SaveButton);
@@ -43,7 +52,7 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
 }
 
 QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::WeldForm ui;
     ui.setupUi(form);
     Bind(ui.WeldView, page.WeldView);
@@ -56,6 +65,7 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.IterationDisplayBox, page.IterationDisplayBox);
     Bind(ui.ElapsedIndicator, page.ElapsedIndicator);
     Bind(ui.CBox, page.CBox);
+    ui.CBox->setMinimumWidth(ui.CBox->fontMetrics().horizontalAdvance(widestResult));
     Bind(ui.CRemark, page.CRemark);
     // Its room is kept, so that nothing moves when a run ends.
     ui.CRemark->setMinimumHeight(remarkLines * ui.CRemark->fontMetrics().lineSpacing());

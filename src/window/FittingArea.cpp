@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace Tensarix {
@@ -20,19 +21,23 @@ QSize Character_Size(const QWidget& widget) {
 
 } // namespace
 
-FittingArea::FittingArea(QWidget* contents, QWidget* parent) : QScrollArea(parent) {
+int FittingPage::heightForWidth(int width) const {
+    return layout()->hasHeightForWidth() ? layout()->minimumHeightForWidth(width) : -1;
+}
+
+FittingArea::FittingArea(QWidget* page, QWidget* parent) : QScrollArea(parent) {
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
-    setWidget(contents);
+    setWidget(page);
     // What lies behind shows, as it would without the area.
-    contents->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
 }
 
 QSize FittingArea::sizeHint() const {
     const QSize size = widget()->sizeHint();
-    return size.expandedTo({0, widget()->heightForWidth(size.width())});
+    return size.expandedTo({0, widget()->layout()->heightForWidth(size.width())});
 }
 
 QSize FittingArea::minimumSizeHint() const {
@@ -58,14 +63,18 @@ void Fit_To_Screen(QWidget& window, QSize wanted) {
 void Let_Scroll(QDialog& dialog, QSize characters) {
     const auto constraint = dialog.layout()->sizeConstraint();
     dialog.layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
-    auto* contents = new QWidget;
-    contents->setLayout(dialog.layout());
+    auto* page = new FittingPage;
+    page->setLayout(dialog.layout());
+    auto* area = new FittingArea(page, &dialog);
     auto* layout = new QVBoxLayout(&dialog);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new FittingArea(contents, &dialog));
+    layout->addWidget(area);
     const QSize one = Character_Size(dialog);
     const QSize least(characters.width() * one.width(), characters.height() * one.height());
-    Fit_To_Screen(dialog, dialog.sizeHint().expandedTo(least));
+    const QSize wanted = dialog.sizeHint().expandedTo(least);
+    Fit_To_Screen(dialog, wanted);
+    if (page->minimumSizeHint().height() > dialog.height()) // beside the contents, not over them
+        Fit_To_Screen(dialog, wanted + QSize(area->verticalScrollBar()->sizeHint().width(), 0));
     if (constraint == QLayout::SetFixedSize)
         dialog.setFixedSize(dialog.size());
 }

@@ -7,13 +7,23 @@ class QDialog;
 
 namespace Tensarix {
 
+// The page of such an area: scrolls below the least height of its parts, not below the one they
+// would like.
+class FittingPage final : public QWidget {
+    Q_OBJECT
+
+  public:
+    using QWidget::QWidget;
+    int heightForWidth(int width) const override;
+};
+
 class FittingArea final : public QScrollArea {
     Q_OBJECT
 
   public:
-    explicit FittingArea(QWidget* contents, QWidget* parent = nullptr);
+    explicit FittingArea(QWidget* page, QWidget* parent = nullptr);
 
-    // The contents at their full size; the least is small whatever they are.
+    // The page at its full size; the least is small whatever it is.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -27,7 +27,7 @@ namespace {
 constexpr double designFontHeight = 13;
 constexpr double twipsToPixel = 1.0 / 15;
 constexpr int cellMargin = 12;
-constexpr int leastRows = 5;
+constexpr int leastRows = 3;
 
 } // namespace
 
@@ -186,18 +186,17 @@ int GridView::Column_Pixels(int col) const {
                     Fitting_Width(col));
 }
 
-// The names in a fixed column are never cut, nor are the heads, or their words where they wrap.
+// The names in a fixed column are never cut, nor are the heads, or their words where they wrap, nor
+// the last column, which is stretched anyway.
 int GridView::Fitting_Width(int col) const {
     static const QRegularExpression words(QStringLiteral("\\s")), lines(QStringLiteral("\n"));
+    const bool whole = col < grid_->FixedCols() || col == grid_->Cols() - 1;
     int width = 0;
-    for (int row = 0; row < grid_->Rows(); ++row) {
-        if (col >= grid_->FixedCols() && row >= grid_->FixedRows())
-            break;
+    for (int row = 0; row < (whole ? grid_->Rows() : grid_->FixedRows()); ++row)
         for (const QString& line :
              QString::fromStdString(grid_->Text(row, col))
                  .split(row < grid_->FixedRows() && grid_->WordWrap() ? words : lines))
             width = std::max(width, fontMetrics().horizontalAdvance(line));
-    }
     return width == 0 ? 0 : width + cellMargin;
 }
 

@@ -101,6 +101,15 @@ TEST_F(CalcWindowTest, ARemarkStandsUnderTheNumberUntilTheNextKey) {
         Type(calculator, "5");
         EXPECT_EQ(remark.text(), "");
     });
+TEST_F(CalcWindowTest, ComesBackInItsLastSize) {
+    QSize last;
+    Calculate([&last](QWidget& calculator) {
+        last = calculator.size() + QSize(40, 30);
+        calculator.resize(last);
+    });
+    Stop();
+    Start();
+    Calculate([last](QWidget& calculator) { EXPECT_EQ(calculator.size(), last); });
 }
 
 TEST_F(CalcWindowTest, TypedKeys) {
