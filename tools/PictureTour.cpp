@@ -32,13 +32,15 @@ namespace {
 
 using namespace Tensarix;
 
+constexpr int layoutTurns = 5; // until page and window have followed a change
+
 class Tour {
   public:
     Tour(Program& program, const QString& folder) : program_(program), folder_(folder) {}
 
     void Take(const QString& name, QWidget& widget) {
-        QCoreApplication::processEvents(); // takes over the change
-        QCoreApplication::processEvents(); // lays out anew what it has widened
+        for (int turn = 0; turn < layoutTurns; ++turn)
+            QCoreApplication::processEvents();
         const QString path = folder_ + QLatin1Char('/') + name + QStringLiteral(".png");
         if (!widget.grab().save(path))
             failed_ = true;

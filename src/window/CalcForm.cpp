@@ -38,9 +38,10 @@ constexpr int displayCharacters = 17, exponentCharacters = 3;
 constexpr double displaySize = 3.2, exponentSize = 2.1; // against the font of the form, at least
 constexpr double exponentRaise = 0.2;
 constexpr int precisions = 15;
-constexpr double calculatorPart = 0.9, leastPoints = 6; // of a small screen's height; font
-constexpr int pageTop = 8;                              // from the tabs to the keys
-constexpr int dialogOffset = 90, pointsPerInch = 72;    // of the memory dialog, to the right
+constexpr double calculatorPart = 0.9; // of a small screen's height
+constexpr double leastPoints = 6, fontStep = 0.95;
+constexpr int pageTop = 8;                           // from the tabs to the keys
+constexpr int dialogOffset = 90, pointsPerInch = 72; // of the memory dialog, to the right
 
 // The display's own colours.
 constexpr QRgb panelLight = 0xFFDFE8D6, inkLight = 0xFF10200F;
@@ -189,13 +190,24 @@ void CalcForm::Show_Help() {
     Open_Dialog(dialog);
 }
 
+// All parts tell their sizes anew, from the inside.
+void CalcForm::Measure_Anew() {
+    const QList<QWidget*> parts = findChildren<QWidget*>();
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+        if ((*part)->layout())
+            (*part)->layout()->invalidate();
+        (*part)->updateGeometry();
+    }
+}
+
 // The display and the keys stand together: on a small screen they are rather small than scrolled.
 void CalcForm::Fit_Font() {
     const int room = static_cast<int>(screen()->availableSize().height() * calculatorPart);
     QFont smaller = font();
     while (layout()->totalMinimumSize().height() > room && smaller.pointSizeF() > leastPoints) {
-        smaller.setPointSizeF(smaller.pointSizeF() - 1);
+        smaller.setPointSizeF(smaller.pointSizeF() * fontStep);
         setFont(smaller);
+        Measure_Anew();
     }
 }
 

@@ -13,7 +13,7 @@ namespace Tensarix {
 namespace {
 
 constexpr int remarkLines = 4;
-const QString widestResult = QStringLiteral("  ** 0000.00000  ");
+const QString widestResult = QStringLiteral("** 000.00000   ");
 constexpr int remarkWidth = 30; // average characters
 
 // A small grid shows whole.

@@ -51,6 +51,17 @@ bool FittingArea::viewportEvent(QEvent* event) {
     return QScrollArea::viewportEvent(event);
 }
 
+// What shows of a grid's cell decides how it is painted.
+void FittingArea::scrollContentsBy(int dx, int dy) {
+    QScrollArea::scrollContentsBy(dx, dy);
+    viewport()->update();
+}
+
+void FittingArea::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    viewport()->update();
+}
+
 // The keys are for the window.
 void FittingArea::keyPressEvent(QKeyEvent* event) {
     event->ignore();

@@ -29,6 +29,8 @@ class FittingArea final : public QScrollArea {
 
   protected:
     bool viewportEvent(QEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

@@ -24,12 +24,13 @@ QFont Cell_Font(QFont font, const CellStyle& style) {
     return font;
 }
 
-// What is cut off a number makes another one: in a cell that reaches over the edge of the view, the
-// text ends before it, with an ellipsis.
+// What is cut off a number makes another one: in a cell that reaches over the edge of what shows of
+// the view, the text ends before it, with an ellipsis.
 QRect Place_In_View(const QStyleOptionViewItem& option) {
     QRect place = option.rect;
     if (const auto* view = qobject_cast<const QAbstractScrollArea*>(option.widget))
-        place.setRight(std::min(place.right(), view->viewport()->rect().right()));
+        place.setRight(
+            std::min(place.right(), view->viewport()->visibleRegion().boundingRect().right()));
     return place;
 }
 

@@ -35,6 +35,8 @@ using namespace Tensarix::Tests;
 
 namespace {
 
+constexpr int layoutTurns = 5; // until page and window have followed a remark that has come
+
 // The offences of one screen.
 class Inspection {
   public:
@@ -242,6 +244,8 @@ class GeometryTest : public WindowTest, public testing::WithParamInterface<Varia
 TEST_P(GeometryTest, EveryScreenHolds) {
     std::set<std::string> offences;
     For_Each_Screen(*program, [&offences](const std::string& name, QWidget& top) {
+        for (int turn = 0; turn < layoutTurns; ++turn)
+            QCoreApplication::processEvents();
         Inspection(name, offences).Look_At(top);
     });
     EXPECT_EQ(program->Window().size(), GetParam().Window);
