@@ -194,9 +194,9 @@ void CalcForm::Show_Help() {
 void CalcForm::Measure_Anew() {
     const QList<QWidget*> parts = findChildren<QWidget*>();
     for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
-        if ((*part)->layout())
-            (*part)->layout()->invalidate();
         (*part)->updateGeometry();
+        if ((*part)->layout())
+            (*part)->layout()->activate();
     }
 }
 
@@ -208,6 +208,7 @@ void CalcForm::Fit_Font() {
         smaller.setPointSizeF(smaller.pointSizeF() * fontStep);
         setFont(smaller);
         Measure_Anew();
+        layout()->invalidate();
     }
 }
 

@@ -7,7 +7,6 @@
 #include "window/ElidedLabel.h"
 #include "window/FittingArea.h"
 #include "window/GridView.h"
-#include "window/MarkStyle.h"
 #include "window/ReportView.h"
 
 #include <QComboBox>
@@ -262,10 +261,9 @@ INSTANTIATE_TEST_SUITE_P(Screens, GeometryTest,
                          [](const auto& variant) { return std::string(variant.param.Name); });
 
 // An option that isn't chosen is seen under a dark palette.
-TEST(MarkStyleTest, MarksStandOutFromADarkBackground) {
+TEST(ProgramStyleTest, MarksStandOutFromADarkBackground) {
     constexpr int leastDifference = 60;
     QRadioButton option;
-    option.setStyle(new MarkStyle);
     option.setPalette(QPalette(QColor(0x2b, 0x2f, 0x33), QColor(0x23, 0x26, 0x29)));
     const QImage mark = option.grab().toImage();
     int brightest = 0;

@@ -1,8 +1,7 @@
-#include "window/MarkStyle.h"
+#include "window/ProgramStyle.h"
 
 #include "window/Theme.h"
 
-#include <QApplication>
 #include <QStyleOptionButton>
 
 namespace Tensarix {
@@ -22,21 +21,20 @@ QPalette With_Seen_Lines(QPalette palette) {
 
 } // namespace
 
-MarkStyle::MarkStyle() : QProxyStyle(mendedStyle) {}
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* data) const {
+    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+}
 
-void MarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
-                              QPainter* painter, const QWidget* widget) const {
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
     const auto* mark = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (element != PE_IndicatorRadioButton || !mark || !Is_Dark(option->palette))
+    if (element != PE_IndicatorRadioButton || !mark || !Is_Dark(option->palette) ||
+        baseStyle()->name() != mendedStyle)
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     QStyleOptionButton seen = *mark;
     seen.palette = With_Seen_Lines(seen.palette);
     QProxyStyle::drawPrimitive(element, &seen, painter, widget);
-}
-
-void Use_Mark_Style() {
-    if (QApplication::style()->name() == mendedStyle)
-        QApplication::setStyle(new MarkStyle);
 }
 
 } // namespace Tensarix
