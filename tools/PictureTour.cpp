@@ -19,7 +19,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPalette>
-#include <QStandardPaths>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>

@@ -101,6 +101,8 @@ TEST_F(CalcWindowTest, ARemarkStandsUnderTheNumberUntilTheNextKey) {
         Type(calculator, "5");
         EXPECT_EQ(remark.text(), "");
     });
+}
+
 TEST_F(CalcWindowTest, ComesBackInItsLastSize) {
     QSize last;
     Calculate([&last](QWidget& calculator) {
