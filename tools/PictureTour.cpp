@@ -1,6 +1,7 @@
 // Drives the real program through its screens without a display and saves a picture of each:
-//   picture_tour FOLDER
-// The user's own settings and data are left alone.
+//   picture_tour [--font-size POINTS] [--window WIDTHxHEIGHT] FOLDER
+// The environment's QT_SCALE_FACTOR is the screen's. The user's own settings and data are left
+// alone.
 #include "window/AboutForm.h"
 #include "window/CalcConstantForm.h"
 #include "window/CalcDataForm.h"
@@ -11,13 +12,13 @@
 #include "window/Program.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMenu>
 #include <QPalette>
-#include <QStandardPaths>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -30,15 +31,15 @@ namespace {
 
 using namespace Tensarix;
 
-constexpr QSize pictureSize{1240, 700};
+constexpr int layoutTurns = 5; // until page and window have followed a change
 
 class Tour {
   public:
     Tour(Program& program, const QString& folder) : program_(program), folder_(folder) {}
 
     void Take(const QString& name, QWidget& widget) {
-        QCoreApplication::processEvents(); // takes over the change
-        QCoreApplication::processEvents(); // lays out anew what it has widened
+        for (int turn = 0; turn < layoutTurns; ++turn)
+            QCoreApplication::processEvents();
         const QString path = folder_ + QLatin1Char('/') + name + QStringLiteral(".png");
         if (!widget.grab().save(path))
             failed_ = true;
@@ -287,6 +288,18 @@ class Tour {
         menu->close();
     }
 
+    void Every_Screen(const QString& suffix) {
+        Browse(suffix);
+        Find(suffix);
+        View_All(suffix);
+        Beam(suffix);
+        About(suffix);
+        Calculator(suffix);
+        Weights(suffix);
+        Bolts(suffix);
+        Welds(suffix);
+    }
+
     static void Wait(int milliseconds) {
         QEventLoop loop;
         QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
@@ -332,13 +345,30 @@ QPalette Dark_Palette() {
     return palette;
 }
 
+struct Wishes {
+    QString Folder;
+    int FontSize = 0; // points; 0: the desktop's own
+    QSize Window{1240, 700};
+};
+
+// False if the arguments make no sense.
+bool Read_Arguments(const QStringList& arguments, Wishes& wishes) {
+    QCommandLineParser parser;
+    parser.addOptions({{QStringLiteral("font-size"), {}, QStringLiteral("points")},
+                       {QStringLiteral("window"), {}, QStringLiteral("size")}});
+    if (!parser.parse(arguments) || parser.positionalArguments().size() != 1)
+        return false;
+    wishes.Folder = parser.positionalArguments().constFirst();
+    wishes.FontSize = parser.value(QStringLiteral("font-size")).toInt();
+    const QStringList sides = parser.value(QStringLiteral("window")).split(QLatin1Char('x'));
+    if (sides.size() == 2)
+        wishes.Window = {sides[0].toInt(), sides[1].toInt()};
+    return QDir().mkpath(wishes.Folder);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        QTextStream(stderr) << "usage: picture_tour FOLDER\n";
-        return 2;
-    }
     QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
@@ -346,33 +376,28 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    Wishes wishes;
+    if (!Read_Arguments(QApplication::arguments(), wishes)) {
+        QTextStream(stderr)
+            << "usage: picture_tour [--font-size POINTS] [--window WIDTHxHEIGHT] FOLDER\n";
+        return 2;
+    }
+    if (wishes.FontSize > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(wishes.FontSize);
+        QApplication::setFont(font);
+    }
     Program::Prepare_Application();
     Program program({Program_Folders().Program, home.path().toStdString()});
     if (!program.Start())
         return 1;
-    program.Window().resize(pictureSize);
-    Tour tour(program, QString::fromLocal8Bit(argv[1]));
-    tour.Browse({});
+    program.Window().resize(wishes.Window);
+    Tour tour(program, wishes.Folder);
     tour.Browse_Units();
-    tour.Find({});
-    tour.View_All({});
-    tour.Beam({});
     tour.Popup();
-    tour.About({});
-    tour.Calculator({});
-    tour.Weights({});
-    tour.Bolts({});
-    tour.Welds({});
+    tour.Every_Screen({});
     QApplication::setPalette(Dark_Palette());
-    tour.Browse(QStringLiteral("-dark"));
-    tour.Find(QStringLiteral("-dark"));
-    tour.View_All(QStringLiteral("-dark"));
-    tour.Beam(QStringLiteral("-dark"));
-    tour.About(QStringLiteral("-dark"));
-    tour.Calculator(QStringLiteral("-dark"));
-    tour.Weights(QStringLiteral("-dark"));
-    tour.Bolts(QStringLiteral("-dark"));
-    tour.Welds(QStringLiteral("-dark"));
+    tour.Every_Screen(QStringLiteral("-dark"));
     program.Window().close();
     return tour.Failed() ? 1 : 0;
 }

@@ -52,6 +52,8 @@ inline constexpr SettingKey WeldStrip{"WeldStrip", "1"};
 inline constexpr SettingKey WeldView{"WeldView", "1"};
 inline constexpr SettingKey CalcWtShapeType{"CalcWtShapeType", "0"};
 inline constexpr SettingKey CalcWtShapeSize{"CalcWtShapeSize", "0"}; // (family)
+// The calculator's place on the screen, in base 64.
+inline constexpr SettingKey CalculatorPlace{"Calculator", "", "Window"};
 // Filed by the calculator under the program's folder.
 inline constexpr SettingKey MemoryIn{"MemoryIn", "0", "Setting"};
 } // namespace Setting

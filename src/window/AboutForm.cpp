@@ -2,6 +2,7 @@
 
 #include "ui_AboutForm.h"
 #include "window/Bind.h"
+#include "window/FittingArea.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -35,6 +36,7 @@ AboutForm::AboutForm(AboutFrm& form, QWidget* parent) : QDialog(parent) {
     connect(this, &QDialog::finished, this, [&form] { form.Unload(); });
     ui.OKButton->setFocus();
     form.Load();
+    Let_Scroll(*this);
 }
 
 } // namespace Tensarix

@@ -2,11 +2,12 @@
 
 #include "ui_BeamForm.h"
 #include "window/Bind.h"
+#include "window/FittingArea.h"
 
 namespace Tensarix {
 
 QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::BeamForm ui;
     ui.setupUi(form);
     ui.AppliedCode->addTab(QStringLiteral(" Per AISC 9th Edition "));
@@ -17,6 +18,7 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     Bind(ui.zShapeSizeSI, page.zShapeSizeSI);
     Bind(ui.ShapeLab, page.ShapeLab);
     Bind(ui.zShapeFlex, page.zShapeFlex);
+    ui.zShapeFlex->Show_All_Columns();
     Bind(ui.AppliedCode, page.AppliedCode);
     Bind(ui.CodeFrame, page.CodeFrame);
     Bind(ui.CodeOpt0, page.CodeOpt[0]);

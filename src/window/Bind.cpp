@@ -1,6 +1,7 @@
 #include "window/Bind.h"
 
 #include "common/Failure.h"
+#include "window/ElidedLabel.h"
 #include "window/KeyCodes.h"
 #include "window/Link.h"
 #include "window/MouseWatch.h"
@@ -393,11 +394,9 @@ void Bind(QTabBar* bar, QStackedWidget* pages, TabControl& control) {
 
 void Bind(QStatusBar* widget, StatusBar& control) {
     const auto panel = [widget](const char* name, const char* description, int stretch) {
-        auto* label = new QLabel(widget);
+        auto* label = new ElidedLabel(widget);
         label->setObjectName(QLatin1String(name));
         label->setAccessibleDescription(QLatin1String(description)); // its name is its text
-        label->setTextFormat(Qt::PlainText);
-        label->setMinimumWidth(1); // a long text must not widen the window
         widget->addWidget(label, stretch);
         return label;
     };
@@ -409,6 +408,7 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         panel1->setToolTip(panel1->text().trimmed());
         remark->setText(To_Qt(control.Remark()));
         remark->setToolTip(remark->text());
+        remark->setVisible(!remark->text().isEmpty()); // leaves its room to the selection
         count->setText(To_Qt(control.Count()));
         count->setMinimumWidth(count->sizeHint().width()); // short, and never cut
     });

@@ -2,12 +2,13 @@
 
 #include "ui_BrowseForm.h"
 #include "window/Bind.h"
+#include "window/FittingArea.h"
 #include "window/MouseWatch.h"
 
 namespace Tensarix {
 
 QWidget* Make_Browse_Form(BrowsePage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::BrowseForm ui;
     ui.setupUi(form);
     Bind(ui.ShapeType, page.ShapeType);

@@ -1,8 +1,14 @@
 #include "window/CalcConstantForm.h"
 
 #include "ui_CalcConstantForm.h"
+#include "window/CalcRows.h"
+#include "window/FittingArea.h"
 
 namespace Tensarix {
+
+namespace {
+constexpr int firstLines = 30;
+}
 
 CalcConstantForm::CalcConstantForm(CalcConstantFrm& frm, QWidget* parent)
     : QDialog(parent), frm_(frm), ui_(std::make_unique<Ui::CalcConstantForm>()) {
@@ -18,6 +24,8 @@ CalcConstantForm::CalcConstantForm(CalcConstantFrm& frm, QWidget* parent)
     connect(ui_->ConstantBox, &QListWidget::itemDoubleClicked, ui_->OKButton, &QPushButton::click);
     connect(ui_->OKButton, &QPushButton::clicked, this, &CalcConstantForm::Apply);
     connect(ui_->ExitButton, &QPushButton::clicked, this, &QDialog::reject);
+    Fit_Width(*ui_->ConstantBox);
+    Let_Scroll(*this, {0, firstLines});
     ui_->ConstantBox->setFocus();
 }
 

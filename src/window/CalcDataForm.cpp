@@ -2,8 +2,13 @@
 
 #include "ui_CalcDataForm.h"
 #include "window/CalcRows.h"
+#include "window/FittingArea.h"
 
 namespace Tensarix {
+
+namespace {
+constexpr int firstLines = 28;
+}
 
 CalcDataForm::CalcDataForm(CalcDataFrm& frm, QWidget* parent)
     : QDialog(parent), frm_(frm), ui_(std::make_unique<Ui::CalcDataForm>()) {
@@ -19,6 +24,7 @@ CalcDataForm::CalcDataForm(CalcDataFrm& frm, QWidget* parent)
     connect(ui_->DeleteButton, &QPushButton::clicked, this,
             [this] { Do([this] { frm_.DeleteButton(); }); });
     connect(ui_->ExitButton, &QPushButton::clicked, this, &QDialog::reject);
+    Let_Scroll(*this, {0, firstLines});
     ui_->ItemBox->setFocus();
 }
 

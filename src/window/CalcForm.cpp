@@ -13,6 +13,7 @@
 #include "window/CalcHelpForm.h"
 #include "window/CalcKeyLayout.h"
 #include "window/CalcMemoryForm.h"
+#include "window/FittingArea.h"
 #include "window/KeyCodes.h"
 #include "window/Theme.h"
 
@@ -37,7 +38,8 @@ constexpr int displayCharacters = 17, exponentCharacters = 3;
 constexpr double displaySize = 3.2, exponentSize = 2.1; // against the font of the form, at least
 constexpr double exponentRaise = 0.2;
 constexpr int precisions = 15;
-constexpr double screenPart = 0.92;                  // at most, of its height and width
+constexpr double calculatorPart = 0.9; // of a small screen's height
+constexpr double leastPoints = 6, fontStep = 0.95;
 constexpr int pageTop = 8;                           // from the tabs to the keys
 constexpr int dialogOffset = 90, pointsPerInch = 72; // of the memory dialog, to the right
 
@@ -120,7 +122,10 @@ CalcForm::CalcForm(const Desk& desk, CalcVariables& vars, QWidget* parent)
     Colour_Panel();
     Open(calc_);
     Show_Panel();
-    resize(sizeHint().boundedTo(screen()->availableSize() * screenPart));
+    Fit_Font();
+    Let_Scroll(*this);
+    restoreGeometry(QByteArray::fromBase64(
+        QByteArray::fromStdString(Settings(desk_.Host.Store).Text(Setting::CalculatorPlace))));
     setFocus();
 }
 
@@ -183,6 +188,28 @@ void CalcForm::Show_Help() {
                     desk_.ReadOut, speak);
     CalcHelpForm dialog(frm, desk_.Host.Speech, this);
     Open_Dialog(dialog);
+}
+
+// All parts tell their sizes anew, from the inside.
+void CalcForm::Measure_Anew() {
+    const QList<QWidget*> parts = findChildren<QWidget*>();
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+        (*part)->updateGeometry();
+        if ((*part)->layout())
+            (*part)->layout()->activate();
+    }
+}
+
+// The display and the keys stand together: on a small screen they are rather small than scrolled.
+void CalcForm::Fit_Font() {
+    const int room = static_cast<int>(screen()->availableSize().height() * calculatorPart);
+    QFont smaller = font();
+    while (layout()->totalMinimumSize().height() > room && smaller.pointSizeF() > leastPoints) {
+        smaller.setPointSizeF(smaller.pointSizeF() * fontStep);
+        setFont(smaller);
+        Measure_Anew();
+        layout()->invalidate();
+    }
 }
 
 // Keys and pages
@@ -371,6 +398,8 @@ bool CalcForm::Clock_Yield() {
 void CalcForm::done(int result) {
     if (!closed_) {
         closed_ = true;
+        Settings(desk_.Host.Store)
+            .Save(Setting::CalculatorPlace, saveGeometry().toBase64().toStdString());
         Close(calc_);
     }
     if (clockLoop_)

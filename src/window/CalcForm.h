@@ -55,6 +55,8 @@ class CalcForm final : public QDialog {
     void Paste();
     bool Clock_Yield();
     void Put_Beside(QDialog& dialog) const;
+    void Measure_Anew();
+    void Fit_Font();
     void Open_Dialog(QDialog& dialog);
     void Show_Help();
 

@@ -1,10 +1,16 @@
 #include "window/CalcHelpForm.h"
 
 #include "ui_CalcHelpForm.h"
+#include "window/CalcRows.h"
+#include "window/FittingArea.h"
 
 #include <algorithm>
 
 namespace Tensarix {
+
+namespace {
+constexpr QSize firstSize{100, 27}; // characters and lines
+}
 
 CalcHelpForm::CalcHelpForm(CalcHelpFrm& frm, Voice& voice, QWidget* parent)
     : QDialog(parent), frm_(frm), voice_(voice), ui_(std::make_unique<Ui::CalcHelpForm>()) {
@@ -20,6 +26,8 @@ CalcHelpForm::CalcHelpForm(CalcHelpFrm& frm, Voice& voice, QWidget* parent)
         frm_.Voice_Word(static_cast<int>(at), static_cast<int>(length));
         Show_Mark();
     };
+    Fit_Width(*ui_->MenuBox);
+    Let_Scroll(*this, firstSize);
     ui_->MenuBox->setFocus();
 }
 

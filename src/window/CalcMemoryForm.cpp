@@ -2,10 +2,13 @@
 
 #include "ui_CalcMemoryForm.h"
 #include "window/CalcRows.h"
+#include "window/FittingArea.h"
 
 namespace Tensarix {
 
 namespace {
+
+constexpr int firstLines = 30;
 
 // The caption with its accelerator marked.
 QString With_Accelerator(const std::string& caption, char accelerator) {
@@ -23,6 +26,7 @@ CalcMemoryForm::CalcMemoryForm(CalcMemoryFrm& frm, QWidget* parent)
     Show_Texts();
     Show_State();
     Connect();
+    Let_Scroll(*this, {0, firstLines});
     ui_->ItemBox->setFocus();
 }
 

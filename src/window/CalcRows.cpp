@@ -2,6 +2,8 @@
 
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QListWidget>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
@@ -31,7 +33,15 @@ void Prepare_Rows(QTreeWidget& list) {
     list.setColumnCount(2);
     list.header()->setMinimumSectionSize(1);
     list.setColumnWidth(0, name);
-    list.setMinimumWidth(name + static_cast<int>(valueWidth * pixels));
+    const int value =
+        std::max(static_cast<int>(valueWidth * pixels),
+                 metrics.horizontalAdvance(QStringLiteral("=  -0.00000000000000E-000  ")));
+    list.setMinimumWidth(name + value);
+}
+
+void Fit_Width(QListWidget& list) {
+    list.setMinimumWidth(list.sizeHintForColumn(0) + list.verticalScrollBar()->sizeHint().width() +
+                         2 * list.frameWidth());
 }
 
 void Show_Rows(QTreeWidget& list, const std::vector<CalcRow>& rows,

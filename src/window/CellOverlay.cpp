@@ -1,6 +1,7 @@
 #include "window/CellOverlay.h"
 
 #include "window/Bind.h"
+#include "window/GridModel.h"
 #include "window/GridView.h"
 #include "window/Link.h"
 
@@ -59,6 +60,8 @@ void CellOverlay::Place() {
     cell.setTop(cell.top() + static_cast<int>(std::lround(TopTwips * view_->Twip_Scale())));
     if (editor_->geometry() != cell)
         editor_->setGeometry(cell);
+    if (auto* box = qobject_cast<QLineEdit*>(editor_))
+        box->setAlignment(Shown_Alignment(grid_.Style(grid_.Row(), grid_.Col()).Align));
     editor_->show();
 }
 
@@ -129,7 +132,6 @@ void Lay_Over(GridView* view, const FlexGrid& grid, TextBox& editor, const QStri
     auto* widget = new QLineEdit(view->viewport());
     Name(widget, name, accessibleName);
     widget->setFrame(false);
-    widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     CellOverlay* overlay = Overlay(view, grid, widget, editor);
     new ColumnPaste(widget, grid, editor);
     overlay->TopTwips = boxTopTwips;

@@ -4,31 +4,37 @@
 #include "ui_WeldForm.h"
 #include "window/Bind.h"
 #include "window/CellOverlay.h"
+#include "window/FittingArea.h"
 
 #include <QApplication>
 #include <QTabWidget>
 #include <QTimer>
-
-#include <cmath>
 
 namespace Tensarix {
 
 namespace {
 
 constexpr int remarkLines = 4;
+const QString widestResult = QStringLiteral("** 000.00000   ");
+constexpr int remarkWidth = 30; // average characters
 
-// A small grid shows all its rows.
-void Fit_Rows(GridView* view, const FlexGrid& grid) {
-    long height = 0;
-    for (int row = 0; row < grid.Rows(); ++row)
-        height += std::lround(grid.RowHeight(row) * view->Twip_Scale());
-    view->setFixedHeight(static_cast<int>(height) + 2 * view->frameWidth());
-    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+// A small grid shows whole.
+void Show_Whole(GridView* view) {
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->Show_All_Rows();
+    view->Show_All_Columns();
+}
+
+// A remark is as wide as its column, which a long one does not widen.
+void Keep_Width(QLabel* remark) {
+    QSizePolicy policy = remark->sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    remark->setSizePolicy(policy);
+    remark->setMinimumWidth(remarkWidth * remark->fontMetrics().averageCharWidth());
 }
 
 QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::BoltForm ui;
     ui.setupUi(form);
     Bind(ui.cFlex, page.cFlex);
@@ -36,9 +42,10 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
              QStringLiteral("Bolt group input"));
     Bind(ui.ccFlex, page.ccFlex);
     Bind(ui.xxFlex, page.xxFlex);
-    Fit_Rows(ui.ccFlex, page.ccFlex);
-    Fit_Rows(ui.xxFlex, page.xxFlex);
+    Show_Whole(ui.ccFlex);
+    Show_Whole(ui.xxFlex);
     Bind(ui.RowRemark, page.RowRemark);
+    Keep_Width(ui.RowRemark);
     Bind(ui.AddRowButton, page.AddRowButton);
     Bind(ui.RemRowButton, page.RemRowButton);
     Bind(ui.SaveButton, page.SaveButton);
@@ -59,7 +66,7 @@ void Share_Focus(QPushButton* one, QPushButton* other) {
 }
 
 QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::WeldForm ui;
     ui.setupUi(form);
     Bind(ui.WeldView, page.WeldView);
@@ -67,11 +74,12 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.WeldFlex, page.WeldFlex);
     Lay_Over(ui.WeldFlex, page.WeldFlex, page.EdiTxtA, QStringLiteral("EdiTxtA"),
              QStringLiteral("Weld parameter"));
-    Fit_Rows(ui.WeldFlex, page.WeldFlex);
+    Show_Whole(ui.WeldFlex);
     Bind(ui.WeldStripBox, page.WeldStripBox);
     Bind(ui.IterationDisplayBox, page.IterationDisplayBox);
     Bind(ui.ElapsedIndicator, page.ElapsedIndicator);
     Bind(ui.CBox, page.CBox);
+    ui.CBox->setMinimumWidth(ui.CBox->fontMetrics().horizontalAdvance(widestResult));
     Bind(ui.CRemark, page.CRemark);
     // Its room is kept, so that nothing moves when a run ends.
     ui.CRemark->setMinimumHeight(remarkLines * ui.CRemark->fontMetrics().lineSpacing());
@@ -87,8 +95,10 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
 QWidget* Make_Design_Form(DesignPage& page, QWidget* parent) {
     auto* tabs = new QTabWidget(parent);
     tabs->setObjectName(QStringLiteral("DesignSSTab"));
-    tabs->addTab(Make_Bolt_Form(page.Bolts, tabs), QStringLiteral("Bolt Coefficient"));
-    tabs->addTab(Make_Weld_Form(page.Welds, tabs), QStringLiteral("Weld Coefficient"));
+    tabs->addTab(new FittingArea(Make_Bolt_Form(page.Bolts, tabs)),
+                 QStringLiteral("Bolt Coefficient"));
+    tabs->addTab(new FittingArea(Make_Weld_Form(page.Welds, tabs)),
+                 QStringLiteral("Weld Coefficient"));
     Bind(tabs, page.DesignSSTab);
     return tabs;
 }

@@ -2,13 +2,14 @@
 
 #include "ui_FindForm.h"
 #include "window/Bind.h"
+#include "window/FittingArea.h"
 
 #include <QFontMetrics>
 
 namespace Tensarix {
 
 QWidget* Make_Find_Form(FindPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::FindForm ui;
     ui.setupUi(form);
     Bind(ui.fShapeType, page.fShapeType);

@@ -2,11 +2,14 @@
 
 #include "window/Theme.h"
 
+#include <QAbstractScrollArea>
 #include <QBrush>
 #include <QFont>
 #include <QPainter>
 #include <QPainterPath>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace Tensarix {
 
@@ -21,14 +24,24 @@ QFont Cell_Font(QFont font, const CellStyle& style) {
     return font;
 }
 
-int Cell_Alignment(Alignment alignment) {
-    const Qt::Alignment horizontal = alignment == Alignment::Left     ? Qt::AlignLeft
-                                     : alignment == Alignment::Centre ? Qt::AlignHCenter
-                                                                      : Qt::AlignRight;
-    return static_cast<int>((horizontal | Qt::AlignVCenter).toInt());
+// What is cut off a number makes another one: in a cell that reaches over the edge of what shows of
+// the view, the text ends before it, with an ellipsis.
+QRect Place_In_View(const QStyleOptionViewItem& option) {
+    QRect place = option.rect;
+    if (const auto* view = qobject_cast<const QAbstractScrollArea*>(option.widget))
+        place.setRight(
+            std::min(place.right(), view->viewport()->visibleRegion().boundingRect().right()));
+    return place;
 }
 
 } // namespace
+
+Qt::Alignment Shown_Alignment(Alignment alignment) {
+    const Qt::Alignment horizontal = alignment == Alignment::Left     ? Qt::AlignLeft
+                                     : alignment == Alignment::Centre ? Qt::AlignHCenter
+                                                                      : Qt::AlignRight;
+    return horizontal | Qt::AlignVCenter;
+}
 
 GridModel::GridModel(const FlexGrid& grid, QWidget* view)
     : QAbstractTableModel(view), grid_(grid), view_(view) {}
@@ -82,7 +95,8 @@ QVariant GridModel::Cell(int row, int col, int role) const {
         return QString::fromStdString(grid_.Text(row, col));
     case Qt::TextAlignmentRole: {
         const bool wraps = row < grid_.FixedRows() && grid_.WordWrap();
-        return Cell_Alignment(style.Align) | (wraps ? Qt::TextWordWrap : 0);
+        return static_cast<int>(Shown_Alignment(style.Align).toInt()) |
+               (wraps ? Qt::TextWordWrap : 0);
     }
     case Qt::FontRole:
         return Cell_Font(view_->font(), style);
@@ -119,7 +133,9 @@ void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& pal
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
-    QStyledItemDelegate::paint(painter, option, index);
+    QStyleOptionViewItem shown = option;
+    shown.rect = Place_In_View(option);
+    QStyledItemDelegate::paint(painter, shown, index);
     // The view's own grid lines can't be seen under many a dark theme.
     painter->setPen(Grid_Line_Colour(option.palette));
     painter->drawLine(option.rect.topRight(), option.rect.bottomRight());

@@ -37,6 +37,8 @@ class GridModel final : public QAbstractTableModel {
     int rows_ = 0, cols_ = 0;
 };
 
+Qt::Alignment Shown_Alignment(Alignment alignment);
+
 // The quiet mark in the corner of a cell or head that carries a remark.
 void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& palette);
 

@@ -27,6 +27,7 @@ namespace {
 constexpr double designFontHeight = 13;
 constexpr double twipsToPixel = 1.0 / 15;
 constexpr int cellMargin = 12;
+constexpr int leastRows = 3;
 
 } // namespace
 
@@ -119,6 +120,45 @@ void GridView::Measure() {
     Measure_Rows();
     Place_Frozen();
     updateGeometries();
+    Fit_Contents();
+}
+
+void GridView::Show_All_Columns() {
+    allColumns_ = true;
+    Fit_Contents();
+}
+
+void GridView::Show_All_Rows() {
+    allRows_ = true;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Fit_Contents();
+}
+
+void GridView::Fit_Contents() {
+    if (allColumns_) {
+        int width = 2 * frameWidth();
+        for (int col = 0; col < grid_->Cols(); ++col)
+            width += Column_Pixels(col);
+        if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff)
+            width += verticalScrollBar()->sizeHint().width();
+        setMinimumWidth(width);
+    }
+    if (allRows_) {
+        int height = 2 * frameWidth() + Head_Height();
+        for (int row = 0; row < model_->rowCount(); ++row)
+            height += rowHeight(row);
+        setFixedHeight(height);
+    }
+    updateGeometry();
+}
+
+int GridView::Head_Height() const {
+    return horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
+}
+
+QSize GridView::minimumSizeHint() const {
+    const int rows = leastRows * verticalHeader()->defaultSectionSize();
+    return QTableView::minimumSizeHint().expandedTo({0, Head_Height() + rows});
 }
 
 void GridView::Measure_Columns() {
@@ -146,18 +186,17 @@ int GridView::Column_Pixels(int col) const {
                     Fitting_Width(col));
 }
 
-// The names in a fixed column are never cut, nor are the heads, or their words where they wrap.
+// The names in a fixed column are never cut, nor are the heads, or their words where they wrap, nor
+// the last column, which is stretched anyway.
 int GridView::Fitting_Width(int col) const {
     static const QRegularExpression words(QStringLiteral("\\s")), lines(QStringLiteral("\n"));
+    const bool whole = col < grid_->FixedCols() || col == grid_->Cols() - 1;
     int width = 0;
-    for (int row = 0; row < grid_->Rows(); ++row) {
-        if (col >= grid_->FixedCols() && row >= grid_->FixedRows())
-            break;
+    for (int row = 0; row < (whole ? grid_->Rows() : grid_->FixedRows()); ++row)
         for (const QString& line :
              QString::fromStdString(grid_->Text(row, col))
                  .split(row < grid_->FixedRows() && grid_->WordWrap() ? words : lines))
             width = std::max(width, fontMetrics().horizontalAdvance(line));
-    }
     return width == 0 ? 0 : width + cellMargin;
 }
 
@@ -185,8 +224,7 @@ void GridView::Place_Frozen() {
     verticalHeader()->setVisible(width > 0);
     verticalHeader()->setFixedWidth(std::max(width, 1));
     frozen_->setVisible(width > 0);
-    const int head = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
-    frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + head);
+    frozen_->setGeometry(frameWidth(), frameWidth(), width, viewport()->height() + Head_Height());
     frozen_->raise();
 }
 
@@ -405,13 +443,6 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 void GridView::Popup_By_Key() {
     popupPoint_ = mapToGlobal(Cell_Rect(grid_->Row(), grid_->Col()).center());
     Run(grid_->OnPopup);
-}
-
-int GridView::Columns_Width() const {
-    int width = 0;
-    for (int col = 0; col < grid_->Cols(); ++col)
-        width += Column_Pixels(col);
-    return width;
 }
 
 QRect GridView::Cell_Rect(int row, int col) const {

@@ -27,10 +27,13 @@ class GridView : public QTableView {
     QPoint Popup_Point() const { return popupPoint_; }
     // The place of a cell inside this widget, as it is on the screen.
     QRect Cell_Rect(int row, int col) const;
-    // All columns together, the last one not stretched.
-    int Columns_Width() const;
+    // All columns show without scrolling sideways; all rows show, too.
+    void Show_All_Columns();
+    void Show_All_Rows();
     // Pixels to the twip under the current font and scale.
     double Twip_Scale() const;
+
+    QSize minimumSizeHint() const override;
 
   protected:
     bool event(QEvent* event) override;
@@ -52,6 +55,8 @@ class GridView : public QTableView {
     void Measure();
     void Measure_Columns();
     void Measure_Rows();
+    void Fit_Contents();
+    int Head_Height() const;
     int Column_Pixels(int col) const;
     int Fitting_Width(int col) const;
     void Place_Frozen();
@@ -77,6 +82,7 @@ class GridView : public QTableView {
     QPoint popupPoint_;
     unsigned measured_ = ~0u;
     bool pulling_ = false;
+    bool allColumns_ = false, allRows_ = false;
 };
 
 } // namespace Tensarix

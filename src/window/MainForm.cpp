@@ -6,12 +6,12 @@
 #include "window/BrowseForm.h"
 #include "window/DesignForm.h"
 #include "window/FindForm.h"
+#include "window/FittingArea.h"
 #include "window/PopupMenu.h"
 #include "window/ViewForm.h"
 
 #include <QCloseEvent>
 #include <QEvent>
-#include <QScreen>
 
 namespace Tensarix {
 
@@ -46,10 +46,9 @@ MainForm::MainForm(MainFrm& form, SettingsStore& settings, DesktopEvents& events
         modes[i]->setToolTip(key.toString(QKeySequence::NativeText));
     }
     // One page a mode, in their order.
-    ui.SelectionTab->addWidget(Make_Browse_Form(form.Browse, this));
-    ui.SelectionTab->addWidget(Make_Find_Form(form.Find, this));
-    ui.SelectionTab->addWidget(Make_View_Form(form.ViewAll, this));
-    ui.SelectionTab->addWidget(Make_Beam_Form(form.Beam, this));
+    for (QWidget* page : {Make_Browse_Form(form.Browse, this), Make_Find_Form(form.Find, this),
+                          Make_View_Form(form.ViewAll, this), Make_Beam_Form(form.Beam, this)})
+        ui.SelectionTab->addWidget(new FittingArea(page));
     ui.SelectionTab->addWidget(Make_Design_Form(form.Design, this));
     Bind(ui.SelectionTab, form.SelectionTab);
     Make_Grid_Popup(form.mnuEdit1, this);
@@ -66,9 +65,8 @@ MainForm::MainForm(MainFrm& form, SettingsStore& settings, DesktopEvents& events
 
 void MainForm::Restore_Place() {
     const std::string saved = settings_.Read(geometrySection, geometryKey).value_or("");
-    if (restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(saved))))
-        return;
-    resize(firstSize.boundedTo(screen()->availableSize()));
+    if (!restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(saved))))
+        Fit_To_Screen(*this, firstSize);
 }
 
 bool MainForm::Raise() {

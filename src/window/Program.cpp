@@ -4,27 +4,17 @@
 #include "shell/Version.h"
 #include "window/AboutForm.h"
 #include "window/CalcForm.h"
+#include "window/ProgramStyle.h"
 #include "window/WtCalcsForm.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QProxyStyle>
 
 namespace Tensarix {
 
 namespace {
 
 constexpr int typedSearchMs = 1500; // a designation is typed slower than a word
-
-// The desktop's style, but a drop-down list hangs below its box, as long as it says and with a
-// scroll bar: one of 274 sections would else fill the screen.
-class ListsBelow final : public QProxyStyle {
-  public:
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
 
 } // namespace
 
@@ -33,7 +23,7 @@ void Program::Prepare_Application() {
     QApplication::setApplicationName(title);
     QApplication::setOrganizationName(title);
     QApplication::setDesktopFileName(QStringLiteral("tensarix"));
-    QApplication::setStyle(new ListsBelow);
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tensarix.svg")));
     QApplication::setKeyboardInputInterval(typedSearchMs);
     QLocale::setDefault(QLocale::c());

@@ -2,11 +2,12 @@
 
 #include "ui_ViewForm.h"
 #include "window/Bind.h"
+#include "window/FittingArea.h"
 
 namespace Tensarix {
 
 QWidget* Make_View_Form(ViewPage& page, QWidget* parent) {
-    auto* form = new QWidget(parent);
+    auto* form = new FittingPage(parent);
     Ui::ViewForm ui;
     ui.setupUi(form);
     Bind(ui.xShapeType, page.xShapeType);

@@ -4,17 +4,13 @@
 #include "ui_WtCalcsFormA.h"
 #include "window/Bind.h"
 #include "window/CellOverlay.h"
-
-#include <QScreen>
-#include <QScrollBar>
-
-#include <algorithm>
+#include "window/FittingArea.h"
 
 namespace Tensarix {
 
 namespace {
 
-constexpr int firstHeight = 680;
+constexpr int firstLines = 46;
 
 QString To_Qt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -31,15 +27,6 @@ void Take_Focus_When_Pressed(QPushButton* button, char key) {
     button->setText(With_Mnemonic(button->text(), key));
     QObject::connect(button, &QPushButton::pressed, button,
                      [button] { button->setFocus(Qt::MouseFocusReason); });
-}
-
-// All columns show, without scrolling sideways.
-QSize First_Size(const QDialog& dialog, const GridView& view) {
-    const QMargins margins = dialog.layout()->contentsMargins();
-    const int width = view.Columns_Width() + view.verticalScrollBar()->sizeHint().width() +
-                      2 * view.frameWidth() + margins.left() + margins.right();
-    return QSize(std::max(width, dialog.sizeHint().width()), firstHeight)
-        .boundedTo(dialog.screen()->availableSize());
 }
 
 // What both forms have.
@@ -61,7 +48,9 @@ void Bind_Sheets(const Ui& ui, WtCalcsSheets& form, WtCalcsDialog& dialog) {
     Take_Focus_When_Pressed(ui.ClearButton, 'C');
     Take_Focus_When_Pressed(ui.ExitButton, 'x');
     form.Close = [&dialog] { dialog.close(); };
-    dialog.resize(First_Size(dialog, *ui.ImperialFlex));
+    ui.ImperialFlex->Show_All_Columns();
+    ui.MetricFlex->Show_All_Columns();
+    Let_Scroll(dialog, {0, firstLines});
 }
 
 } // namespace

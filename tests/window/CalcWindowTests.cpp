@@ -103,6 +103,17 @@ TEST_F(CalcWindowTest, ARemarkStandsUnderTheNumberUntilTheNextKey) {
     });
 }
 
+TEST_F(CalcWindowTest, ComesBackInItsLastSize) {
+    QSize last;
+    Calculate([&last](QWidget& calculator) {
+        last = calculator.size() + QSize(40, 30);
+        calculator.resize(last);
+    });
+    Stop();
+    Start();
+    Calculate([last](QWidget& calculator) { EXPECT_EQ(calculator.size(), last); });
+}
+
 TEST_F(CalcWindowTest, TypedKeys) {
     struct {
         const char* Typed;

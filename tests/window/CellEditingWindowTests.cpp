@@ -111,8 +111,15 @@ TEST_F(EditedGrid, TypingReplacesEnterGoesDownTabGoesOn) {
     EXPECT_EQ(commits, 2);
 }
 
-TEST_F(EditedGrid, TheEditorLiesOverItsCellAtAnyFont) {
-    for (const int points : {9, 18}) {
+TEST_F(EditedGrid, TheEditorLiesOverItsCellAtAnyFontAndAlignsAsItDoes) {
+    struct {
+        int Points;
+        Alignment Align;
+        Qt::AlignmentFlag Shown;
+    } const cases[] = {{9, Alignment::Centre, Qt::AlignHCenter},
+                       {18, Alignment::Right, Qt::AlignRight}};
+    for (const auto& [points, align, flag] : cases) {
+        grid.Set_Style(1, 2, {.Align = align});
         QFont font = window.font();
         font.setPointSize(points);
         window.setFont(font);
@@ -123,6 +130,7 @@ TEST_F(EditedGrid, TheEditorLiesOverItsCellAtAnyFont) {
         EXPECT_EQ(shown.right(), cell.right());
         EXPECT_EQ(shown.bottom(), cell.bottom());
         EXPECT_GT(shown.top(), cell.top());
+        EXPECT_TRUE(line->alignment().testFlag(flag));
         EXPECT_GE(shown.height(), line->fontMetrics().height());
         Key(Qt::Key_Escape);
     }

@@ -178,6 +178,8 @@ class Walk {
         Show("beam, 13th");
         page.zShapeType.Select(FirstChannelFamily);
         Show("beam, channel");
+        page.BeamSpanBox.Set_Text("1'");
+        Show("beam, all remarks");
         page.BeamSpanBox.Set_Text("5'6\"");
         In_Dialog([&page] { page.BeamSpanBox.OnKeyDown(Keys::Enter); }, Visited("beam, message"));
     }
