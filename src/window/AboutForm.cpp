@@ -34,9 +34,9 @@ AboutForm::AboutForm(AboutFrm& form, QWidget* parent) : QDialog(parent) {
     Bind(ui.OKButton, form.OKButton);
     form.OnClose = [this] { accept(); };
     connect(this, &QDialog::finished, this, [&form] { form.Unload(); });
-    ui.OKButton->setFocus();
     form.Load();
     Let_Scroll(*this);
+    ui.OKButton->setFocus();
 }
 
 } // namespace Tensarix

@@ -103,7 +103,7 @@ QSize CalcKeyButton::sizeHint() const {
 QSize CalcKeyButton::minimumSizeHint() const {
     const double base = QFontInfo(font()).pixelSize();
     return QSize(static_cast<int>(std::max(base * 3, Caption_Size(base).width() / sidePart)),
-                 static_cast<int>(base * 1.9));
+                 static_cast<int>(base * (role_ == CalcKeyRole::Plain ? 1.9 : 2.5)));
 }
 
 // As large as the key allows, within bounds.
