@@ -185,22 +185,18 @@ class NoWheel final : public QObject {
 // A text that Tab goes to is chosen as a whole, ready to be copied, as that of a box would be.
 class WholeText final : public QObject {
   public:
-    explicit WholeText(QLabel* label) : QObject(label), label_(label) {
-        label->installEventFilter(this);
-    }
+    explicit WholeText(QLabel* label) : QObject(label) { label->installEventFilter(this); }
 
   protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::FocusOut)
-            label_->setSelection(0, 0);
-        if (event->type() == QEvent::FocusIn &&
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* label = qobject_cast<QLabel*>(watched); // none any more when it is being deleted
+        if (label && event->type() == QEvent::FocusOut)
+            label->setSelection(0, 0);
+        if (label && event->type() == QEvent::FocusIn &&
             static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason)
-            label_->setSelection(0, static_cast<int>(label_->text().size()));
+            label->setSelection(0, static_cast<int>(label->text().size()));
         return false;
     }
-
-  private:
-    QLabel* label_;
 };
 
 // Keys of a text box: every character passes the control's filter first.
