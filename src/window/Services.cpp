@@ -5,7 +5,6 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLocalSocket>
@@ -15,12 +14,6 @@
 #include <QThread>
 #include <QTimer>
 #include <QWidget>
-
-#include <cerrno>
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 namespace Tensarix {
 
@@ -125,18 +118,6 @@ void DesktopWindow::Set_On_Top(bool onTop) {
 void DesktopWindow::Close() {
     if (widget_)
         widget_->close();
-}
-
-ProcessLock::ProcessLock(const QString& path)
-    : file_(open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {}
-
-ProcessLock::~ProcessLock() {
-    if (file_ >= 0)
-        close(file_);
-}
-
-bool ProcessLock::Take() {
-    return file_ < 0 || flock(file_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 SingleInstance::SingleInstance()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Machine.h"
+#include "window/ProcessLock.h"
 
 #include <QElapsedTimer>
 #include <QLocalServer>
@@ -58,20 +59,6 @@ class DesktopWindow final : public MainWindow {
 
   private:
     QPointer<QWidget> widget_;
-};
-
-// A file that one process holds. The system itself takes it back when that process ends, however it
-// ends; what stands in the file, and how old it is, never counts.
-class ProcessLock {
-  public:
-    explicit ProcessLock(const QString& path);
-    ~ProcessLock();
-    ProcessLock(const ProcessLock&) = delete;
-    // False: another process holds it. Where no lock can be kept it is true.
-    bool Take();
-
-  private:
-    int file_;
 };
 
 // A lock tells who was first. A connection to the first one's local socket is the wish to be
