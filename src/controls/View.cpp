@@ -14,12 +14,14 @@ void FocusPoint::Set() {
     holder = this;
     if (before)
         Run(before->OnLostFocus);
-    if (!Has()) // the handler gave it to another one
+    // cppcheck-suppress knownConditionTrueFalse ; the handler may have given it to another one
+    if (!Has())
         return;
     Run(Take);
     Run(OnGotFocus);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): the focus is not const, only static
 void FocusPoint::Release() {
     if (!Has())
         return;
