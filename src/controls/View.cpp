@@ -21,7 +21,6 @@ void FocusPoint::Set() {
     Run(OnGotFocus);
 }
 
-// NOLINTNEXTLINE(readability-make-member-function-const): the focus is not const, only static
 void FocusPoint::Release() {
     if (!Has())
         return;
