@@ -14,8 +14,7 @@ void FocusPoint::Set() {
     holder = this;
     if (before)
         Run(before->OnLostFocus);
-    // cppcheck-suppress knownConditionTrueFalse ; the handler may have given it to another one
-    if (!Has())
+    if (!Has()) // the handler gave it to another one
         return;
     Run(Take);
     Run(OnGotFocus);
