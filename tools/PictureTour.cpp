@@ -310,7 +310,7 @@ class Tour {
 
   private:
     // Acts on the dialog that the menu opens, then closes it.
-    void While_Open(MenuItem& item, const std::function<void(QWidget&)>& act) {
+    void While_Open(const MenuItem& item, const std::function<void(QWidget&)>& act) {
         QTimer::singleShot(0, qApp, [&act] {
             QWidget* dialog = QApplication::activeModalWidget();
             while (!dialog->isActiveWindow())

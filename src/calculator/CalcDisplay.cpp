@@ -161,7 +161,7 @@ int Index_From(std::optional<int> memo) {
     return std::min(memo.value_or(firstPrecIndex), lastPrecIndex);
 }
 
-void Choose_Angle_Mode(CalcMainFrm& form, bool CalcVariables::*flag) {
+void Choose_Angle_Mode(CalcMainFrm& form, const bool CalcVariables::*flag) {
     for (auto each :
          {&CalcVariables::DegreeMode, &CalcVariables::RadianMode, &CalcVariables::GradianMode})
         form.Vars.*each = each == flag;

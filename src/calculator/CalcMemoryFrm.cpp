@@ -46,7 +46,8 @@ std::string Row_Value(double value) {
 
 CalcMemoryFrm::CalcMemoryFrm(CalcVariables& vars, int mode, double shownValue,
                              std::function<bool(const CalcQuestion&)> ask)
-    : vars_(vars), mode_(mode), shownValue_(shownValue), ask_(std::move(ask)) {
+    : DeleteFrame(mode == memoryDelete), vars_(vars), mode_(mode), shownValue_(shownValue),
+      ask_(std::move(ask)) {
     const ModeTexts& texts = modeTexts[mode];
     Title = texts.Title;
     Prompt = texts.Prompt;
@@ -54,7 +55,6 @@ CalcMemoryFrm::CalcMemoryFrm(CalcVariables& vars, int mode, double shownValue,
     Accelerator = texts.Accelerator;
     DescriptionLocked = texts.DescriptionLocked;
     FrameCaption = DescriptionLocked ? "Description" : "Specify Description";
-    DeleteFrame = mode == memoryDelete;
     vars_.MemoryMode = mode;
     vars_.RegisterDescription.clear();
     vars_.SelectedRegister = -1;

@@ -309,7 +309,7 @@ double Concentric(const Group& group, double spread) {
 template <typename Group, typename Fasteners>
 std::optional<double> Load(const Group& group, const Fasteners& places, double e) {
     const Resistance about = group.About({0, 0});
-    const double count = double(places.size());
+    const auto count = static_cast<double>(places.size());
     const double spread = std::sqrt(about.polar / count);
     if (std::abs(e) <= LeastEccentricity * spread || e == 0)
         return Concentric(group, spread);

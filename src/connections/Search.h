@@ -21,6 +21,7 @@ class SearchYield {
     template <typename Turn>
     requires(!std::is_same_v<std::remove_const_t<Turn>, SearchYield>) explicit SearchYield(
         Turn& turn, int stride = 1)
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): ask_ gives the const back
         : turn_(const_cast<std::remove_const_t<Turn>*>(&turn)),
           ask_([](void* asked) { return bool((*static_cast<Turn*>(asked))()); }),
           stride_(stride > 0 ? stride : 1), left_(stride_) {}

@@ -17,11 +17,13 @@
 namespace Tensarix {
 
 // Four doubles in, four out, under their names of the x86 vector function interface.
+// NOLINTBEGIN(bugprone-reserved-identifier): they are the C library's.
 extern "C" {
 TENSARIX_AVX2 __m256d _ZGVdN4v_exp(__m256d);
 TENSARIX_AVX2 __m256d _ZGVdN4v_log(__m256d);
 TENSARIX_AVX2 __m256d _ZGVdN4v_atan(__m256d);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 inline constexpr std::size_t VectorLanes = 4;
 

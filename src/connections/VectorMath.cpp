@@ -22,7 +22,7 @@ struct Tail {
         for (std::size_t k = 0; k < count; ++k)
             values[k] = lanes[k];
     }
-    alignas(32) double lanes[Lanes];
+    alignas(32) double lanes[Lanes]{};
 };
 
 TENSARIX_AVX2 void Saturate_Vectors(double* values, std::size_t count, double exponent) {

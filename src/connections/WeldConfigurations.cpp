@@ -30,12 +30,12 @@ enum class Figure {
 };
 
 struct Configuration {
-    int lineCount;
-    std::array<LineEnds, 4> lines;
-    bool singleWithoutLeg;    // a leg length of exactly 0 leaves the upright alone, once
-    bool xFromLeg = false;    // xL is measured from the end of the legs
-    bool yFromTop = false;    // yL is measured from the top edge
-    bool shownScaled = false; // numbers and tolerance in scaled units: intended, this one only
+    int lineCount = 0;
+    std::array<LineEnds, 4> lines{};
+    bool singleWithoutLeg = false; // a leg length of exactly 0 leaves the upright alone, once
+    bool xFromLeg = false;         // xL is measured from the end of the legs
+    bool yFromTop = false;         // yL is measured from the top edge
+    bool shownScaled = false;      // numbers and tolerance in scaled units: intended, this one only
 };
 
 // The order of Figure.

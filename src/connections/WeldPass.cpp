@@ -31,9 +31,9 @@ enum class Lie { Flat, Upright, Leaning };
 
 // Some elements of one line. `tangent` is that of the angle between force and axis, or of its
 // complement on a flat line.
-struct ElementBlock {
+struct ElementBlock { // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
     std::size_t count = 0;
-    std::array<double, Block> X, r, tangent;
+    std::array<double, Block> X, r, tangent; // as far as `count`
 };
 
 // One line of a pass, with what is constant on it.
@@ -112,7 +112,7 @@ bool Find_Critical(const std::vector<WeldLine>& lines, double Ro, const WeldStat
                    WeldPass& pass, SearchYield& yield) {
     double leastDegrees = std::numeric_limits<double>::infinity();
     double leastRatio = leastDegrees;
-    std::array<double, Block> powers;
+    std::array<double, Block> powers; // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
     const auto use = [&](const LineSweep& line, const ElementBlock& block) {
         Degrees(line, block, powers.data());
         for (std::size_t k = 0; k < block.count; ++k) {
@@ -147,7 +147,7 @@ double Direction_Factor(const LineSweep& line, double tangent) {
 bool Add_Forces(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
                 WeldPass& pass, SearchYield& yield) {
     pass.SM = pass.SV = pass.SR = 0;
-    std::array<double, Block> f;
+    std::array<double, Block> f; // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
     const auto use = [&](const LineSweep& line, const ElementBlock& block) {
         const double area = line.cut.elementLength * WeldThroat * WeldSize;
         for (std::size_t k = 0; k < block.count; ++k) {

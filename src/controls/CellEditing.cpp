@@ -14,7 +14,7 @@ int Trimmed_Length(const TextBox& editor) {
 // Holds a flag while it lives.
 class Held {
   public:
-    explicit Held(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit Held(bool& flag) : flag_(flag) { flag = true; }
     ~Held() { flag_ = false; }
     Held(const Held&) = delete;
 

@@ -71,7 +71,7 @@ void Commit_Then_Move(FlexGrid& grid, int keyCode, const Handler& letEventsRun) 
 
 } // namespace
 
-void Edit_Show(FlexGrid& grid, TextBox& editor, int keyAscii, bool loadText) {
+void Edit_Show(const FlexGrid& grid, TextBox& editor, int keyAscii, bool loadText) {
     if (loadText)
         Load_Text(grid, editor, keyAscii);
     const Placement cell = grid.Cell_Place();
@@ -102,7 +102,7 @@ void Edit_KeyDown(FlexGrid& grid, TextBox& editor, int keyCode, const Handler& l
     }
 }
 
-void Combo_Show(FlexGrid& grid, ComboBox& combo, bool loadIndex) {
+void Combo_Show(const FlexGrid& grid, ComboBox& combo, bool loadIndex) {
     if (loadIndex)
         combo.Select(Combo_Find_Item(grid, combo));
     const Placement cell = grid.Cell_Place();

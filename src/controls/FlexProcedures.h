@@ -12,7 +12,7 @@ namespace Tensarix {
 // Lays the text box over the current cell and gives it the focus. With loadText it takes a text
 // first: a printing character, which replaces what the cell holds, or else the trimmed cell text;
 // the caret stands behind it.
-void Edit_Show(FlexGrid& grid, TextBox& editor, int keyAscii, bool loadText);
+void Edit_Show(const FlexGrid& grid, TextBox& editor, int keyAscii, bool loadText);
 
 // Enter and the arrows go to the neighbouring cell, inside the grid. Escape throws the typing away.
 // Any other key does nothing.
@@ -20,7 +20,7 @@ void Edit_KeyDown(FlexGrid& grid, TextBox& editor, int keyCode, const Handler& l
 
 // Lays the list over the current cell. With loadIndex it takes the position of the cell text first
 // and the focus last.
-void Combo_Show(FlexGrid& grid, ComboBox& combo, bool loadIndex);
+void Combo_Show(const FlexGrid& grid, ComboBox& combo, bool loadIndex);
 
 // The same as Edit_KeyDown for a list; Up and Down are its own, to walk its items.
 void Combo_KeyDown(FlexGrid& grid, ComboBox& combo, int keyCode, const Handler& letEventsRun);

@@ -293,7 +293,8 @@ std::string Lost_Digits_Remark(const SectionRecordset& record, const Property& p
     const double shown = Leading_Value(Replace_All(text, "x10^", "E"));
     if (General_Text(shown) == General_Text(stored))
         return {};
-    return "Stored value: " + With_Thousands(stored).append(" ").append(Unit_Text(property, profile));
+    return "Stored value: " +
+           With_Thousands(stored).append(" ").append(Unit_Text(property, profile));
 }
 
 std::string_view Unit_Text(const Property& property, Profile profile) {

@@ -184,14 +184,14 @@ void MainFrm::Query_Unload() {
     Shared.Say("");
 }
 
-void MainFrm::Save_Families() {
+void MainFrm::Save_Families() const {
     const Settings& saved = Shared.Saved;
     saved.Save(Setting::ShapeType, std::to_string(Browse.ShapeType.ListIndex()));
     saved.Save(Setting::fShapeType, std::to_string(Find.fShapeType.ListIndex()));
     saved.Save(Setting::xShapeType, std::to_string(ViewAll.xShapeType.ListIndex()));
 }
 
-void MainFrm::Save_Sizes() {
+void MainFrm::Save_Sizes() const {
     const Settings& saved = Shared.Saved;
     if (Browse.ShapeType.ListIndex() >= 0)
         saved.Save(Setting::ShapeSize, std::to_string(Browse.ShapeType.ListIndex()),
@@ -201,7 +201,7 @@ void MainFrm::Save_Sizes() {
                    std::to_string(Beam.zShapeSizeUS.ListIndex()));
 }
 
-void MainFrm::Save_Options() {
+void MainFrm::Save_Options() const {
     const auto save = [this](const SettingKey& key, const OptionButton& first) {
         Shared.Saved.Save(key, first.Value() ? "0" : "1");
     };
@@ -213,7 +213,7 @@ void MainFrm::Save_Options() {
     save(Setting::fDimOption, Find.fDimOption1);
 }
 
-void MainFrm::Save_Span() {
+void MainFrm::Save_Span() const {
     if (const std::optional<double> feet = Beam.Typed_Span())
         Shared.Saved.Save(Setting::BeamSpan, General_Text(*feet));
 }

@@ -61,10 +61,10 @@ class MainFrm {
     void Open_Dialog(void (Dialogs::*show)());
     void mnuOnTop_Click();
     void mnuReadOut_Click();
-    void Save_Families();
-    void Save_Sizes();
-    void Save_Options();
-    void Save_Span();
+    void Save_Families() const;
+    void Save_Sizes() const;
+    void Save_Options() const;
+    void Save_Span() const;
 
     Dialogs& dialogs_;
 };

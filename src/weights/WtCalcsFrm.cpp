@@ -14,6 +14,16 @@ namespace {
 
 constexpr int lengthCol = 1, weightCol = 2;
 
+// Computing all rows leaves the current cell in the last one. Who comes to the sheet then finds
+// himself in the row where he was before.
+void Go_Back_On_Focus(FlexGrid& grid, int& row) {
+    grid.Focus.OnGotFocus = [&grid, &row, leave = grid.Focus.OnGotFocus] {
+        leave();
+        if (const int before = std::exchange(row, 0); before != 0)
+            grid.Move_To(before, lengthCol);
+    };
+}
+
 } // namespace
 
 WtCalcsFrm::WtCalcsFrm(Desk& desk, SavedLengths& saved)
@@ -35,16 +45,6 @@ WtCalcsFrm::WtCalcsFrm(Desk& desk, SavedLengths& saved)
     ClearButton.OnClick = [this] { ClearButton_Click(); };
     Go_Back_On_Focus(ImperialFlex, imperialRow_);
     Go_Back_On_Focus(MetricFlex, metricRow_);
-}
-
-// Computing all rows leaves the current cell in the last one. Who comes to the sheet then finds
-// himself in the row where he was before.
-void WtCalcsFrm::Go_Back_On_Focus(FlexGrid& grid, int& row) {
-    grid.Focus.OnGotFocus = [&grid, &row, leave = grid.Focus.OnGotFocus] {
-        leave();
-        if (const int before = std::exchange(row, 0); before != 0)
-            grid.Move_To(before, lengthCol);
-    };
 }
 
 void WtCalcsFrm::Init_Head(FlexGrid& grid, bool imperial) {

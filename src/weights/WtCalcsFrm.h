@@ -42,7 +42,6 @@ class WtCalcsFrm final : public WtCalcsSheets {
     void ShapeSizeSI_Change();
     void Read_Section();
     void Compute_All();
-    void Go_Back_On_Focus(FlexGrid& grid, int& row);
     void ClearButton_Click();
 
     SavedLengths& Saved_Lengths;

@@ -54,6 +54,11 @@ std::string Charged_Remark(const std::string& length) {
     return remark;
 }
 
+void Add_Sizes(CellEditing& editing, ComboBox& sizes, std::function<void(bool)> compute) {
+    editing.Add(CellEditing::ComboCells{sizes, [](int, int col) { return col == sizeCol; },
+                                        std::move(compute)});
+}
+
 } // namespace
 
 WtCalcsFrmA::WtCalcsFrmA(Desk& desk, SavedRows& saved)
@@ -69,12 +74,6 @@ WtCalcsFrmA::WtCalcsFrmA(Desk& desk, SavedRows& saved)
     ShapeType.Focus.OnGotFocus = [this] { Hide_Lists(); };
     SSTab1.OnChange = [this] { SSTab1_Change(); };
     ClearButton.OnClick = [this] { ClearButton_Click(); };
-}
-
-void WtCalcsFrmA::Add_Sizes(CellEditing& editing, ComboBox& sizes,
-                            std::function<void(bool)> compute) {
-    editing.Add(CellEditing::ComboCells{sizes, [](int, int col) { return col == sizeCol; },
-                                        std::move(compute)});
 }
 
 void WtCalcsFrmA::Init_Head(FlexGrid& grid, bool imperial) {

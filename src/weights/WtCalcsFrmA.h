@@ -41,7 +41,6 @@ class WtCalcsFrmA final : public WtCalcsSheets {
 
   private:
     static void Init_Head(FlexGrid& grid, bool imperial);
-    void Add_Sizes(CellEditing& editing, ComboBox& sizes, std::function<void(bool)> compute);
     // False: the row has no weight, and the cell is empty now.
     static bool Can_Compute(FlexGrid& grid, bool useCombo);
     static void Remark_Weight(FlexGrid& grid, double weightPerLength, const std::string& label);

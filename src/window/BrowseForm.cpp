@@ -22,11 +22,9 @@ QWidget* Make_Browse_Form(BrowsePage& page, QWidget* parent) {
     Bind(ui.ShapeLabel, page.ShapeLabel);
     Bind(ui.ShapeFlex, page.ShapeFlex);
     const Handler snapBack = [&page] { page.Snap_Back(); };
-    for (QWidget* around :
-         {static_cast<QWidget*>(ui.choices), static_cast<QWidget*>(ui.ProfileFrame),
-          static_cast<QWidget*>(ui.DimFrame), static_cast<QWidget*>(ui.ProfileOption1),
-          static_cast<QWidget*>(ui.ProfileOption2), static_cast<QWidget*>(ui.DimOption1),
-          static_cast<QWidget*>(ui.DimOption2)})
+    for (QWidget* around : std::initializer_list<QWidget*>{ui.choices, ui.ProfileFrame, ui.DimFrame,
+                                                           ui.ProfileOption1, ui.ProfileOption2,
+                                                           ui.DimOption1, ui.DimOption2})
         Watch_Mouse(around, snapBack);
     return form;
 }

@@ -60,7 +60,7 @@ GridView::~GridView() {
         grid_->BringIntoView = nullptr;
 }
 
-void GridView::Prepare(QTableView& pane) const {
+void GridView::Prepare(QTableView& pane) {
     pane.setHorizontalHeader(new HeadView(&pane));
     pane.setEditTriggers(NoEditTriggers);
     pane.setSelectionMode(NoSelection); // the grid itself selects
@@ -341,6 +341,7 @@ void GridView::Tab_Key(QKeyEvent* event) {
     const bool back =
         event->key() == Qt::Key_Backtab || (event->modifiers() & Qt::ShiftModifier) != 0;
     if ((event->modifiers() & Qt::ControlModifier) != 0)
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): an item view's own goes from cell to cell
         QAbstractScrollArea::focusNextPrevChild(!back);
     else if (!grid_->OnTab || !grid_->OnTab(back))
         event->ignore();

@@ -50,7 +50,7 @@ class GridView : public QTableView {
     bool viewportEvent(QEvent* event) override;
 
   private:
-    void Prepare(QTableView& pane) const;
+    static void Prepare(QTableView& pane);
     void Pull();
     void Measure();
     void Measure_Columns();

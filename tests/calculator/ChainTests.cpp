@@ -63,7 +63,7 @@ Chain Random_Chain(Random& random) {
 
 std::string Any_Operator(Random& random) {
     const char* const all[] = {"+", "-", "*", "/", "xy", "root"};
-    return all[random() % std::size(all)];
+    return all[Pick(random, static_cast<int>(std::size(all)))];
 }
 
 // Powers first, then products, then sums, each from the left.

@@ -22,7 +22,7 @@ class Sheet {
     bool Valid = true;
     std::function<void()> OnTurn, OnValidate;
     CellEditing Editing{Grid, [this] {
-                            Log.push_back("turn");
+                            Log.emplace_back("turn");
                             Run(OnTurn);
                         }};
 
@@ -49,7 +49,7 @@ class Sheet {
             }});
         Editing.Add(CellEditing::ComboCells{
             List, [](int, int col) { return col == 1; },
-            [this](bool useCombo) { Log.push_back(useCombo ? "list" : "cell"); }});
+            [this](bool useCombo) { Log.emplace_back(useCombo ? "list" : "cell"); }});
         Grid.Move_To(2, 2);
         Grid.Focus.Set();
         Log.clear();

@@ -27,21 +27,29 @@ struct Include {
     bool System;        // with angle brackets
 };
 
-std::vector<Include> All_Includes() {
+// Calls take(file, room, line) for every line of the sources.
+template <typename Take>
+void For_Lines(Take&& take) {
     const fs::path source = fs::path(TENSARIX_SOURCE_DIR) / "src";
-    const std::regex pattern(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
-    std::vector<Include> all;
     for (const auto& entry : fs::recursive_directory_iterator(source)) {
         const std::string extension = entry.path().extension().string();
         if (extension != ".h" && extension != ".cpp")
             continue;
         std::ifstream file(entry.path());
         const std::string room = fs::relative(entry.path(), source).begin()->string();
-        std::smatch match;
         for (std::string line; std::getline(file, line);)
-            if (std::regex_search(line, match, pattern))
-                all.push_back({entry.path(), room, match[2], match[1] == "<"});
+            take(entry.path(), room, line);
     }
+}
+
+std::vector<Include> All_Includes() {
+    const std::regex pattern(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
+    std::vector<Include> all;
+    std::smatch match;
+    For_Lines([&](const fs::path& file, const std::string& room, const std::string& line) {
+        if (std::regex_search(line, match, pattern))
+            all.push_back({file, room, match[2], match[1] == "<"});
+    });
     return all;
 }
 
@@ -72,6 +80,16 @@ TEST(House, ARoomIncludesOnlyRoomsBelowIt) {
         EXPECT_LT(floors.at(room), floors.at(include.Room))
             << include.File << " includes " << include.Target;
     }
+}
+
+// A number reads and shows the same under every locale.
+TEST(House, NoRoomAsksTheLocale) {
+    const std::regex asks(R"(\b(\w*printf|strto[df]|sto[df]|ato[fi]|\w*stringstream|)"
+                          R"(to(upper|lower)|is(digit|space|alpha|alnum|punct)|locale)\b)");
+    For_Lines([&](const fs::path& file, const std::string& room, const std::string& line) {
+        EXPECT_FALSE(room != "window" && std::regex_search(line.substr(0, line.find("//")), asks))
+            << file << ": " << line;
+    });
 }
 
 // A wrong include must not build either: every room sees its own folder alone.

@@ -20,12 +20,13 @@ std::vector<Fields> Read_Csv(const std::string& name) {
     std::ifstream file(TENSARIX_SOURCE_DIR "/data/sections/" + name + ".csv");
     std::vector<Fields> lines;
     for (std::string line; std::getline(file, line);) {
-        Fields& fields = lines.emplace_back(1);
+        Fields fields(1);
         for (const char c : line)
             if (c == ',')
                 fields.emplace_back();
             else
                 fields.back() += c;
+        lines.push_back(std::move(fields));
     }
     return lines;
 }

@@ -116,9 +116,8 @@ TEST(TableGrid, WhatDiffersFromBrowse) {
         const bool detailingK =
             c.Head == std::string{"k"} && std::string{c.Column}.ends_with("KDET");
         EXPECT_EQ(grid.Remark(0, col), detailingK ? DetailingRemark : "") << c.Type << c.Head;
-        const auto values =
-            plain.Numbers(std::string{"SELECT "} + c.Column + " FROM ShapeTable WHERE TYPE='" +
-                          c.Type + "' ORDER BY SEQ");
+        const std::string column = std::string{"SELECT "} + c.Column + " FROM ShapeTable";
+        const auto values = plain.Numbers(column + " WHERE TYPE='" + c.Type + "' ORDER BY SEQ");
         for (std::size_t row = 0; row < values.size(); ++row)
             EXPECT_EQ(grid.Text(static_cast<int>(row) + 1, col),
                       Format_Number(values[row], "0.00##  "))

@@ -174,7 +174,7 @@ TEST_F(MainFrmTest, ConnectionDesignIsSavedLastAtExit) {
     f.Query_Unload();
     const std::vector<std::string>& written = machine.Store.Written;
     ASSERT_GE(written.size(), 4u);
-    EXPECT_TRUE(written.end()[-4].starts_with("BeamSpan="));
+    EXPECT_TRUE(written[written.size() - 4].starts_with("BeamSpan="));
     EXPECT_EQ(std::vector<std::string>(written.end() - 3, written.end()),
               (std::vector<std::string>{"cFlexRows=17", "WeldStrip=1", "WeldView=9"}));
     MainFrm& next = Start();

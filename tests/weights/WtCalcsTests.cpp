@@ -306,7 +306,7 @@ TEST_F(Type2, TheLeadingNumberIsChargedAndARemarkTellsSo) {
         Length(row, c.Typed);
         EXPECT_EQ(Feet(row, 2), c.Shown);
         EXPECT_EQ(Feet(row, 3), c.Weight);
-        EXPECT_EQ(Remark(row), *c.Charged ? "Charged for " + std::string{c.Charged} + chargedTail
+        EXPECT_EQ(Remark(row), *c.Charged ? std::string{"Charged for "} + c.Charged + chargedTail
                                           : std::string{});
         ++row;
     }

@@ -80,19 +80,19 @@ void Read(Widgets widgets, Widgets& order, bool across = true, int uncut = 0) {
         order.insert(order.end(), widgets.begin(), widgets.end());
         return;
     }
-    const auto begin = [across](const QWidget* at) { return across ? at->y() : at->x(); };
-    const auto end = [across](const QWidget* at) {
+    const auto from = [across](const QWidget* at) { return across ? at->y() : at->x(); };
+    const auto to = [across](const QWidget* at) {
         return (across ? at->geometry().bottom() : at->geometry().right()) - overlap;
     };
     std::stable_sort(widgets.begin(), widgets.end(),
-                     [begin](QWidget* a, QWidget* b) { return begin(a) < begin(b); });
+                     [from](QWidget* a, QWidget* b) { return from(a) < from(b); });
     std::vector<Widgets> parts;
     int last = 0;
     for (QWidget* widget : widgets) {
-        if (parts.empty() || begin(widget) > last)
+        if (parts.empty() || from(widget) > last)
             parts.emplace_back();
         parts.back().push_back(widget);
-        last = std::max(last, end(widget));
+        last = std::max(last, to(widget));
     }
     for (Widgets& part : parts)
         Read(std::move(part), order, !across, parts.size() == 1 ? uncut + 1 : 0);

@@ -59,7 +59,7 @@ TEST_F(InstanceTest, OfSeveralStartedAtOnceOneStays) {
         for (const Process& each : all)
             EXPECT_TRUE(Runs(each) || Ended_Well(each));
         EXPECT_TRUE(Comes_Up(home.path()));
-        for (Process& each : all)
+        for (const Process& each : all)
             Kill(*each);
         ASSERT_TRUE(QFile::exists(home.path() + "/tensarix.socket"));
     }

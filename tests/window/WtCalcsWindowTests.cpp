@@ -25,7 +25,7 @@ class WtCalcsWindowTest : public WindowTest {
     int messages = 0;
 
     // Opens a calculator, acts while it is open, and closes it if the act did not.
-    void While_Open(MenuItem& item, const std::function<void()>& act) {
+    void While_Open(const MenuItem& item, const std::function<void()>& act) {
         QTimer::singleShot(0, qApp, [&] {
             dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(dialog);
