@@ -49,24 +49,24 @@ void View_All_To_Painted_Grid(benchmark::State& state) {
     program.Start();
     program.Form().OptButton[static_cast<std::size_t>(Mode::ViewAll)].Select();
     ComboBox& families = program.Form().ViewAll.xShapeType;
-    const auto show_another = [&] {
+    const auto showAnother = [&] {
         families.Select(PipeFamily);
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     };
-    const auto choose_longest = [&] { families.Select(UnEqualDoubleAngleFamily); };
+    const auto chooseLongest = [&] { families.Select(UnEqualDoubleAngleFamily); };
     double painted = 1e9, unpainted = 1e9;
     for (auto _ : state) {
-        show_another();
+        showAnother();
         const double seconds = Bench::Seconds_Of([&] {
-            choose_longest();
+            chooseLongest();
             QCoreApplication::processEvents();
             QCoreApplication::processEvents();
         });
         state.SetIterationTime(seconds);
         painted = std::min(painted, seconds);
-        show_another();
-        unpainted = std::min(unpainted, Bench::Seconds_Of(choose_longest));
+        showAnother();
+        unpainted = std::min(unpainted, Bench::Seconds_Of(chooseLongest));
     }
     state.counters["ratio_to_unpainted"] = painted / unpainted;
     program.Window().close();
@@ -85,7 +85,7 @@ void Calculator_Key_To_Painted_Panel(benchmark::State& state) {
     const std::string keys = "12.5*7+3/9=s8-4^2=";
     std::size_t at = 0;
     for (auto _ : state) {
-        const QString typed(QLatin1Char(keys[at++ % keys.size()]));
+        const QString typed{QLatin1Char(keys[at++ % keys.size()])};
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, typed);
         QCoreApplication::sendEvent(&form, &press);
         benchmark::DoNotOptimize(form.grab()); // all of it, at once

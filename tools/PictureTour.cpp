@@ -215,8 +215,8 @@ class Tour {
     }
 
     // Typed in as the user would.
-    void Type_Row(FlexGrid& grid, TextBox& editor, int row, int col,
-                  std::initializer_list<const char*> texts, bool down) {
+    static void Type_Row(FlexGrid& grid, TextBox& editor, int row, int col,
+                         std::initializer_list<const char*> texts, bool down) {
         for (const char* text : texts) {
             grid.Move_To(row, col);
             Run(grid.OnDblClick);
@@ -310,7 +310,7 @@ class Tour {
 
   private:
     // Acts on the dialog that the menu opens, then closes it.
-    void While_Open(const MenuItem& item, const std::function<void(QWidget&)>& act) {
+    static void While_Open(const MenuItem& item, const std::function<void(QWidget&)>& act) {
         QTimer::singleShot(0, qApp, [&act] {
             QWidget* dialog = QApplication::activeModalWidget();
             while (!dialog->isActiveWindow())

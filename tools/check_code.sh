@@ -28,9 +28,11 @@ check_light() {
 # One key for all of ours that the verdict on a source depends on: the headers it includes, however
 # indirectly, the forms, and the checks.
 key_of() {
-    c++ -MM -MG -nostdinc -nostdinc++ -I src -I tests "$1" | tr ' ' '\n' |
-        sed -n 's#^ui_\(.*\)\.h$#src/window/\1.ui#; /\//p' |
-        xargs sha256sum .clang-tidy ./*/*/.clang-tidy ./*/.clang-tidy | sha256sum | cut -d ' ' -f 1
+    {
+        clang-tidy --dump-config "$1"
+        c++ -MM -MG -nostdinc -nostdinc++ -I src -I tests "$1" | tr ' ' '\n' |
+            sed -n 's#^ui_\(.*\)\.h$#src/window/\1.ui#; /\//p' | xargs sha256sum
+    } | sha256sum | cut -d ' ' -f 1
 }
 
 # What was clean is not checked again until something of it changes.

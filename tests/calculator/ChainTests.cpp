@@ -70,7 +70,7 @@ std::string Any_Operator(Random& random) {
 double By_Priority(const Chain& chain) {
     double sum = 0, product = 0, factor = chain.Numbers[0];
     char sumSign = '+', productSign = ' ';
-    const auto close_factor = [&] {
+    const auto closeFactor = [&] {
         product = productSign == '*'   ? product * factor
                   : productSign == '/' ? product / factor
                                        : factor;
@@ -82,7 +82,7 @@ double By_Priority(const Chain& chain) {
             factor = std::pow(factor, op == "xy" ? number : 1 / number);
             continue;
         }
-        close_factor();
+        closeFactor();
         productSign = op[0];
         if (op == "+" || op == "-") {
             sum += sumSign == '+' ? product : -product;
@@ -91,7 +91,7 @@ double By_Priority(const Chain& chain) {
         }
         factor = number;
     }
-    close_factor();
+    closeFactor();
     return sum + (sumSign == '+' ? product : -product);
 }
 

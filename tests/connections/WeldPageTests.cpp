@@ -243,7 +243,7 @@ TEST_F(WeldPageTest, StopThenStartOrClearBeginsAnew) {
 TEST_F(WeldPageTest, WhatHappensBeforeTheStopIsSeen) {
     WeldPage& p = Start();
     Type_All(usual);
-    const auto after_stop = [&](const std::function<void()>& what) {
+    const auto afterStop = [&](const std::function<void()>& what) {
         yields = 0;
         onYield = [&, what](long yield) {
             if (yield != 30)
@@ -253,22 +253,22 @@ TEST_F(WeldPageTest, WhatHappensBeforeTheStopIsSeen) {
         };
         p.StartIterationButton.Click();
     };
-    after_stop([&] { p.StopIterationButton.Click(); }); // resumed: one run goes on, to its end
+    afterStop([&] { p.StopIterationButton.Click(); }); // resumed: one run goes on, to its end
     EXPECT_EQ(Buttons(), idle);
     EXPECT_EQ(p.CBox.Fore(), 0u);
     EXPECT_TRUE(Report().ends_with(located));
     EXPECT_EQ(Report().find("**"), Report().rfind("**"));
 
-    after_stop([&] { Type(WeldRow::aL, "9"); }); // its result would be of the old inputs
+    afterStop([&] { Type(WeldRow::aL, "9"); }); // its result would be of the old inputs
     EXPECT_EQ(Report() + p.CBox.Text(), "");
     EXPECT_EQ(Buttons(), idle);
 
     Type(WeldRow::L, "2000000000"); // hours to the pass
-    after_stop([&] { Type(WeldRow::L, "10"); });
+    afterStop([&] { Type(WeldRow::L, "10"); });
     EXPECT_EQ(Report() + p.CBox.Text(), "");
     EXPECT_EQ(Buttons(), idle);
 
-    after_stop([&] { p.WeldView.Click(4); });
+    afterStop([&] { p.WeldView.Click(4); });
     EXPECT_EQ(Report() + p.CBox.Text(), "");
     EXPECT_EQ(Buttons(), idle);
 }

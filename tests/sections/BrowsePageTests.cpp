@@ -3,11 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 using namespace Tensarix;
 using namespace Tensarix::Tests;
-namespace fs = std::filesystem;
 
 namespace {
 

@@ -14,7 +14,7 @@ struct FigureRow {
     std::map<std::string, double> Figures; // without the Nulls
 
     double operator()(const std::string& column) const { return Figures.at(column); }
-    bool Has(const std::string& column) const { return Figures.count(column) != 0; }
+    bool Has(const std::string& column) const { return Figures.contains(column); }
 };
 
 inline const std::vector<std::string> familyCodes{

@@ -51,7 +51,7 @@ inline Properties Of(const std::vector<Plate>& plates) {
 
 // Plastic modulus about the horizontal axis at height y: the first moments of the two sides. With
 // the axes exchanged, that about the vertical one.
-inline double Plastic(std::vector<Plate> plates, double at, bool vertical = false) {
+inline double Plastic(const std::vector<Plate>& plates, double at, bool vertical = false) {
     double sum = 0;
     for (Plate q : plates) {
         if (vertical)

@@ -99,7 +99,7 @@ bool In_Order(const FigureRow& before, const FigureRow& row) {
     Designation a = Read_Designation(before, false), b = Read_Designation(row, false);
     if (a.Tail != b.Tail)
         return a.Tail < b.Tail;
-    if (!forms.count(row.Family)) // rolled shapes are grouped by depth, not sorted by weight
+    if (!forms.contains(row.Family)) // rolled shapes are grouped by depth, not sorted by weight
         return a.Sizes[0] >= b.Sizes[0];
     a.Sizes.resize(4);
     b.Sizes.resize(4);
@@ -149,7 +149,7 @@ bool Is_Si_Of(const FigureRow& row, const std::string& column, const std::string
         return si == row(column);
     if (column != "W")
         return Is_Rounded_Conversion(si, us, 254, 10, Power_Of(column));
-    if (!forms.count(row.Family))
+    if (!forms.contains(row.Family))
         return si == Read_Designation(row, true).Sizes.back();
     return Is_Rounded_Conversion(si, us, 45'359'237, 30'480'000, 1);
 }
@@ -244,7 +244,7 @@ TEST(SectionFigures, DesignationsAgreeWithTheFigures) {
             if (us.Sizes.size() == 4) {
                 EXPECT_EQ(si.Sizes[3], std::trunc(25.4 * us.Sizes[3])) << row.Us;
             }
-            if (!forms.count(family)) {
+            if (!forms.contains(family)) {
                 EXPECT_EQ(row("W"), us.Sizes[1]) << row.Us;
                 EXPECT_NEAR(si.Sizes[1] / (row("W") * 1.48816), 1, 0.05) << row.Us;
                 const auto depth =

@@ -74,7 +74,7 @@ class Type2 : public WtCalcs {
     void Pick(int row, const std::string& size) {
         Pick(form.ImperialFlex, form.ShapeSizeUS, row, size);
     }
-    void Pick(FlexGrid& grid, ComboBox& list, int row, const std::string& size) {
+    static void Pick(FlexGrid& grid, ComboBox& list, int row, const std::string& size) {
         grid.Focus.Set();
         grid.Press(row, 1);
         list.Select(Position_Of_Item(list, size));

@@ -185,8 +185,8 @@ class Walk {
     }
 
     // Typed in as the user would.
-    void Type(FlexGrid& grid, TextBox& editor, std::initializer_list<const char*> texts, int row,
-              int col, bool down) {
+    static void Type(FlexGrid& grid, TextBox& editor, std::initializer_list<const char*> texts,
+                     int row, int col, bool down) {
         for (const char* text : texts) {
             grid.Move_To(row, col);
             grid.OnDblClick();
@@ -317,7 +317,7 @@ class Walk {
             };
         };
         // The second time it asks whether to overwrite what the first has left.
-        const auto first_Row = [this](const std::string& name) {
+        const auto firstRow = [this](const std::string& name) {
             return [this, name](QWidget& dialog) {
                 auto& rows = *dialog.findChild<QTreeWidget*>();
                 rows.setCurrentItem(rows.topLevelItem(0));
@@ -325,12 +325,12 @@ class Walk {
                 dialog.findChild<QAbstractButton*>(QStringLiteral("OKButton"))->click();
             };
         };
-        In_Dialog(keys({"key_5", "key_Kin"}), first_Row("memory in"));
+        In_Dialog(keys({"key_5", "key_Kin"}), firstRow("memory in"));
         In_Dialog(keys({"key_6", "key_Kin"}), [&](QWidget& dialog) {
-            In_Dialog([&] { first_Row("memory in again")(dialog); },
+            In_Dialog([&] { firstRow("memory in again")(dialog); },
                       Visited("calculator, question"));
         });
-        In_Dialog(keys({"key_Kout"}), first_Row("memory out"));
+        In_Dialog(keys({"key_Kout"}), firstRow("memory out"));
         In_Dialog(keys({"key_KAC"}), Visited("calculator, memory delete"));
         In_Dialog(keys({"key_2", "key_Data", "key_7", "key_Data", "key_Del"}),
                   Visited("calculator, data"));

@@ -143,7 +143,7 @@ TEST_F(FaultTest, TheProgramItselfStartsAfterAnyKill) {
 
 // No file can grow, as on a full disk: not at all, or not enough.
 TEST_F(FaultTest, WithoutRoomTheOldFilesStay) {
-    for (const rlim_t room : {0, 200}) {
+    for (const rlim_t room : {0U, 200U}) {
         SCOPED_TRACE(room);
         const auto full = [room](QProcess& process) {
             process.setChildProcessModifier([room] {

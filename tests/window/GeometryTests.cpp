@@ -219,6 +219,8 @@ struct Variant {
     const char* Name;
     int Points; // of the font; 0: the desktop's own
     QSize Window;
+
+    friend void PrintTo(const Variant& variant, std::ostream* out) { *out << variant.Name; }
 };
 
 class GeometryTest : public WindowTest, public testing::WithParamInterface<Variant> {

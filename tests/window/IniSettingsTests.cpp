@@ -35,8 +35,7 @@ TEST_F(IniSettingsTest, AnyTextComesBackUnderAnyName) {
                                  " 12' - 6 3/8\" ",
                                  "a, b; c",
                                  "@Size(1)",
-                                 "\\x41 = \x01"
-                                 "f\n",
+                                 "\\x41 = \001f\n",
                                  "\xC3\x98 \xE2\x82\xAC",
                                  "%41",
                                  "[Section]\na=b",
