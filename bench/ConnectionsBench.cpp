@@ -17,7 +17,7 @@ constexpr long Passes = 2000;
 // Searches that overshoot, so that they have passes enough.
 struct BoltCase {
     BoltGroup group;
-    double ex, angle;
+    double ex = 0, angle = 0;
 };
 
 BoltCase Case_Of(const benchmark::State& state) {

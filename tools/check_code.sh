@@ -29,7 +29,7 @@ check_light() {
 # indirectly, the forms, and the checks.
 key_of() {
     {
-        clang-tidy --dump-config "$1"
+        clang-tidy -p build/tidy --dump-config "$1"
         c++ -MM -MG -nostdinc -nostdinc++ -I src -I tests "$1" | tr ' ' '\n' |
             sed -n 's#^ui_\(.*\)\.h$#src/window/\1.ui#; /\//p' | xargs sha256sum
     } | sha256sum | cut -d ' ' -f 1

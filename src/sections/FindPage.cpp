@@ -41,7 +41,7 @@ void FindPage::Fill_Criteria() {
 std::string FindPage::Count_Text() const {
     if (fShapeType.ListIndex() < 0)
         return {};
-    const std::string all = Sections_In_Words(count_.OfFamily);
+    std::string all = Sections_In_Words(count_.OfFamily);
     if (!searched_)
         return all;
     const std::string found = std::to_string(count_.Found) + " found of " + all;

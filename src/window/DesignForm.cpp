@@ -55,14 +55,14 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
 
 // Of two buttons of which one is enabled at a time: the keyboard stays with the pair.
 void Share_Focus(QPushButton* one, QPushButton* other) {
-    const auto hand_over = [](QPushButton* from, QPushButton* to) {
+    const auto handOver = [](QPushButton* from, QPushButton* to) {
         QObject::connect(qApp, &QApplication::focusChanged, from, [from, to](QWidget* old) {
             if (old == from && !from->isEnabled())
                 QTimer::singleShot(0, to, [to] { to->setFocus(); });
         });
     };
-    hand_over(one, other);
-    hand_over(other, one);
+    handOver(one, other);
+    handOver(other, one);
 }
 
 QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
