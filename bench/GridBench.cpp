@@ -14,6 +14,7 @@ constexpr int rows = 600, cols = 28;
 
 std::vector<std::string> Table_Texts() {
     std::vector<std::string> texts;
+    texts.reserve(std::size_t{rows} * cols);
     for (int i = 0; i < rows * cols; ++i)
         texts.push_back(std::to_string(i) + ".25  ");
     return texts;

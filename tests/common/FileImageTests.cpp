@@ -57,13 +57,13 @@ class FullDisk {
 // As a user whom permissions bind, which the superuser is not.
 class BoundByPermissions {
   public:
-    BoundByPermissions() { set_ = geteuid() == 0 && seteuid(nobody) == 0; }
+    BoundByPermissions() : set_(geteuid() == 0 && seteuid(nobody) == 0) {}
     ~BoundByPermissions() { set_ = set_ && seteuid(0) == 0; }
     BoundByPermissions(const BoundByPermissions&) = delete;
 
   private:
     static constexpr uid_t nobody = 65534;
-    bool set_ = false;
+    bool set_;
 };
 
 } // namespace
