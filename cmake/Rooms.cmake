@@ -54,8 +54,8 @@ function(tensarix_tests name)
     TENSARIX_SOURCE_DIR="${CMAKE_SOURCE_DIR}" TENSARIX_PROGRAM_DIR="${CMAKE_BINARY_DIR}/program")
   target_link_libraries(${name}_tests PRIVATE ${name} ${ARGN} GTest::gtest GTest::gtest_main
     tensarix_flags)
-  # Tests run long enough without it, and compile faster.
-  target_compile_options(${name}_tests PRIVATE -O1)
+  # Tests compile faster so; under the sanitizers what they call is still optimized.
+  target_compile_options(${name}_tests PRIVATE $<IF:$<BOOL:${TENSARIX_SANITIZE}>,-O0,-O1>)
   list(LENGTH sources files)
   if(files GREATER 2)
     target_precompile_headers(${name}_tests PRIVATE <gtest/gtest.h>)
