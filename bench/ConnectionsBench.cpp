@@ -70,7 +70,7 @@ void BM_BoltYield(benchmark::State& state) {
 BENCHMARK(BM_BoltYield)->Args({3, 1, 8, 0})->Args({6, 2, 6, 75})->UseManualTime();
 
 std::vector<WeldLine> Turned_Box(double angle) {
-    std::vector<WeldLine> lines = WeldConfigurationLines(4, 100, 50);
+    std::vector<WeldLine> lines = Weld_Configuration_Lines(4, 100, 50);
     const double theta = angle * Plain::TruncatedPi / 180;
     for (WeldLine& line : lines) {
         const WeldLine old = line;

@@ -21,7 +21,7 @@ constexpr int quarterStrip = 0;
 
 struct NoDisplay final : WeldDisplay {
     std::int64_t Now() override { return 0; }
-    bool HasText() override { return true; }
+    bool Has_Text() override { return true; }
     void Replace_Text(std::string_view) override {}
     void Append_Text(std::string_view text) override { bytes += text.size(); }
     void Show_Elapsed(std::string_view) override { ++passes; }
@@ -34,8 +34,8 @@ double Search_Alone(const Case& c, NoDisplay& display) {
     auto turn = [] { return true; };
     SearchYield yield{turn, WeldYieldStride};
     WeldSearch search{weld, display, yield};
-    return WeldConfigurationResult(c.item, std::atof(c.L), std::atof(c.kL), std::atof(c.aL),
-                                   std::atof(c.angle), WeldModeC, search);
+    return Weld_Configuration_Result(c.item, std::atof(c.L), std::atof(c.kL), std::atof(c.aL),
+                                     std::atof(c.angle), WeldModeC, search);
 }
 
 void Weld_Run_On_The_Screen(benchmark::State& state) {

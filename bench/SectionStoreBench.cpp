@@ -37,7 +37,7 @@ void Whole_Family(benchmark::State& state) {
     const std::vector<std::string> names = Column_Names();
     for (auto _ : state) {
         SectionRead read(TENSARIX_PROGRAM_DIR, Query_By_Family("2L-UnEq"));
-        for (SectionRecordset& r = read.Records; !r.AtEnd(); r.MoveNext())
+        for (SectionRecordset& r = read.Records; !r.At_End(); r.MoveNext())
             for (const std::string& name : names)
                 benchmark::DoNotOptimize(r.Field(name));
     }

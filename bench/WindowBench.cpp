@@ -1,7 +1,7 @@
 // What a user waits for on the screen: the start, and a change of section up to the painted grid.
 #include "Compare.h"
-#include "window/CalcForm.h"
 #include "window/Program.h"
+#include "window/calculator/CalcWindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -79,7 +79,7 @@ void Calculator_Key_To_Painted_Panel(benchmark::State& state) {
     Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
     program.Start();
     CalcVariables vars;
-    CalcForm form(program.Form().Shared, vars, nullptr);
+    CalcWindow form(program.Form().Shared, vars, nullptr);
     form.show();
     form.grab();
     const std::string keys = "12.5*7+3/9=s8-4^2=";

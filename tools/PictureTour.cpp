@@ -2,14 +2,14 @@
 //   picture_tour [--font-size POINTS] [--window WIDTHxHEIGHT] FOLDER
 // The environment's QT_SCALE_FACTOR is the screen's. The user's own settings and data are left
 // alone.
-#include "window/AboutForm.h"
-#include "window/CalcConstantForm.h"
-#include "window/CalcDataForm.h"
-#include "window/CalcForm.h"
-#include "window/CalcHelpForm.h"
-#include "window/CalcMemoryForm.h"
-#include "window/GridView.h"
 #include "window/Program.h"
+#include "window/calculator/CalcConstantDialog.h"
+#include "window/calculator/CalcDataDialog.h"
+#include "window/calculator/CalcHelpDialog.h"
+#include "window/calculator/CalcMemoryDialog.h"
+#include "window/calculator/CalcWindow.h"
+#include "window/grid/GridView.h"
+#include "window/pages/AboutDialog.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -71,7 +71,7 @@ class Tour {
     // The pages, a remark, an error, and the display at its fullest.
     void Calculator(const QString& suffix) {
         CalcVariables vars;
-        CalcForm form(program_.Form().Shared, vars, &program_.Window());
+        CalcWindow form(program_.Form().Shared, vars, &program_.Window());
         form.show();
         for (const char* key : {"key_Sqr", "key_Sqrt", "key_1", "key_2", "key_dot", "key_5"})
             form.Press_Key(key);
@@ -98,25 +98,25 @@ class Tour {
         form.close();
     }
 
-    void Calculator_Dialogs(CalcVariables& vars, CalcForm& form, const QString& suffix) {
+    void Calculator_Dialogs(CalcVariables& vars, CalcWindow& form, const QString& suffix) {
         vars.Registers[2] = {1.75, "Bolt spacing"};
         vars.DataList = {2, 4, 4, 4, 5, 5, 7, 9};
         for (const int mode : {memoryIn, memoryDelete}) {
             CalcMemoryFrm memory(vars, mode, 12.5, {});
             memory.Select_Row(2);
-            CalcMemoryForm dialog(memory, &form);
+            CalcMemoryDialog dialog(memory, &form);
             Show_And_Take(QStringLiteral("calculator-memory-%1").arg(mode) + suffix, dialog);
         }
         CalcDataFrm data(vars, {});
         data.Toggle_Row(3, true);
-        CalcDataForm dataForm(data, &form);
+        CalcDataDialog dataForm(data, &form);
         Show_And_Take(QStringLiteral("calculator-data") + suffix, dataForm);
         CalcConstantFrm constant(vars);
-        CalcConstantForm constantForm(constant, &form);
+        CalcConstantDialog constantForm(constant, &form);
         constantForm.findChild<QListWidget*>()->setCurrentRow(4);
         Show_And_Take(QStringLiteral("calculator-constants") + suffix, constantForm);
         CalcHelpFrm help("1.0", false, {});
-        CalcHelpForm helpForm(help, program_.Form().Shared.Host.Speech, &form);
+        CalcHelpDialog helpForm(help, program_.Form().Shared.Host.Speech, &form);
         helpForm.findChild<QListWidget*>()->setCurrentRow(6);
         Show_And_Take(QStringLiteral("calculator-help") + suffix, helpForm);
     }
@@ -149,7 +149,7 @@ class Tour {
 
     void About(const QString& suffix) {
         AboutFrm about(program_.Form().Shared);
-        AboutForm form(about, &program_.Window());
+        AboutDialog form(about, &program_.Window());
         form.show();
         Take(QStringLiteral("about") + suffix, form);
     }
@@ -185,8 +185,8 @@ class Tour {
         page.xDimOption2.Select();
         Take(QStringLiteral("view-imperial") + suffix, program_.Window());
         page.xProfileOption2.Select();
-        page.xShapeFlex.Set_TopRow(200);
-        page.xShapeFlex.Set_LeftCol(5);
+        page.xShapeFlex.Set_Top_Row(200);
+        page.xShapeFlex.Set_Left_Col(5);
         Take(QStringLiteral("view-si") + suffix, program_.Window());
         page.xProfileOption1.Select();
         page.xDimOption1.Select();

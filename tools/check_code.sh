@@ -31,7 +31,7 @@ key_of() {
     {
         clang-tidy -p build/tidy --dump-config "$1"
         c++ -MM -MG -nostdinc -nostdinc++ -I src -I tests "$1" | tr ' ' '\n' |
-            sed -n 's#^ui_\(.*\)\.h$#src/window/\1.ui#; /\//p' | xargs sha256sum
+            sed -n "s#^ui_\(.*\)\.h\$#src/window/*/\1.ui#p; /\//p" | xargs sh -c "cat \$*" sh
     } | sha256sum | cut -d ' ' -f 1
 }
 

@@ -95,9 +95,9 @@ void Lay_Out(FlexGrid& grid, int rows) {
     grid.Set_Cols(columnCount);
     grid.Set_Fixed(1, 1);
     for (int row = 0; row <= rows; ++row)
-        grid.Set_RowHeight(row, row == 0 ? headHeight : rowHeight);
+        grid.Set_Row_Height(row, row == 0 ? headHeight : rowHeight);
     for (int col = 0; col < columnCount; ++col) {
-        grid.Set_ColWidth(col, columns[col].Width);
+        grid.Set_Col_Width(col, columns[col].Width);
         grid.Set_Style(0, col, headStyle);
         grid.Set_Text(0, col, std::string{columns[col].Head});
         for (int row = 1; row <= rows; ++row)

@@ -104,7 +104,7 @@ void ShowText(CalcMainFrm& form, std::string_view text, std::optional<double> nu
     Write_Panel(form.Panel, Replace_All(text, " ", ""));
 }
 
-void ShowFraction(CalcMainFrm& form, std::string_view fraction) {
+void Show_Fraction(CalcMainFrm& form, std::string_view fraction) {
     End_Clock(form);
     std::string text{fraction};
     const std::size_t first = text.find('/');
@@ -127,7 +127,7 @@ void ShowError(CalcMainFrm& form) {
 
 void Redisplay(CalcMainFrm& form) {
     if (form.Vars.FractionEntry)
-        ShowFraction(form, form.Vars.FractionText);
+        Show_Fraction(form, form.Vars.FractionText);
     else
         ShowValue(form, Shown_Value(form.Vars), {});
 }

@@ -21,7 +21,7 @@ void ShowValue(CalcMainFrm& form, std::optional<double> number, std::string_view
 void ShowText(CalcMainFrm& form, std::string_view text, std::optional<double> number);
 
 // "1/2/3" stands as "1 2/3."; DisplayValue stays.
-void ShowFraction(CalcMainFrm& form, std::string_view fraction);
+void Show_Fraction(CalcMainFrm& form, std::string_view fraction);
 
 void ShowError(CalcMainFrm& form);
 

@@ -151,7 +151,7 @@ void Show_Cycled(CalcMainFrm& form, const FractionParts& parts) {
     if (mixed.size() > maxFractionLength)
         return;
     form.FracCycle = form.FracCycle == 1 ? 2 : 1;
-    ShowFraction(form, form.FracCycle == 2 ? improper : mixed);
+    Show_Fraction(form, form.FracCycle == 2 ? improper : mixed);
 }
 
 void Show_Reduced_Entry(CalcMainFrm& form) {
@@ -160,7 +160,7 @@ void Show_Reduced_Entry(CalcMainFrm& form) {
     if (!IsZero(parts.Part[last]) && parts.Part[last] == parts.Part[last - 1]) {
         parts.Part[0] = parts.Count == 3 ? parts.Part[0] + 1 : 1;
         parts.Count = 1;
-        return ShowFraction(form, Fraction_Text_Of(parts));
+        return Show_Fraction(form, Fraction_Text_Of(parts));
     }
     Reduce(parts);
     Show_Cycled(form, parts);
@@ -212,7 +212,7 @@ void Fraction_Step(CalcMainFrm& form) {
     else
         vars.FractionText += vars.KeyToken;
     vars.ResultPending = false;
-    ShowFraction(form, vars.FractionText);
+    Show_Fraction(form, vars.FractionText);
 }
 
 void Finish_Fraction(CalcMainFrm& form) {
@@ -255,7 +255,7 @@ void Erase_Fraction(CalcMainFrm& form) {
         return Drop_Fraction(vars);
     }
     if (text.find('/') != std::string::npos)
-        return ShowFraction(form, text);
+        return Show_Fraction(form, text);
     vars.EntryText = vars.MantissaText = text;
     ShowValue(form, std::nullopt, text);
     Drop_Fraction(vars);

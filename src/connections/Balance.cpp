@@ -241,7 +241,7 @@ Resistance Welds::About(const Centre& at, double part) const {
         const PieceState state = State_About(piece, at);
         states.push_back(state);
         if (state.r > 0) {
-            const double limit = WeldDeltaU(state.degrees) / state.r;
+            const double limit = Weld_Delta_U(state.degrees) / state.r;
             critical = critical > 0 ? std::min(critical, limit) : limit;
         }
     }
@@ -250,7 +250,7 @@ Resistance Welds::About(const Centre& at, double part) const {
         const PieceState& state = states[k];
         if (state.r == 0)
             continue;
-        const double p = part * critical * state.r / WeldDeltaM(state.degrees);
+        const double p = part * critical * state.r / Weld_Delta_M(state.degrees);
         const double R = state.strength * WeldStressFactor * ElectrodeStrength * pieces[k].area *
                          std::pow(std::max(0.0, (1.9 - 0.9 * p) * p), WeldForcePower);
         sum.Add(R, state.X, state.Y, state.r, pieces[k].x, pieces[k].y);
@@ -320,7 +320,7 @@ std::optional<double> Load(const Group& group, const Fasteners& places, double e
 
 } // namespace
 
-std::optional<double> BalancedBoltCoefficient(const BoltGroup& group, double ex, double angle) {
+std::optional<double> Balanced_Bolt_Coefficient(const BoltGroup& group, double ex, double angle) {
     const int mn = int{group.m} * group.n;
     if (group.m <= 0 || group.n <= 0 || mn > MostBalancedBolts ||
         !In_Range({group.sv, group.sh, ex, angle}))
@@ -331,15 +331,15 @@ std::optional<double> BalancedBoltCoefficient(const BoltGroup& group, double ex,
     return Load(bolts, bolts.u, std::abs(std::cos(theta) * ex));
 }
 
-std::optional<double> BalancedWeldCoefficient(int item, double L, double kL, double aL,
-                                              double angle) {
+std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, double aL,
+                                                double angle) {
     if (!In_Range({L, kL, aL, angle}) || L <= 0)
         return std::nullopt;
-    const double scale = WeldScale(L);
+    const double scale = Weld_Scale(L);
     const double base = L * scale;
     const double theta = angle * Pi / 180;
     double e = std::cos(theta) * std::abs(aL) * scale;
-    Welds welds = Turned_Welds(WeldConfigurationLines(item, base, kL * scale), theta);
+    Welds welds = Turned_Welds(Weld_Configuration_Lines(item, base, kL * scale), theta);
     if (e < 0) {
         // Turned past a right angle the load stands on the other side: look at it from behind.
         e = -e;
@@ -349,10 +349,10 @@ std::optional<double> BalancedWeldCoefficient(int item, double L, double kL, dou
         }
     }
     const auto load = Load(welds, welds.pieces, e);
-    return load ? std::optional(WeldCoefficient(*load, base)) : std::nullopt;
+    return load ? std::optional(Weld_Coefficient(*load, base)) : std::nullopt;
 }
 
-std::string BalanceRemark(double shown, std::optional<double> balanced, double tolerance) {
+std::string Balance_Remark(double shown, std::optional<double> balanced, double tolerance) {
     if (!balanced && shown > 0)
         return "Not checked: no centre that satisfies all equilibrium conditions was found";
     if (!balanced || !(*balanced > 0) || !std::isfinite(shown))

@@ -59,13 +59,13 @@ void Leave_Locals(const RotatedBolts& bolts, BoltPass& pass) {
     pass.X = pass.fastRo + bolts.w[last];
     pass.d = bolts.d[last];
     pass.Delta = (UltimateBoltDeformation * pass.d) / pass.fastDmax;
-    pass.R = BoltForce(pass.Delta);
+    pass.R = Bolt_Force(pass.Delta);
     pass.fastDmax = 0;
 }
 
 // The same pass with every step on its own, for numbers at which steps fail.
 void Careful_Pass(const RotatedBolts& bolts, double Ro, BoltPass& pass, SearchYield& yield) {
-    static const double Rmax = BoltForce(UltimateBoltDeformation);
+    static const double Rmax = Bolt_Force(UltimateBoltDeformation);
     const std::size_t all = bolts.count;
     double dmax = 0;
     for (std::size_t k = 0; k < all; ++k) {
@@ -79,7 +79,7 @@ void Careful_Pass(const RotatedBolts& bolts, double Ro, BoltPass& pass, SearchYi
         Keep(pass.X, Ro + bolts.w[k]);
         Keep(pass.d, std::sqrt(pass.X * pass.X + bolts.u[k] * bolts.u[k]));
         Keep(pass.Delta, (UltimateBoltDeformation * pass.d) / dmax);
-        Keep(pass.R, BoltForce(pass.Delta));
+        Keep(pass.R, Bolt_Force(pass.Delta));
         Keep(pass.SM, pass.SM + (pass.R / Rmax) * pass.d);
         Keep(pass.SV, pass.SV + Sgn(pass.X) * ((pass.R / Rmax) * std::abs(pass.X / pass.d)));
         Keep(pass.SD, pass.SD + pass.d * pass.d);
@@ -125,7 +125,7 @@ double Search(RotatedBolts& bolts, double e, double mn, SearchYield& yield) {
 
 } // namespace
 
-double BoltForce(double deformation) {
+double Bolt_Force(double deformation) {
     return UltimateBoltForce * std::pow(1 - std::exp(BoltExponentFactor * deformation), BoltPower);
 }
 

@@ -24,7 +24,7 @@ inline constexpr double BoltPower = 0.55;
 inline constexpr double BoltTolerance = 0.0001; // of C, inclusive
 
 // R of one bolt at a deformation, in kips.
-double BoltForce(double deformation);
+double Bolt_Force(double deformation);
 
 // Above so many bolts the array of bolts can't be had, and both coefficients are 0.
 inline constexpr std::int32_t MostBolts = 1 << 21;

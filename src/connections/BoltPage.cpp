@@ -28,9 +28,9 @@ void Lay_Out_Values(FlexGrid& grid, std::initializer_list<const char*> names) {
     grid.Set_Cols(2);
     grid.Set_Rows(static_cast<int>(names.size()));
     grid.Set_Fixed(0, 1);
-    grid.Set_RowHeightMin(340);
-    grid.Set_ColWidth(0, 700);
-    grid.Set_ColWidth(1, 1500);
+    grid.Set_Row_Height_Min(340);
+    grid.Set_Col_Width(0, 700);
+    grid.Set_Col_Width(1, 1500);
     int row = 0;
     for (const char* name : names) {
         grid.Set_Style(row, 0, {.Align = Alignment::Centre, .Fore = Colours::SymbolText});
@@ -130,10 +130,10 @@ void BoltPage::Init_cFlex() {
     cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
     cFlex.Set_Cols(BoltColumn::Count);
     cFlex.Set_Fixed(1, 1);
-    cFlex.Set_RowHeightMin(350);
-    cFlex.Set_WordWrap(true);
+    cFlex.Set_Row_Height_Min(350);
+    cFlex.Set_Word_Wrap(true);
     for (int col = 0; col < BoltColumn::Count; ++col) {
-        cFlex.Set_ColWidth(col, widths[col]);
+        cFlex.Set_Col_Width(col, widths[col]);
         cFlex.Set_Style(0, col,
                         {.Align = Alignment::Centre,
                          .Tahoma = true,
@@ -247,8 +247,8 @@ void BoltPage::Remark_On(int row, double C) {
     if (!IsBoltRowComplete(cFlex, row))
         return;
     const Inputs inputs = Row_Inputs(row);
-    const auto balanced = BalancedBoltCoefficient(inputs.Group, inputs.ex, inputs.Angle);
-    cFlex.Set_Remark(row, BoltColumn::C, BalanceRemark(C, balanced, BoltRemarkTolerance));
+    const auto balanced = Balanced_Bolt_Coefficient(inputs.Group, inputs.ex, inputs.Angle);
+    cFlex.Set_Remark(row, BoltColumn::C, Balance_Remark(C, balanced, BoltRemarkTolerance));
 }
 
 void BoltPage::Empty_Results(int row) {
@@ -262,7 +262,7 @@ void BoltPage::AddRow_Click() {
     BoltRowCount_ = BoltRowCount_ + 1;
     cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
     const int row = cFlex.Rows() - 1;
-    cFlex.Set_TopRow(cFlex.Rows() - rowsBelowTop);
+    cFlex.Set_Top_Row(cFlex.Rows() - rowsBelowTop);
     Lay_Out_Row(row);
     cFlex.Move_To(row, cFlex.Col());
     RemRowButton.Enable(true);

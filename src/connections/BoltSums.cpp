@@ -23,10 +23,10 @@ double Plain_Farthest(RotatedBolts& bolts, double Ro) {
 
 void Add_Plain(const RotatedBolts& bolts, std::size_t first, std::size_t count, double Ro,
                double dmax, BoltSums& sums) {
-    static const double Rmax = BoltForce(UltimateBoltDeformation);
+    static const double Rmax = Bolt_Force(UltimateBoltDeformation);
     for (std::size_t k = first; k < first + count; ++k) {
         const double d = bolts.d[k];
-        const double share = BoltForce((UltimateBoltDeformation * d) / dmax) / Rmax;
+        const double share = Bolt_Force((UltimateBoltDeformation * d) / dmax) / Rmax;
         sums.SM += share * d;
         // A bolt on the centre has no direction: its step fails and adds nothing.
         if (d > 0)
@@ -84,7 +84,7 @@ TENSARIX_AVX2 void Add_Vectors(const RotatedBolts& bolts, std::size_t first, std
         SV = _mm256_add_pd(SV, _mm256_mul_pd(share, cosine));
         SD = _mm256_add_pd(SD, _mm256_and_pd(_mm256_mul_pd(d, d), counted));
     }
-    static const double fullShare = UltimateBoltForce / BoltForce(UltimateBoltDeformation);
+    static const double fullShare = UltimateBoltForce / Bolt_Force(UltimateBoltDeformation);
     sums.SM += fullShare * Sum_Of(SM);
     sums.SV += fullShare * Sum_Of(SV);
     sums.SD += Sum_Of(SD);

@@ -77,15 +77,15 @@ struct Inputs {
 
 double Result(Figure figure, const Inputs& inputs, std::int16_t mode, WeldSearch& search) {
     const Configuration& row = Row_Of(figure);
-    const double s = WeldScale(inputs.L);
+    const double s = Weld_Scale(inputs.L);
     const double base = Finite(s * inputs.L);
     const double leg = Finite(s * inputs.kL);
     const double eccentricity = Finite(std::abs(inputs.aL) * s);
     const std::vector<WeldLine> lines = Lines_Of(row, base, leg);
     if (mode == WeldModeC) {
         const double scale = row.shownScaled ? 1.0 : s;
-        return WeldCoefficient(SolveWeldGroup(lines, eccentricity, inputs.angle, scale, search),
-                               base);
+        return Weld_Coefficient(SolveWeldGroup(lines, eccentricity, inputs.angle, scale, search),
+                                base);
     }
     if (mode == WeldModeXL) {
         const double x = WeldCentroidX(lines);
@@ -149,21 +149,21 @@ double RightAngleLines(double L, double kL, double aL, double angle, std::int16_
     return Result(Figure::RightAngle, {L, kL, aL, angle}, mode, search);
 }
 
-double WeldConfigurationResult(int item, double L, double kL, double aL, double angle,
-                               std::int16_t mode, WeldSearch& search) {
+double Weld_Configuration_Result(int item, double L, double kL, double aL, double angle,
+                                 std::int16_t mode, WeldSearch& search) {
     return Result(Figure_Of_Item(item), {L, Leg_Of_Item(item, kL), aL, angle}, mode, search);
 }
 
-std::vector<WeldLine> WeldConfigurationLines(int item, double base, double leg) {
+std::vector<WeldLine> Weld_Configuration_Lines(int item, double base, double leg) {
     return Lines_Of(Row_Of(Figure_Of_Item(item)), base, Leg_Of_Item(item, leg));
 }
 
-double WeldScale(double L) {
+double Weld_Scale(double L) {
     return L > LargestScaledLength ? 1 : Finite(LargestScaledLength / L);
 }
 
 // The two divisions cancel to within rounding; both are made.
-double WeldCoefficient(double raw, double base) {
+double Weld_Coefficient(double raw, double base) {
     return Finite(Finite((raw / base) / 16.0) / WeldSize);
 }
 

@@ -36,17 +36,17 @@ double RightAngleLines(double L, double kL, double aL, double angle, std::int16_
                        WeldSearch& search);
 
 // The routine of an item, 1 to 9, of the list of configurations. Item 1 is item 2 with kL = 0.
-double WeldConfigurationResult(int item, double L, double kL, double aL, double angle,
-                               std::int16_t mode, WeldSearch& search);
+double Weld_Configuration_Result(int item, double L, double kL, double aL, double angle,
+                                 std::int16_t mode, WeldSearch& search);
 
 // The lines of an item over the scaled base and leg lengths. Fails on an item outside 1 to 9.
-std::vector<WeldLine> WeldConfigurationLines(int item, double base, double leg);
+std::vector<WeldLine> Weld_Configuration_Lines(int item, double base, double leg);
 
 // By how much an item is scaled, so that the rounding of line lengths to whole numbers stays small:
 // a base length up to 100 becomes 100. Fails where L is 0.
-double WeldScale(double L);
+double Weld_Scale(double L);
 
 // C of a raw load over the scaled base length.
-double WeldCoefficient(double raw, double base);
+double Weld_Coefficient(double raw, double base);
 
 } // namespace Tensarix

@@ -102,8 +102,8 @@ inline WeldElement Element_At(const WeldCut& cut, const WeldAngles& at, std::siz
     element.radiusAngle = at.beta;
     element.r = at.r;
     element.lineAngle = cut.a;
-    element.deltaM = WeldDeltaM(degrees);
-    element.deltaU = WeldDeltaU(degrees);
+    element.deltaM = Weld_Delta_M(degrees);
+    element.deltaU = Weld_Delta_U(degrees);
     Keep(element.deltaURatio, element.deltaU / at.r);
     element.elementLength = cut.elementLength;
     element.lineNumber = static_cast<std::int16_t>(line + 1);

@@ -43,7 +43,7 @@ class WeldDisplay {
     virtual ~WeldDisplay() = default;
 
     virtual std::int64_t Now() = 0; // whole seconds, from any start
-    virtual bool HasText() = 0;     // is the box's text, trimmed, not empty
+    virtual bool Has_Text() = 0;    // is the box's text, trimmed, not empty
     virtual void Replace_Text(std::string_view text) = 0;
     virtual void Append_Text(std::string_view text) = 0;
     virtual void Show_Elapsed(std::string_view caption) = 0;

@@ -73,7 +73,7 @@ void WeldPage::Initialize_WeldView() {
     WeldView.Select(WeldConfigIndex_);
     Attempt([this] {
         WeldView.Select(desk_.Saved.Position(Setting::WeldView));
-        WeldConfigIndex_ = WeldView.SelectedItem();
+        WeldConfigIndex_ = WeldView.Selected_Item();
     });
     WeldImage.Set_Name("wImage" + std::to_string(WeldConfigIndex_));
 }
@@ -98,9 +98,9 @@ void WeldPage::Initialize_WeldFlex() {
     WeldFlex.Set_Cols(2);
     WeldFlex.Set_Rows(WeldRow::Count);
     WeldFlex.Set_Fixed(0, 1);
-    WeldFlex.Set_RowHeightMin(340);
-    WeldFlex.Set_ColWidth(0, 2288);
-    WeldFlex.Set_ColWidth(1, 1480);
+    WeldFlex.Set_Row_Height_Min(340);
+    WeldFlex.Set_Col_Width(0, 2288);
+    WeldFlex.Set_Col_Width(1, 1480);
     for (int row = 0; row < WeldRow::Count; ++row) {
         WeldFlex.Set_Text(row, 0, labels[row]);
         WeldFlex.Set_Style(row, 1, {.Align = Alignment::Right});
@@ -115,12 +115,12 @@ void WeldPage::Save_Settings() const {
 }
 
 std::string WeldPage::Selection_Text() const {
-    return " SELECTION:   " + WeldView.Item(WeldView.SelectedItem()).Text;
+    return " SELECTION:   " + WeldView.Item(WeldView.Selected_Item()).Text;
 }
 
 void WeldPage::WeldView_Click() {
     editing_.Leave();
-    const int item = WeldView.SelectedItem();
+    const int item = WeldView.Selected_Item();
     desk_.StatBar.Set_Panel1(Selection_Text());
     if (desk_.ReadOut) {
         desk_.Say("");
@@ -245,7 +245,7 @@ void WeldPage::Begin(bool resume) {
     state_.ResumeRequested = resume;
     if (resume)
         state_.StopRequested = false;
-    WeldFlex.Set_TopRow(0);
+    WeldFlex.Set_Top_Row(0);
     Show_Running();
     const Outcome outcome = RunWeldIteration(run);
     if (started_ != run)

@@ -38,7 +38,7 @@ class WeldPage::Display final : public WeldDisplay {
     std::int64_t Now() override {
         return static_cast<std::int64_t>(std::floor(page_.desk_.Host.Time.Seconds()));
     }
-    bool HasText() override {
+    bool Has_Text() override {
         return page_.IterationDisplayBox.Text().find_first_not_of(' ') != std::string::npos;
     }
     void Replace_Text(std::string_view text) override { page_.IterationDisplayBox.Set_Text(text); }
@@ -91,8 +91,8 @@ WeldPage::Outcome WeldPage::Search(const Inputs& inputs, unsigned run) {
     auto turn = [this, run] { return desk_.Host.Events.Yield() && newest_ == run; };
     SearchYield yield{turn, WeldYieldStride};
     WeldSearch search{state_, display, yield};
-    const double C = WeldConfigurationResult(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL,
-                                             inputs.Angle, WeldModeC, search);
+    const double C = Weld_Configuration_Result(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL,
+                                               inputs.Angle, WeldModeC, search);
     if (state_.StopRequested) {
         Show_Aborted(inputs, C);
         return Outcome::Stopped;
@@ -124,8 +124,8 @@ void WeldPage::Show_Aborted(const Inputs& inputs, double C) {
 
 std::string WeldPage::Balance_Remark(const Inputs& inputs, double C) const {
     const auto balanced =
-        BalancedWeldCoefficient(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
-    return BalanceRemark(C, balanced, WeldRemarkTolerance);
+        Balanced_Weld_Coefficient(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
+    return Tensarix::Balance_Remark(C, balanced, WeldRemarkTolerance);
 }
 
 double WeldPage::Centroid(std::int16_t mode) {
@@ -134,9 +134,9 @@ double WeldPage::Centroid(std::int16_t mode) {
     auto turn = [] { return true; };
     SearchYield yield{turn};
     WeldSearch search{state, display, yield}; // of which a centroid makes no use
-    return WeldConfigurationResult(WeldConfigIndex_, Leading_Value(WeldFlex.Text(WeldRow::L, 1)),
-                                   Leading_Value(WeldFlex.Text(WeldRow::kL, 1)), 0, 0, mode,
-                                   search);
+    return Weld_Configuration_Result(WeldConfigIndex_, Leading_Value(WeldFlex.Text(WeldRow::L, 1)),
+                                     Leading_Value(WeldFlex.Text(WeldRow::kL, 1)), 0, 0, mode,
+                                     search);
 }
 
 } // namespace Tensarix

@@ -132,7 +132,7 @@ bool Find_Critical(const std::vector<WeldLine>& lines, double Ro, const WeldStat
         return false;
     if (std::isfinite(leastRatio)) {
         pass.dRatio = leastRatio;
-        pass.dMax = WeldDeltaM(leastDegrees);
+        pass.dMax = Weld_Delta_M(leastDegrees);
     }
     return true;
 }
@@ -204,11 +204,11 @@ void Add_Careful_Force(const WeldElement& element, WeldPass& pass) {
 
 } // namespace
 
-double WeldDeltaM(double degrees) {
+double Weld_Delta_M(double degrees) {
     return std::pow(degrees + DeltaMAngle, DeltaMPower) * (DeltaMFactor * WeldSize);
 }
 
-double WeldDeltaU(double degrees) {
+double Weld_Delta_U(double degrees) {
     return std::min(std::pow(degrees + DeltaUAngle, DeltaUPower) * DeltaUFactor, MostDeltaU) *
            WeldSize;
 }

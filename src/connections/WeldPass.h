@@ -15,8 +15,8 @@ inline constexpr double WeldStressFactor = 0.6;
 inline constexpr double WeldForcePower = 0.3; // of (1.9 - 0.9 p) p
 
 // Deformation at maximum stress and ultimate deformation at the angle between force and axis.
-double WeldDeltaM(double degrees);
-double WeldDeltaU(double degrees);
+double Weld_Delta_M(double degrees);
+double Weld_Delta_U(double degrees);
 
 // What a pass adds up, and the locals that a failing step leaves as they were, from pass to pass.
 struct WeldPass {

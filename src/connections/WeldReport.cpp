@@ -43,7 +43,7 @@ void ShowIterationStep(double angle, double Ro, double Fv, double Fm, double sca
     const std::int64_t now = display.Now();
     state.ElapsedSeconds = static_cast<double>(Seconds_Between(state.IterationStart, now));
     Clear_Display_In_Time(state, display, now);
-    if (display.HasText())
+    if (display.Has_Text())
         display.Append_Text(std::string(ReportLineBreak).append(ReportLineBreak));
     std::string text = " -> Ro    = ";
     text.append(Format_Number(Finite(Ro / scale), "0.00000"));

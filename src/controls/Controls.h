@@ -108,7 +108,7 @@ class ComboBox {
     // Fails outside 0 .. Count - 1.
     const std::string& Item(int position) const;
     // Counts the changes of the items, so that a view knows when to list them again.
-    unsigned ItemsVersion() const { return itemsVersion_; }
+    unsigned Items_Version() const { return itemsVersion_; }
     int ListIndex() const { return listIndex_; }
     // Runs OnChange if the position or the text differs. -1: none. Fails outside -1 .. Count - 1,
     // and then nothing has changed.

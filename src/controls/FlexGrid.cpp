@@ -117,12 +117,12 @@ void FlexGrid::Set_Remark(int row, int col, std::string remark) {
     Shown.Changed();
 }
 
-double FlexGrid::RowHeight(int row) const {
+double FlexGrid::Row_Height(int row) const {
     const double height = heights_[At(row, 0) / static_cast<std::size_t>(cols_)];
     return std::max(height < 0 ? standardHeight : height, heightMin_);
 }
 
-void FlexGrid::Set_RowHeight(int row, double twips) {
+void FlexGrid::Set_Row_Height(int row, double twips) {
     double& height = heights_[At(row, 0) / static_cast<std::size_t>(cols_)];
     if (height == twips)
         return;
@@ -130,22 +130,22 @@ void FlexGrid::Set_RowHeight(int row, double twips) {
     Layout_Changed();
 }
 
-void FlexGrid::Set_RowHeightMin(double twips) {
+void FlexGrid::Set_Row_Height_Min(double twips) {
     heightMin_ = twips;
     Layout_Changed();
 }
 
-void FlexGrid::Set_WordWrap(bool wordWrap) {
+void FlexGrid::Set_Word_Wrap(bool wordWrap) {
     wordWrap_ = wordWrap;
     Layout_Changed();
 }
 
-double FlexGrid::ColWidth(int col) const {
+double FlexGrid::Col_Width(int col) const {
     const double width = widths_[At(0, col)];
     return width < 0 ? standardWidth : width;
 }
 
-void FlexGrid::Set_ColWidth(int col, double twips) {
+void FlexGrid::Set_Col_Width(int col, double twips) {
     widths_[At(0, col)] = twips;
     Layout_Changed();
 }
@@ -182,7 +182,7 @@ void FlexGrid::Select_Range(int row, int col, int rowSel, int colSel) {
     Shown.Changed();
 }
 
-void FlexGrid::Set_TopRow(int row) {
+void FlexGrid::Set_Top_Row(int row) {
     const int before = topRow_;
     topRow_ = row;
     Keep_Position_Inside();
@@ -192,7 +192,7 @@ void FlexGrid::Set_TopRow(int row) {
     Run(OnScroll);
 }
 
-void FlexGrid::Set_LeftCol(int col) {
+void FlexGrid::Set_Left_Col(int col) {
     const int before = leftCol_;
     leftCol_ = col;
     Keep_Position_Inside();
@@ -203,13 +203,13 @@ void FlexGrid::Set_LeftCol(int col) {
 }
 
 Placement FlexGrid::Cell_Place() const {
-    Placement place{0, 0, ColWidth(col_), RowHeight(row_)};
+    Placement place{0, 0, Col_Width(col_), Row_Height(row_)};
     for (int col = 0; col < col_; ++col)
         if (col < fixedCols_ || (col_ >= fixedCols_ && col >= leftCol_))
-            place.Left += ColWidth(col);
+            place.Left += Col_Width(col);
     for (int row = 0; row < row_; ++row)
         if (row < fixedRows_ || (row_ >= fixedRows_ && row >= topRow_))
-            place.Top += RowHeight(row);
+            place.Top += Row_Height(row);
     return place;
 }
 

@@ -77,19 +77,19 @@ class FlexGrid {
     const std::string& Remark(int row, int col) const;
     void Set_Remark(int row, int col, std::string remark);
 
-    double RowHeight(int row) const;
-    void Set_RowHeight(int row, double twips);
-    void Set_RowHeightMin(double twips);
+    double Row_Height(int row) const;
+    void Set_Row_Height(int row, double twips);
+    void Set_Row_Height_Min(double twips);
     // Heads that are wider than their column go on in the next line.
-    bool WordWrap() const { return wordWrap_; }
-    void Set_WordWrap(bool wordWrap);
-    double ColWidth(int col) const;
-    void Set_ColWidth(int col, double twips);
+    bool Word_Wrap() const { return wordWrap_; }
+    void Set_Word_Wrap(bool wordWrap);
+    double Col_Width(int col) const;
+    void Set_Col_Width(int col, double twips);
 
     int Row() const { return row_; }
     int Col() const { return col_; }
-    int RowSel() const { return rowSel_; }
-    int ColSel() const { return colSel_; }
+    int Row_Sel() const { return rowSel_; }
+    int Col_Sel() const { return colSel_; }
     // Makes the cell the current one and the selection; true if it wasn't the current one. Runs
     // OnLeaveCell before and OnSelChange after. A cell that OnLeaveCell has taken away is not gone
     // to.
@@ -106,10 +106,10 @@ class FlexGrid {
     void Select_Range(int row, int col, int rowSel, int colSel);
 
     // First row and column in view behind the fixed ones. Kept inside the grid.
-    int TopRow() const { return topRow_; }
-    int LeftCol() const { return leftCol_; }
-    void Set_TopRow(int row);
-    void Set_LeftCol(int col);
+    int Top_Row() const { return topRow_; }
+    int Left_Col() const { return leftCol_; }
+    void Set_Top_Row(int row);
+    void Set_Left_Col(int col);
 
     // Where the grid lies on its form.
     const Placement& Place() const { return place_; }
@@ -126,7 +126,7 @@ class FlexGrid {
     void Go_To(int row, int col, bool extend); // by the keys; extend: the selection alone
 
     // Counts the changes of size, heights and widths, so that a view knows when to measure again.
-    unsigned LayoutVersion() const { return layoutVersion_; }
+    unsigned Layout_Version() const { return layoutVersion_; }
 
   private:
     struct Cell {

@@ -27,7 +27,7 @@ class ListView {
     const ListItem& Item(int index) const;
 
     // 0: none.
-    int SelectedItem() const { return selected_; }
+    int Selected_Item() const { return selected_; }
     // Makes it the current one; no handler runs. Fails outside 1 .. Count.
     void Select(int index);
     // What the user does. Without effect on a disabled list; fails outside 1 .. Count.

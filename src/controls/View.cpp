@@ -3,15 +3,15 @@
 namespace Tensarix {
 
 FocusPoint::~FocusPoint() {
-    if (holder == this)
-        holder = nullptr;
+    if (holder_ == this)
+        holder_ = nullptr;
 }
 
 void FocusPoint::Set() {
     if (Has())
         return;
-    FocusPoint* before = holder;
-    holder = this;
+    FocusPoint* before = holder_;
+    holder_ = this;
     if (before)
         Run(before->OnLostFocus);
     if (!Has()) // the handler gave it to another one
@@ -23,7 +23,7 @@ void FocusPoint::Set() {
 void FocusPoint::Release() {
     if (!Has())
         return;
-    holder = nullptr;
+    holder_ = nullptr;
     Run(OnLostFocus);
 }
 

@@ -35,13 +35,13 @@ class FocusPoint {
     FocusPoint& operator=(const FocusPoint&) = delete;
     ~FocusPoint();
 
-    bool Has() const { return holder == this; }
+    bool Has() const { return holder_ == this; }
     void Set();
     // The focus goes to something that is no focus point.
     void Release();
 
   private:
-    static inline FocusPoint* holder = nullptr;
+    static inline FocusPoint* holder_ = nullptr;
 };
 
 // Where an editor lies on its form, in twips (1440 to the inch).

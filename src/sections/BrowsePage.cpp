@@ -44,12 +44,12 @@ void BrowsePage::Init_ShapeFlex() {
     ShapeFlex.Set_Rows(26);
     ShapeFlex.Set_Cols(4);
     ShapeFlex.Set_Fixed(1, 1);
-    ShapeFlex.Set_RowHeightMin(350);
+    ShapeFlex.Set_Row_Height_Min(350);
     const double widths[] = {900, 1300, 1300, 5345};
     const char* heads[] = {"Property", "Value", "Unit", "    Meaning"};
-    ShapeFlex.Set_RowHeight(0, 460);
+    ShapeFlex.Set_Row_Height(0, 460);
     for (int col = 0; col < ShapeFlex.Cols(); ++col) {
-        ShapeFlex.Set_ColWidth(col, widths[col]);
+        ShapeFlex.Set_Col_Width(col, widths[col]);
         ShapeFlex.Set_Style(0, col,
                             {.Align = col == 3 ? Alignment::Left : Alignment::Centre,
                              .Tahoma = true,
@@ -78,7 +78,7 @@ void BrowsePage::ShapeType_Change() {
     });
     if (ShapeSizeUS.ListIndex() < 0)
         ShapeLabel.Set_Caption({});
-    ShapeFlex.Set_TopRow(1);
+    ShapeFlex.Set_Top_Row(1);
 }
 
 void BrowsePage::ShapeSizeUS_Change() {
@@ -158,8 +158,8 @@ void BrowsePage::ShapeFlex_MouseMove(double xTwips) {
 }
 
 void BrowsePage::Snap_Back() {
-    if (ShapeFlex.LeftCol() != 1)
-        ShapeFlex.Set_LeftCol(1);
+    if (ShapeFlex.Left_Col() != 1)
+        ShapeFlex.Set_Left_Col(1);
 }
 
 } // namespace Tensarix

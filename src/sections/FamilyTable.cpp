@@ -38,7 +38,7 @@ void Init_Shape(ComboBox& combo, std::string_view type, bool useSI,
     combo.Clear();
     if (!Has_Rows(read.Records))
         return;
-    for (read.Records.MoveFirst(); !read.Records.AtEnd(); read.Records.MoveNext())
+    for (read.Records.MoveFirst(); !read.Records.At_End(); read.Records.MoveNext())
         Attempt([&] { combo.Add(Trim(read.Records.Text(useSI ? siName : usName))); });
 }
 
@@ -49,7 +49,7 @@ void FillSizeLists(ComboBox& us, ComboBox& si, std::string_view type,
     si.Clear();
     if (!Has_Rows(read.Records))
         return;
-    for (read.Records.MoveFirst(); !read.Records.AtEnd(); read.Records.MoveNext()) {
+    for (read.Records.MoveFirst(); !read.Records.At_End(); read.Records.MoveNext()) {
         Attempt([&] { us.Add(Trim(read.Records.Text(usName))); });
         Attempt([&] { si.Add(Trim(read.Records.Text(siName))); });
     }

@@ -139,7 +139,7 @@ void FindPage::FindButton_Click() {
         return;
     }
     RunFind();
-    fShapeFlex.Set_TopRow(1);
+    fShapeFlex.Set_Top_Row(1);
 }
 
 void FindPage::RunFind() {

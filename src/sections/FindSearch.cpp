@@ -96,7 +96,7 @@ struct ColumnFacts {
 ColumnFacts Facts_Of(SectionRecordset& records, const Layout& layout, const Property* shown,
                      std::string_view column, Profile profile) {
     ColumnFacts facts;
-    for (records.MoveFirst(); !records.AtEnd(); records.MoveNext()) {
+    for (records.MoveFirst(); !records.At_End(); records.MoveNext()) {
         facts.Exists = facts.Exists || Attempt([&] { records.Field(column); });
         Attempt([&] {
             const double figure = Find_Field(records, layout, column, profile);
@@ -135,7 +135,7 @@ bool AtLeastMatches(double search, double field) {
     return Whole_Part(scale * field) == Whole_Part(scale * search);
 }
 
-bool CriterionMatches(std::string_view criterion, double search, double field) {
+bool Criterion_Matches(std::string_view criterion, double search, double field) {
     const std::string test = Upper(Trim(criterion));
     if (test == "AT LEAST")
         return AtLeastMatches(search, field);
@@ -183,7 +183,7 @@ void Find_Populate_Value(std::string_view type, std::string_view property, Profi
     double value = 0;
     Attempt([&] {
         const Layout& layout = Layout_Of(type);
-        for (records.MoveFirst(); !records.AtEnd(); records.MoveNext()) {
+        for (records.MoveFirst(); !records.At_End(); records.MoveNext()) {
             Attempt([&] { value = Find_Field(records, layout, column, profile); });
             if (!ValueListed(list, value))
                 list.Add(General_Text(value));

@@ -31,7 +31,7 @@ bool AtLeastMatches(double search, double field);
 
 // The field against the search value by one of FindCriteria, in any case; another text never
 // matches. "=" is exact to the last binary digit.
-bool CriterionMatches(std::string_view criterion, double search, double field);
+bool Criterion_Matches(std::string_view criterion, double search, double field);
 
 // True if an entry of the list, read as a number, equals the value.
 bool ValueListed(const ComboBox& list, double value);

@@ -108,7 +108,7 @@ constexpr LayoutEntry Same(const Property& everywhere) {
 constexpr LayoutEntry Two(const Property& browse, const Property& tables) {
     return {&browse, &tables, &tables};
 }
-constexpr LayoutEntry TablesOnly(const Property& tables) {
+constexpr LayoutEntry Tables_Only(const Property& tables) {
     return {nullptr, &tables, &tables};
 }
 
@@ -165,10 +165,11 @@ constexpr LayoutEntry entriesWT[] = {weight,
                                      Same(c::Cw)};
 
 constexpr LayoutEntry entriesST[] = {
-    weight,      Same(c::A),  Same(c::d),  Same(c::bf),           Same(c::tw),   Same(c::tf),
-    Same(c::k),  Same(c::y),  Same(c::yp), TablesOnly(c::bf_2tf), Same(c::d_tw), Same(c::Ix),
-    Same(c::Zx), Same(c::Sx), Same(c::rx), Same(c::Iy),           Same(c::Zy),   Same(c::Sy),
-    Same(c::ry), Same(c::J),  Same(c::Cw)};
+    weight,        Same(c::A),  Same(c::d),  Same(c::bf), Same(c::tw),
+    Same(c::tf),   Same(c::k),  Same(c::y),  Same(c::yp), Tables_Only(c::bf_2tf),
+    Same(c::d_tw), Same(c::Ix), Same(c::Zx), Same(c::Sx), Same(c::rx),
+    Same(c::Iy),   Same(c::Zy), Same(c::Sy), Same(c::ry), Same(c::J),
+    Same(c::Cw)};
 
 constexpr LayoutEntry entriesHSSRec[] = {
     weight,        Same(c::A),       Same(c::Ht),      Same(c::b),  Same(c::tnom),

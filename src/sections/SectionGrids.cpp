@@ -43,7 +43,7 @@ void Lay_Out_Rows(FlexGrid& grid, const Layout& layout) {
         grid.Set_Rows(layout.SpareRowsFrom);
     grid.Set_Rows(layout.BrowseRows);
     for (int row = 1; row < grid.Rows(); ++row) {
-        grid.Set_RowHeight(row, browseRowHeight);
+        grid.Set_Row_Height(row, browseRowHeight);
         grid.Set_Style(row, symbolColumn, symbolStyle);
         grid.Set_Style(row, valueColumn, rightStyle);
         grid.Set_Style(row, unitColumn, centreStyle);
@@ -63,7 +63,7 @@ void Write_Labels(FlexGrid& grid, const Layout& layout) {
         grid.Set_Text(++row, symbolColumn, std::string{property.Symbol});
         grid.Set_Text(row, meaningColumn, std::string{meaningIndent}.append(property.Meaning));
         if (property.Meaning.find('\n') != std::string_view::npos)
-            grid.Set_RowHeight(row, twoLineRowHeight);
+            grid.Set_Row_Height(row, twoLineRowHeight);
     }
 }
 
@@ -191,10 +191,10 @@ void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, P
     grid.Set_Rows(rows);
     grid.Set_Cols(layout.TableColumns);
     grid.Set_Fixed(1, nameColumns);
-    grid.Set_RowHeightMin(tableRowHeightMin);
-    grid.Set_RowHeight(0, tableHeadHeight);
+    grid.Set_Row_Height_Min(tableRowHeightMin);
+    grid.Set_Row_Height(0, tableHeadHeight);
     for (int col = 0; col < grid.Cols(); ++col)
-        grid.Set_ColWidth(col, col < nameColumns ? nameWidth : valueWidth);
+        grid.Set_Col_Width(col, col < nameColumns ? nameWidth : valueWidth);
     Write_Head(grid, 0, "Standard US\nProfile");
     Write_Head(grid, 1, "SI Equivalent\nProfile");
     for (std::size_t i = 0; i < layout.Entries.size(); ++i) {
@@ -226,7 +226,7 @@ int TableInitializer::operator()(FlexGrid& grid, std::string_view familyCode,
     Lay_Out_Table(grid, Columns, TableVariant::ViewAll, view.Units, Table_Rows(Count_Of(record)));
     int row = 0;
     Attempt([&] {
-        for (record.MoveFirst(); !record.AtEnd(); record.MoveNext())
+        for (record.MoveFirst(); !record.At_End(); record.MoveNext())
             Write_Table_Row(grid, ++row, record, Columns, TableVariant::ViewAll, view);
     });
     grid.Set_Rows(Table_Rows(row));
@@ -246,11 +246,11 @@ FindCount FindInitializer::operator()(FlexGrid& grid, std::string_view familyCod
     double field = 0;
     double lightest = std::numeric_limits<double>::infinity();
     Attempt([&] {
-        for (record.MoveFirst(); !record.AtEnd(); record.MoveNext()) {
+        for (record.MoveFirst(); !record.At_End(); record.MoveNext()) {
             Attempt([&] { field = Find_Field(record, Columns, column, view.Units); });
             bool matches = false;
             Attempt(
-                [&] { matches = CriterionMatches(condition.Criterion, condition.Value, field); });
+                [&] { matches = Criterion_Matches(condition.Criterion, condition.Value, field); });
             if (!matches)
                 continue;
             Write_Table_Row(grid, ++count.Found, record, Columns, TableVariant::Find, view);

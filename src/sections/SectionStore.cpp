@@ -206,18 +206,18 @@ void SectionRecordset::MoveFirst() {
 }
 
 void SectionRecordset::MoveNext() {
-    if (AtEnd())
+    if (At_End())
         throw Failure("behind the last record");
     ++result_->At;
 }
 
-bool SectionRecordset::AtEnd() const {
+bool SectionRecordset::At_End() const {
     const Result& result = Open_Result();
     return result.At == result.Count;
 }
 
 const FieldValue& SectionRecordset::Cell(std::string_view name) const {
-    if (AtEnd())
+    if (At_End())
         throw Failure("no current record");
     auto column = result_->Columns.find(name);
     if (column == result_->Columns.end())

@@ -49,7 +49,7 @@ class SectionRecordset {
     std::size_t RecordCount() const;
     void MoveFirst(); // fails without rows
     void MoveNext();  // fails behind the last row
-    bool AtEnd() const;
+    bool At_End() const;
 
     // The value in the current row. Names are case-blind; an unknown one fails, and so does every
     // reading behind the last row.

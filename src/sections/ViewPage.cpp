@@ -37,7 +37,7 @@ void ViewPage::xShapeType_Change() {
         count_ =
             family.ViewAll(xShapeFlex, family.Type, {desk_.Host.Places.Program, profile_, style_});
     });
-    xShapeFlex.Set_TopRow(1);
+    xShapeFlex.Set_Top_Row(1);
     Run(OnCount);
 }
 

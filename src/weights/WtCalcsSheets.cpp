@@ -55,10 +55,10 @@ void WtCalcsSheets::Init_Sheet(FlexGrid& grid, std::span<const SheetColumn> colu
     grid.Set_Rows(EntryRows + 1);
     grid.Set_Cols(static_cast<int>(columns.size()));
     grid.Set_Fixed(1, 1);
-    grid.Set_RowHeightMin(rowHeightMin);
+    grid.Set_Row_Height_Min(rowHeightMin);
     int col = 0;
     for (const SheetColumn& column : columns) {
-        grid.Set_ColWidth(col, column.Width);
+        grid.Set_Col_Width(col, column.Width);
         grid.Set_Style(0, col, headStyle);
         grid.Set_Text(0, col, std::string{column.Head});
         for (int row = 1; row <= EntryRows; ++row)

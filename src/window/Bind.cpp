@@ -5,8 +5,8 @@
 #include "window/KeyCodes.h"
 #include "window/Link.h"
 #include "window/MouseWatch.h"
-#include "window/PictureView.h"
 #include "window/Theme.h"
+#include "window/drawing/PictureView.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -56,11 +56,11 @@ class ItemModel final : public QAbstractListModel {
         return To_Qt(control_.Item(index.row()));
     }
     void Update() {
-        if (version_ == control_.ItemsVersion())
+        if (version_ == control_.Items_Version())
             return;
         beginResetModel();
         shown_ = control_.Count();
-        version_ = control_.ItemsVersion();
+        version_ = control_.Items_Version();
         endResetModel();
     }
 

@@ -2,10 +2,10 @@
 
 #include "shell/AboutFrm.h"
 #include "shell/Version.h"
-#include "window/AboutForm.h"
-#include "window/CalcForm.h"
 #include "window/ProgramStyle.h"
-#include "window/WtCalcsForm.h"
+#include "window/calculator/CalcWindow.h"
+#include "window/pages/AboutDialog.h"
+#include "window/pages/WtCalcsDialog.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -42,7 +42,7 @@ bool Program::Start() {
             return false;
         settings_.Read_Again(); // the other one has ended meanwhile
     }
-    window_ = std::make_unique<MainForm>(form_, settings_, events_);
+    window_ = std::make_unique<ProgramWindow>(form_, settings_, events_);
     mainWindow_.Set_Widget(window_.get());
     mainWindow_.Set_On_Top(form_.Shared.OnTop);
     window_->show();
@@ -51,12 +51,12 @@ bool Program::Start() {
 }
 
 void Program::Show_CalcMainFrm() {
-    CalcForm(form_.Shared, calculator_, window_.get()).exec();
+    CalcWindow(form_.Shared, calculator_, window_.get()).exec();
 }
 
 void Program::Show_AboutFrm() {
     AboutFrm about(form_.Shared);
-    AboutForm(about, window_.get()).exec();
+    AboutDialog(about, window_.get()).exec();
 }
 
 void Program::Show_WtCalcsFrm() {

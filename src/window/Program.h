@@ -5,9 +5,9 @@
 #include "calculator/CalcVariables.h"
 #include "weights/WtCalcsFrm.h"
 #include "weights/WtCalcsFrmA.h"
-#include "window/DesktopVoice.h"
-#include "window/IniSettings.h"
-#include "window/MainForm.h"
+#include "window/desktop/DesktopVoice.h"
+#include "window/desktop/IniSettings.h"
+#include "window/pages/ProgramWindow.h"
 
 #include <memory>
 
@@ -25,7 +25,7 @@ class Program final : public Dialogs {
     bool Start();
 
     MainFrm& Form() { return form_; }
-    MainForm& Window() { return *window_; }
+    ProgramWindow& Window() { return *window_; }
 
     void Show_CalcMainFrm() override;
     void Show_WtCalcsFrm() override;
@@ -46,7 +46,7 @@ class Program final : public Dialogs {
     CalcVariables calculator_;  // outlives its form
     SavedLengths savedLengths_; // of the weight calculators, until the program ends
     SavedRows savedRows_;
-    std::unique_ptr<MainForm> window_;
+    std::unique_ptr<ProgramWindow> window_;
 };
 
 } // namespace Tensarix

@@ -22,7 +22,7 @@ TEST(BalancedBolts, TwoBoltsInClosedForm) {
         for (const double e : {0.5 * s, s, 4 * s, 40 * s}) {
             const double a = s * s / (4 * e);
             const double C = 2 * FarthestBolt * a / std::hypot(a, s / 2);
-            EXPECT_NEAR(BalancedBoltCoefficient({2, 1, s, 3}, e, 0).value_or(-1), C, 1e-6);
+            EXPECT_NEAR(Balanced_Bolt_Coefficient({2, 1, s, 3}, e, 0).value_or(-1), C, 1e-6);
         }
     }
 }
@@ -78,7 +78,7 @@ TEST(BalancedBolts, AgreeWithTheLeastEnergyOfAPlateOnSprings) {
                         {{1, 4, 3, 3}, 5, 20}};
     Tests::Largest deviation;
     for (const Row& row : rows) {
-        const double C = BalancedBoltCoefficient(row.group, row.ex, row.angle).value_or(-1);
+        const double C = Balanced_Bolt_Coefficient(row.group, row.ex, row.angle).value_or(-1);
         const double off = std::abs(C / Least_Energy_C(row.group, row.ex, row.angle) - 1);
         const std::string at = std::to_string(row.group.m) + " x " + std::to_string(row.group.n) +
                                " at " + std::to_string(int(row.angle)) + " degrees";
@@ -99,7 +99,7 @@ TEST(BalancedBolts, TabulatedCoefficients) {
                                 {6, 0.48, 0.97, 1.73, 2.59, 3.55}};
     Tests::Largest deviation;
     const auto compare = [&deviation](const BoltGroup& group, double ex, double C) {
-        const double off = std::abs(BalancedBoltCoefficient(group, ex, 0).value_or(-1) - C);
+        const double off = std::abs(Balanced_Bolt_Coefficient(group, ex, 0).value_or(-1) - C);
         EXPECT_LE(off, 0.0052) << group.m << " x " << group.n << " at " << ex;
         deviation.Take(off, std::to_string(group.m) + " bolts at " + std::to_string(int(ex)));
     };
@@ -115,39 +115,41 @@ TEST(BalancedBolts, TabulatedCoefficients) {
 TEST(BalancedBolts, AnglesAndSidesOfOneGroupAgree) {
     const BoltGroup upright{6, 2, 3, 5.5};
     for (const double angle : {15.0, 40.0, 75.0}) {
-        const double C = BalancedBoltCoefficient(upright, 7, angle).value_or(-1);
+        const double C = Balanced_Bolt_Coefficient(upright, 7, angle).value_or(-1);
         EXPECT_GT(C, 0);
-        EXPECT_NEAR(BalancedBoltCoefficient(upright, 7, -angle).value_or(-2), C, 1e-6);
-        EXPECT_NEAR(BalancedBoltCoefficient(upright, -7, 180 - angle).value_or(-2), C, 1e-6);
+        EXPECT_NEAR(Balanced_Bolt_Coefficient(upright, 7, -angle).value_or(-2), C, 1e-6);
+        EXPECT_NEAR(Balanced_Bolt_Coefficient(upright, -7, 180 - angle).value_or(-2), C, 1e-6);
         // The same line of action in the frame of the lying group.
         const double e = 7 * std::cos(angle * 3.14159265358979 / 180);
         const double other = 90 - angle;
         const double ex = e / std::cos(other * 3.14159265358979 / 180);
-        EXPECT_NEAR(BalancedBoltCoefficient({2, 6, 5.5, 3}, ex, -other).value_or(-2), C, 1e-6);
+        EXPECT_NEAR(Balanced_Bolt_Coefficient({2, 6, 5.5, 3}, ex, -other).value_or(-2), C, 1e-6);
     }
 }
 
 TEST(BalancedBolts, EdgesOfTheGroup) {
-    EXPECT_NEAR(BalancedBoltCoefficient({3, 2, 3, 3}, 0, 30).value_or(-1), 6 * FarthestBolt, 1e-9);
-    EXPECT_NEAR(BalancedBoltCoefficient({3, 2, 3, 3}, 9, 90).value_or(-1), 6 * FarthestBolt, 1e-6);
-    EXPECT_EQ(BalancedBoltCoefficient({1, 1, 3, 3}, 9, 0).value_or(-1), 0);
-    EXPECT_FALSE(BalancedBoltCoefficient({0, 4, 3, 3}, 9, 0));
-    EXPECT_FALSE(BalancedBoltCoefficient({-2, -2, 3, 3}, 9, 0));
-    EXPECT_FALSE(BalancedBoltCoefficient({32767, 32767, 3, 3}, 9, 0));
-    EXPECT_FALSE(BalancedBoltCoefficient({3, 2, 1e300, 3}, 9, 0));
+    EXPECT_NEAR(Balanced_Bolt_Coefficient({3, 2, 3, 3}, 0, 30).value_or(-1), 6 * FarthestBolt,
+                1e-9);
+    EXPECT_NEAR(Balanced_Bolt_Coefficient({3, 2, 3, 3}, 9, 90).value_or(-1), 6 * FarthestBolt,
+                1e-6);
+    EXPECT_EQ(Balanced_Bolt_Coefficient({1, 1, 3, 3}, 9, 0).value_or(-1), 0);
+    EXPECT_FALSE(Balanced_Bolt_Coefficient({0, 4, 3, 3}, 9, 0));
+    EXPECT_FALSE(Balanced_Bolt_Coefficient({-2, -2, 3, 3}, 9, 0));
+    EXPECT_FALSE(Balanced_Bolt_Coefficient({32767, 32767, 3, 3}, 9, 0));
+    EXPECT_FALSE(Balanced_Bolt_Coefficient({3, 2, 1e300, 3}, 9, 0));
 }
 
 // The force of one line along the load and of one across it, in lines along.
 TEST(BalancedWelds, ConcentricGroups) {
     constexpr double unit = 0.6 * 70 * 0.707106781 * 0.0625;
-    EXPECT_NEAR(BalancedWeldCoefficient(2, 10, 5, 0, 0).value_or(-1), 2 * unit, 0.003);
-    EXPECT_NEAR(BalancedWeldCoefficient(3, 10, 5, 0, 15).value_or(-1),
+    EXPECT_NEAR(Balanced_Weld_Coefficient(2, 10, 5, 0, 0).value_or(-1), 2 * unit, 0.003);
+    EXPECT_NEAR(Balanced_Weld_Coefficient(3, 10, 5, 0, 15).value_or(-1),
                 2 * unit * (1 + 0.5 * std::pow(std::sin(75 * 3.14159265358979 / 180), 1.5)), 0.006);
     // Along and across together, AISC section J2.4: 0.85 and 1.5.
-    EXPECT_NEAR(BalancedWeldCoefficient(4, 10, 10, 0, 0).value_or(-1), unit * (2 * 0.85 + 2 * 1.5),
-                0.1);
-    EXPECT_FALSE(BalancedWeldCoefficient(4, 0, 10, 3, 0));
-    EXPECT_FALSE(BalancedWeldCoefficient(4, 1e300, 10, 3, 0));
+    EXPECT_NEAR(Balanced_Weld_Coefficient(4, 10, 10, 0, 0).value_or(-1),
+                unit * (2 * 0.85 + 2 * 1.5), 0.1);
+    EXPECT_FALSE(Balanced_Weld_Coefficient(4, 0, 10, 3, 0));
+    EXPECT_FALSE(Balanced_Weld_Coefficient(4, 1e300, 10, 3, 0));
 }
 
 // The centre of a weld group by feeling about for it: from the elastic centre, in shorter and
@@ -163,7 +165,7 @@ Felt Felt_Weld_C(int item, double L, double kL, double aL, double degrees) {
     };
     std::vector<Piece> pieces;
     double total = 0, xc = 0, yc = 0, polar = 0;
-    for (const WeldLine& line : WeldConfigurationLines(item, L, kL)) {
+    for (const WeldLine& line : Weld_Configuration_Lines(item, L, kL)) {
         const double length = std::hypot(line.x2 - line.x1, line.y2 - line.y1);
         for (int k = 0; k < strips && length > 0; ++k) {
             const double t = (k + 0.5) / strips, dx = line.x2 - line.x1, dy = line.y2 - line.y1;
@@ -231,7 +233,8 @@ TEST(BalancedWelds, AgreeWithACentreFeltFor) {
             for (const double angle : {0.0, 30.0}) {
                 const double kL = item == 1 ? 0 : 5;
                 const Felt felt = Felt_Weld_C(item, 10, kL, 10 * a, angle);
-                const double C = BalancedWeldCoefficient(item, 10, kL, 10 * a, angle).value_or(-1);
+                const double C =
+                    Balanced_Weld_Coefficient(item, 10, kL, 10 * a, angle).value_or(-1);
                 const std::string at = "item " + std::to_string(item) + ", a " +
                                        std::to_string(a).substr(0, 3) + ", " +
                                        std::to_string(int(angle)) + " degrees";
@@ -247,7 +250,7 @@ TEST(BalancedWelds, AgreeWithACentreFeltFor) {
 TEST(BalancedWelds, ATabulatedConnection) {
     constexpr double L = 8.5, leg = 3, edge = 3.5;
     const double C =
-        BalancedWeldCoefficient(6, L, leg, edge - leg * leg / (L + 2 * leg), 0).value_or(-1);
+        Balanced_Weld_Coefficient(6, L, leg, edge - leg * leg / (L + 2 * leg), 0).value_or(-1);
     EXPECT_NEAR(2 * 0.75 * C * 3 * L, 110, 0.5);
 }
 
@@ -261,7 +264,7 @@ TEST(BalancedWelds, AlmostEveryGroupHasACentre) {
     for (int k = 0; k < all; ++k) {
         const int item = 1 + k % 9;
         const double L = between(2, 40), kL = L * between(0, 2), aL = L * between(0.05, 3);
-        none += !BalancedWeldCoefficient(item, L, kL, aL, between(0, 85));
+        none += !Balanced_Weld_Coefficient(item, L, kL, aL, between(0, 85));
     }
     EXPECT_LE(none, all / 100);
     testing::Test::RecordProperty("without a centre",
@@ -280,10 +283,10 @@ TEST(BalanceRemark, TheBoltSearchIsNeverBelowTheBalancedLoad) {
                     CountingTurn turn;
                     SearchYield yield(turn);
                     const double C = BoltCoefficientC(group, ex, angle, yield);
-                    const auto balanced = BalancedBoltCoefficient(group, ex, angle);
+                    const auto balanced = Balanced_Bolt_Coefficient(group, ex, angle);
                     EXPECT_GT(C / balanced.value_or(1e9), 1.018) << m << " x " << n << " at " << ex;
                     above.Take(C / *balanced - 1, std::to_string(m) + " x " + std::to_string(n));
-                    remarks += !BalanceRemark(C, balanced, BoltRemarkTolerance).empty();
+                    remarks += !Balance_Remark(C, balanced, BoltRemarkTolerance).empty();
                 }
         EXPECT_TRUE(angle > 0 || remarks < 5);
         above.Record(std::to_string(int(angle)) + " degrees, " + std::to_string(remarks) +
@@ -302,14 +305,14 @@ TEST(BalanceRemark, TheWeldSearchIsBelowTheBalancedLoadUnderAnUprightLoad) {
                     bench.state.StopRequested |= bench.display.steps > 999;
                 };
                 const double C =
-                    WeldConfigurationResult(item, 10, 5, aL, angle, WeldModeC, bench.search);
-                const auto balanced = BalancedWeldCoefficient(item, 10, 5, aL, angle);
+                    Weld_Configuration_Result(item, 10, 5, aL, angle, WeldModeC, bench.search);
+                const auto balanced = Balanced_Weld_Coefficient(item, 10, 5, aL, angle);
                 if (bench.state.StopRequested || !balanced)
                     continue;
                 const std::string at = "item " + std::to_string(item);
                 above.Take(C / *balanced - 1, at);
                 below.Take(1 - C / *balanced, at);
-                remarks += !BalanceRemark(C, balanced, WeldRemarkTolerance).empty();
+                remarks += !Balance_Remark(C, balanced, WeldRemarkTolerance).empty();
                 EXPECT_TRUE(angle > 0 || C < *balanced) << at;
             }
         const std::string run =
@@ -324,17 +327,17 @@ TEST(BalanceRemark, StandsBeyondTheTolerance) {
     SearchYield yield(turn);
     const BoltGroup group{3, 1, 3, 3};
     const double C = BoltCoefficientC(group, 8, 0, yield);
-    EXPECT_EQ(BalanceRemark(C, BalancedBoltCoefficient(group, 8, 0), BoltRemarkTolerance),
+    EXPECT_EQ(Balance_Remark(C, Balanced_Bolt_Coefficient(group, 8, 0), BoltRemarkTolerance),
               "The centre that satisfies all equilibrium conditions gives C = 0.732 (this value is "
               "310 % higher)");
-    EXPECT_EQ(BalanceRemark(0.9, 1.0, 0.05),
+    EXPECT_EQ(Balance_Remark(0.9, 1.0, 0.05),
               "The centre that satisfies all equilibrium conditions gives C = 1.000 (this value is "
               "10 % lower)");
-    EXPECT_EQ(BalanceRemark(4.5584, BalancedBoltCoefficient({6, 1, 3, 3}, 4, 0), 0.025), "");
-    EXPECT_EQ(BalanceRemark(1.0, std::nullopt, 0.025),
+    EXPECT_EQ(Balance_Remark(4.5584, Balanced_Bolt_Coefficient({6, 1, 3, 3}, 4, 0), 0.025), "");
+    EXPECT_EQ(Balance_Remark(1.0, std::nullopt, 0.025),
               "Not checked: no centre that satisfies all equilibrium conditions was found");
-    EXPECT_EQ(BalanceRemark(0.0, std::nullopt, 0.025), ""); // no group, no load
-    EXPECT_EQ(BalanceRemark(0.0, 0.0, 0.025), "");
+    EXPECT_EQ(Balance_Remark(0.0, std::nullopt, 0.025), ""); // no group, no load
+    EXPECT_EQ(Balance_Remark(0.0, 0.0, 0.025), "");
 }
 
 } // namespace

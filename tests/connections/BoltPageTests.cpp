@@ -123,7 +123,7 @@ TEST_F(BoltPageTest, AddAndRemoveRows) {
     p.AddRowButton.Click();
     p.AddRowButton.Click();
     EXPECT_EQ(p.cFlex.Rows(), 18);
-    EXPECT_EQ(p.cFlex.TopRow(), 7);
+    EXPECT_EQ(p.cFlex.Top_Row(), 7);
     EXPECT_EQ(p.cFlex.Row(), 17);
     EXPECT_EQ(Cell(17, 0), "17");
     EXPECT_EQ(p.cFlex.Style(17, 1), p.cFlex.Style(1, 1));

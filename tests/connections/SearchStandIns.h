@@ -23,7 +23,7 @@ struct RecordingDisplay final : WeldDisplay {
     std::function<void()> onStep = [] {};
 
     std::int64_t Now() override { return now; }
-    bool HasText() override { return text.find_first_not_of(' ') != std::string::npos; }
+    bool Has_Text() override { return text.find_first_not_of(' ') != std::string::npos; }
     void Replace_Text(std::string_view by) override { text = by; }
     void Append_Text(std::string_view more) override { text += more; }
     void Show_Elapsed(std::string_view caption) override {

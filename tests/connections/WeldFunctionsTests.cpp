@@ -12,14 +12,14 @@ namespace Tensarix {
 namespace {
 
 double Coefficient(WeldBench& bench, int item, double L, double kL, double aL, double angle) {
-    return WeldConfigurationResult(item, L, kL, aL, angle, WeldModeC, bench.search);
+    return Weld_Configuration_Result(item, L, kL, aL, angle, WeldModeC, bench.search);
 }
 
 double Plain_Coefficient(int item, double L, double kL, double aL, double angle, long most,
                          long* passes) {
     const double s = L > 100 ? 1 : 100 / L;
     const Plain::Outcome outcome =
-        Plain::WeldLoad(WeldConfigurationLines(item, s * L, s * kL), std::abs(aL) * s, angle,
+        Plain::WeldLoad(Weld_Configuration_Lines(item, s * L, s * kL), std::abs(aL) * s, angle,
                         item == 7 ? 1 : s, 4, most);
     *passes = outcome.passes;
     return outcome.value / (s * L);
@@ -224,8 +224,8 @@ TEST(WeldConfigurations, CentroidsInClosedForm) {
     for (const double unit : {1.0, 25.4}) {
         for (const Row& row : rows) {
             const auto of = [&](std::int16_t mode) {
-                return WeldConfigurationResult(row.item, L * unit, row.kL * unit, 0, 0, mode,
-                                               bench.search);
+                return Weld_Configuration_Result(row.item, L * unit, row.kL * unit, 0, 0, mode,
+                                                 bench.search);
             };
             EXPECT_NEAR(of(WeldModeXL), row.xL * unit, 1e-12 * unit) << row.item;
             EXPECT_NEAR(of(WeldModeYL), row.yL * unit, 1e-12 * unit) << row.item;

@@ -81,7 +81,7 @@ TEST_F(WeldPageTest, FirstStart) {
     WeldPage& p = Start();
     EXPECT_EQ(p.WeldView.Count(), 9);
     EXPECT_EQ(p.WeldView.Item(9).Key + p.WeldView.Item(9).Text, "weld9Weld Configuration 9");
-    EXPECT_EQ(p.WeldView.SelectedItem(), 1);
+    EXPECT_EQ(p.WeldView.Selected_Item(), 1);
     EXPECT_EQ(p.WeldImage.Name(), "wImage1");
     EXPECT_EQ(p.WeldStripBox.Text(), "  1/8\"");
     EXPECT_EQ(Value(WeldRow::xL), "             N.A.");
@@ -95,7 +95,7 @@ TEST_F(WeldPageTest, SettingsComeBackAndGarbageIsSurvived) {
     Page().WeldStripBox.Select(3);
     design->Save_Settings();
     Start();
-    EXPECT_EQ(Page().WeldView.SelectedItem(), 7);
+    EXPECT_EQ(Page().WeldView.Selected_Item(), 7);
     EXPECT_EQ(Page().WeldImage.Name(), "wImage7");
     EXPECT_EQ(Page().WeldStripBox.ListIndex(), 3);
     EXPECT_EQ(Value(WeldRow::xL), "");
@@ -103,7 +103,7 @@ TEST_F(WeldPageTest, SettingsComeBackAndGarbageIsSurvived) {
         machine.Store.Set("WeldView", garbage);
         machine.Store.Set("WeldStrip", garbage[0] == '0' ? "4" : garbage);
         Start();
-        EXPECT_EQ(Page().WeldView.SelectedItem(), 1) << garbage;
+        EXPECT_EQ(Page().WeldView.Selected_Item(), 1) << garbage;
         EXPECT_EQ(Page().WeldStripBox.ListIndex(), 1) << garbage;
     }
 }
@@ -309,7 +309,7 @@ TEST_F(WeldPageTest, NothingCanBeEditedDuringARun) {
     p.StartIterationButton.Click();
     EXPECT_EQ(Value(0), "10.000     ");
     EXPECT_FALSE(p.EdiTxtA.Visible());
-    EXPECT_EQ(p.WeldView.SelectedItem(), 1);
+    EXPECT_EQ(p.WeldView.Selected_Item(), 1);
     EXPECT_TRUE(Report().ends_with(located));
     onYield = [](long) {};
     p.WeldFlex.Move_To(WeldRow::xL, 1);

@@ -115,8 +115,8 @@ TEST(CellEditing, WhatDoesNotOpenTheEditor) {
 TEST(CellEditing, TheEditorLiesInsideItsCell) {
     Sheet sheet;
     sheet.Grid.Set_Place({100, 200, 0, 0});
-    sheet.Grid.Set_RowHeight(2, 350);
-    sheet.Grid.Set_ColWidth(2, 2100);
+    sheet.Grid.Set_Row_Height(2, 350);
+    sheet.Grid.Set_Col_Width(2, 2100);
     sheet.Grid.OnKeyPress('7');
     const Placement box = sheet.Box.Place();
     const Placement cell = sheet.Grid.Cell_Place();
@@ -268,7 +268,7 @@ TEST(CellEditing, TheBoxFollowsTheScrollAndTheListCloses) {
     Sheet sheet;
     sheet.Type("12");
     const double top = sheet.Box.Place().Top;
-    sheet.Grid.Set_TopRow(2);
+    sheet.Grid.Set_Top_Row(2);
     EXPECT_LT(sheet.Box.Place().Top, top);
     EXPECT_EQ(sheet.Box.Text(), "12");
     EXPECT_TRUE(sheet.Box.Visible());
@@ -277,7 +277,7 @@ TEST(CellEditing, TheBoxFollowsTheScrollAndTheListCloses) {
     sheet.Grid.OnMouseDown();
     sheet.List.Select(2);
     sheet.Log.clear();
-    sheet.Grid.Set_TopRow(1);
+    sheet.Grid.Set_Top_Row(1);
     EXPECT_FALSE(sheet.List.Visible());
     EXPECT_EQ(sheet.Grid.Text(2, 1), "");
     EXPECT_EQ(sheet.Log, Lines{"cell"});

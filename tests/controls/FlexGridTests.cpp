@@ -70,7 +70,7 @@ TEST(FlexGrid, MovesRunTheHandlersInOrder) {
     grid.Move_By(10, -10, false);
     grid.Move_By(-1, 0, true);
     EXPECT_EQ(log, "leave11 sel22 sel22 mouse22 leave22 sel31 mouse31 leave31 sel40 ");
-    EXPECT_EQ(grid.RowSel(), 3);
+    EXPECT_EQ(grid.Row_Sel(), 3);
 }
 
 TEST(FlexGrid, ClipGoesRowByRowWhateverWayTheSelectionWasMade) {
@@ -90,31 +90,31 @@ TEST(FlexGrid, PositionsStayInsideTheGrid) {
     Fill(grid, 10, 6);
     int scrolls = 0;
     grid.OnScroll = [&] { ++scrolls; };
-    grid.Set_TopRow(99);
-    EXPECT_EQ(grid.TopRow(), 9);
-    grid.Set_LeftCol(0);
-    EXPECT_EQ(grid.LeftCol(), 1);
+    grid.Set_Top_Row(99);
+    EXPECT_EQ(grid.Top_Row(), 9);
+    grid.Set_Left_Col(0);
+    EXPECT_EQ(grid.Left_Col(), 1);
     grid.Move_To(9, 5);
     grid.Set_Rows(4);
     grid.Set_Cols(3);
     EXPECT_EQ(grid.Row(), 3);
     EXPECT_EQ(grid.Col(), 2);
-    EXPECT_EQ(grid.TopRow(), 3);
+    EXPECT_EQ(grid.Top_Row(), 3);
     EXPECT_EQ(scrolls, 1);
 }
 
 TEST(FlexGrid, TheCellsPlaceFollowsTheScrolling) {
     FlexGrid grid;
     Fill(grid, 6, 4);
-    grid.Set_RowHeightMin(350);
-    grid.Set_RowHeight(0, 460);
+    grid.Set_Row_Height_Min(350);
+    grid.Set_Row_Height(0, 460);
     for (int col = 0; col < 4; ++col)
-        grid.Set_ColWidth(col, 1000 + col);
+        grid.Set_Col_Width(col, 1000 + col);
     grid.Move_To(4, 3);
     EXPECT_EQ(grid.Cell_Place().Left, 1000 + 1001 + 1002);
     EXPECT_EQ(grid.Cell_Place().Top, 460 + 3 * 350);
-    grid.Set_TopRow(3);
-    grid.Set_LeftCol(3);
+    grid.Set_Top_Row(3);
+    grid.Set_Left_Col(3);
     EXPECT_EQ(grid.Cell_Place().Left, 1000);
     EXPECT_EQ(grid.Cell_Place().Top, 460 + 350);
     EXPECT_EQ(grid.Cell_Place().Width, 1003);

@@ -177,14 +177,14 @@ TEST_F(BrowseTest, AClickCountsAsASelectionAndUnlocksTheCopyCommands) {
 
 TEST_F(BrowseTest, TheGridSnapsBack) {
     Choose("W-Shape", "W18x50");
-    page.ShapeFlex.Set_LeftCol(3);
+    page.ShapeFlex.Set_Left_Col(3);
     page.ShapeFlex.OnMouseMove(885);
-    EXPECT_EQ(page.ShapeFlex.LeftCol(), 3);
+    EXPECT_EQ(page.ShapeFlex.Left_Col(), 3);
     page.ShapeFlex.OnMouseMove(884);
-    EXPECT_EQ(page.ShapeFlex.LeftCol(), 1);
-    page.ShapeFlex.Set_LeftCol(2);
+    EXPECT_EQ(page.ShapeFlex.Left_Col(), 1);
+    page.ShapeFlex.Set_Left_Col(2);
     page.BaseImage.OnMouseMove();
-    EXPECT_EQ(page.ShapeFlex.LeftCol(), 1);
+    EXPECT_EQ(page.ShapeFlex.Left_Col(), 1);
 }
 
 TEST_F(BrowseTest, TheFamilyAndTheSelectionAreSpoken) {

@@ -123,9 +123,9 @@ TEST_F(FindTest, GoSearchesAndEmptyBoxesAreRefused) {
     page.FindButton.Click();
     EXPECT_EQ(page.Count_Text(), "109 found of 274 sections, lightest W36x135");
     EXPECT_EQ(page.fShapeFlex.Rows(), 110);
-    page.fShapeFlex.Set_TopRow(50);
+    page.fShapeFlex.Set_Top_Row(50);
     page.FindButton.Click();
-    EXPECT_EQ(page.fShapeFlex.TopRow(), 1);
+    EXPECT_EQ(page.fShapeFlex.Top_Row(), 1);
 }
 
 TEST_F(FindTest, EnterSearchesAtOnceAndKeepsTheScroll) {
@@ -137,9 +137,9 @@ TEST_F(FindTest, EnterSearchesAtOnceAndKeepsTheScroll) {
     page.fValue.OnKeyPress(Keys::Enter); // the empty box is a search for 0
     EXPECT_TRUE(machine.Boxes.Shown.empty());
     EXPECT_EQ(page.Count_Text(), "274 found of 274 sections, lightest W6x8.5");
-    page.fShapeFlex.Set_TopRow(9);
+    page.fShapeFlex.Set_Top_Row(9);
     page.fValue.OnKeyPress(Keys::Enter);
-    EXPECT_EQ(page.fShapeFlex.TopRow(), 9);
+    EXPECT_EQ(page.fShapeFlex.Top_Row(), 9);
 }
 
 TEST_F(FindTest, AResultFollowsProfileAndStyleUntilTheConditionChanges) {
@@ -234,12 +234,12 @@ TEST_F(ViewTest, AChoiceFillsTheGridAndScrollsBack) {
     EXPECT_EQ(page.Count_Text(), "444 sections");
     EXPECT_EQ(counts, 1);
     EXPECT_EQ(page.xShapeFlex.Rows(), 445);
-    page.xShapeFlex.Set_TopRow(100);
+    page.xShapeFlex.Set_Top_Row(100);
     page.xShapeFlex.Press(101, 5);
     EXPECT_TRUE(desk.GridClicked);
     EXPECT_NE(desk.StatBar.Panel1(), " SELECTION:   None");
     page.xShapeType.Select(2);
-    EXPECT_EQ(page.xShapeFlex.TopRow(), 1);
+    EXPECT_EQ(page.xShapeFlex.Top_Row(), 1);
     EXPECT_EQ(desk.StatBar.Panel1(), " SELECTION:   None");
     EXPECT_TRUE(machine.Store.Written.empty()); // saved at exit only
 }

@@ -168,9 +168,9 @@ TEST(FindSearch, Criteria) {
                  {"<=", true, true, false},        {"", false, false, false},
                  {"==", false, false, false}};
     for (const auto& c : cases) {
-        EXPECT_EQ(CriterionMatches(c.Criterion, 10, 9.99), c.Below) << c.Criterion;
-        EXPECT_EQ(CriterionMatches(c.Criterion, 10, 10), c.Equal) << c.Criterion;
-        EXPECT_EQ(CriterionMatches(c.Criterion, 10, 11), c.Above) << c.Criterion;
+        EXPECT_EQ(Criterion_Matches(c.Criterion, 10, 9.99), c.Below) << c.Criterion;
+        EXPECT_EQ(Criterion_Matches(c.Criterion, 10, 10), c.Equal) << c.Criterion;
+        EXPECT_EQ(Criterion_Matches(c.Criterion, 10, 11), c.Above) << c.Criterion;
     }
 }
 

@@ -110,7 +110,7 @@ TEST(PropertyTable, NoSecondMomentIsSilentlyWrong) {
         int lost = 0, whole = 0;
         for (const Family& family : Families) {
             SectionRead read(TENSARIX_PROGRAM_DIR, Query_By_Family(family.Type));
-            for (read.Records.MoveFirst(); !read.Records.AtEnd(); read.Records.MoveNext())
+            for (read.Records.MoveFirst(); !read.Records.At_End(); read.Records.MoveNext())
                 for (const LayoutEntry& entry : family.Browse.Rows.Entries) {
                     const Property* p = entry.Browse;
                     if (!p || p->Kind != PropertyKind::SecondMoment ||

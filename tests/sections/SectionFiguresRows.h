@@ -31,7 +31,7 @@ inline const std::vector<std::string> figureNames{
 inline std::vector<FigureRow> Read_Family_Rows(const std::string& family) {
     SectionRead read(TENSARIX_PROGRAM_DIR, Query_By_Family(family));
     std::vector<FigureRow> rows;
-    for (const SectionRecordset& r = read.Records; !r.AtEnd(); read.Records.MoveNext()) {
+    for (const SectionRecordset& r = read.Records; !r.At_End(); read.Records.MoveNext()) {
         FigureRow row{family, r.Text("AISC_Manual_Label"), r.Text("xAISC_Manual_Label"), {}};
         for (const std::string& name : figureNames)
             for (const std::string& column : {name, "x" + name})

@@ -66,7 +66,7 @@ void Expect_Closed(SectionRecordset& records) {
     EXPECT_THROW(records.RecordCount(), Failure);
     EXPECT_THROW(records.MoveFirst(), Failure);
     EXPECT_THROW(records.MoveNext(), Failure);
-    EXPECT_THROW(records.AtEnd(), Failure);
+    EXPECT_THROW(records.At_End(), Failure);
     EXPECT_THROW(records.Field("W"), Failure);
     EXPECT_THROW(records.Number("W"), Failure);
     EXPECT_THROW(records.Text("W"), Failure);
@@ -77,7 +77,7 @@ bool Read_Everything(const fs::path& folder) {
     std::size_t rows = 0;
     Attempt([&] {
         SectionRead read(folder, Query_By_Family("W"));
-        for (SectionRecordset& r = read.Records; !r.AtEnd(); r.MoveNext(), ++rows)
+        for (SectionRecordset& r = read.Records; !r.At_End(); r.MoveNext(), ++rows)
             for (const char* column : {"TYPE", "A", "xCW", "IDE_STD_Nomenclature"})
                 Attempt([&] { r.Text(column); });
     });
@@ -105,7 +105,7 @@ TEST_F(SectionStoreTest, RowsAreWalkedInOrder) {
     EXPECT_EQ(pipes.Text("AISC_Manual_Label"), "Pipe12STD");
     double last = 0;
     std::size_t rows = 0;
-    for (; !pipes.AtEnd(); pipes.MoveNext(), ++rows) {
+    for (; !pipes.At_End(); pipes.MoveNext(), ++rows) {
         EXPECT_GT(pipes.Number("SEQ"), last);
         last = pipes.Number("SEQ");
     }
@@ -134,7 +134,7 @@ TEST_F(SectionStoreTest, FieldsAreReadByName) {
 TEST_F(SectionStoreTest, AValueListIsSortedByItsColumn) {
     SectionRead read = Read(Query_Value_List("L-UnEq", "xIX"));
     double last = 0;
-    for (SectionRecordset& r = read.Records; !r.AtEnd(); r.MoveNext()) {
+    for (SectionRecordset& r = read.Records; !r.At_End(); r.MoveNext()) {
         EXPECT_GE(r.Number("xIX"), last);
         last = r.Number("xIX");
     }
@@ -146,7 +146,7 @@ TEST_F(SectionStoreTest, NoRowsIsNotClosed) {
          {Query_By_US_Label(""), Query_By_US_Label("w44X335"), Query_By_Family("XX")}) {
         SectionRead read = Read(sql);
         EXPECT_EQ(read.Records.RecordCount(), 0u) << sql;
-        EXPECT_TRUE(read.Records.AtEnd());
+        EXPECT_TRUE(read.Records.At_End());
         EXPECT_THROW(read.Records.MoveFirst(), Failure);
         EXPECT_THROW(read.Records.MoveNext(), Failure);
         EXPECT_THROW(read.Records.Field("W"), Failure);

@@ -179,7 +179,7 @@ TEST_F(MainFrmTest, ConnectionDesignIsSavedLastAtExit) {
               (std::vector<std::string>{"cFlexRows=17", "WeldStrip=1", "WeldView=9"}));
     MainFrm& next = Start();
     EXPECT_EQ(next.Design.Bolts.cFlex.Rows(), 17);
-    EXPECT_EQ(next.Design.Welds.WeldView.SelectedItem(), 9);
+    EXPECT_EQ(next.Design.Welds.WeldView.Selected_Item(), 9);
     EXPECT_EQ(next.Shared.StatBar.Panel1(), " SELECTION:   None");
 }
 

@@ -1,7 +1,7 @@
 // The about box with real keys and clicks.
 #include "StandIns.h"
 #include "WindowTest.h"
-#include "window/AboutForm.h"
+#include "window/pages/AboutDialog.h"
 
 #include <QAction>
 #include <QLabel>
@@ -39,12 +39,12 @@ TEST_F(WindowTest, TheMenuOpensTheAboutBoxAndOKEnterAndEscapeCloseIt) {
 }
 
 // Silence comes once, when the box closes and not before.
-TEST(AboutForm, EscapeSilencesTheReading) {
+TEST(AboutDialog, EscapeSilencesTheReading) {
     TestMachine machine;
     Desk desk(machine.Host);
     desk.ReadOut = true;
     AboutFrm about(desk);
-    AboutForm form(about, nullptr);
+    AboutDialog form(about, nullptr);
     form.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     EXPECT_EQ(machine.Speech.Spoken.size(), 4u);

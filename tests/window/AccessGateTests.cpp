@@ -1,11 +1,11 @@
 // What has to hold on every screen for whoever works without a mouse or without seeing it.
 #include "EveryScreen.h"
 #include "WindowTest.h"
-#include "window/CalcForm.h"
-#include "window/GridView.h"
-#include "window/IconList.h"
-#include "window/ReportView.h"
-#include "window/WtCalcsForm.h"
+#include "window/calculator/CalcWindow.h"
+#include "window/grid/GridView.h"
+#include "window/pages/IconList.h"
+#include "window/pages/ReportView.h"
+#include "window/pages/WtCalcsDialog.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -219,7 +219,7 @@ class AccessGate : public WindowTest {
 
     // Enter is the calculator's and the tables' own key.
     void Check_Default(QWidget& top) {
-        const bool own = dynamic_cast<CalcForm*>(&top) || dynamic_cast<WtCalcsDialog*>(&top);
+        const bool own = dynamic_cast<CalcWindow*>(&top) || dynamic_cast<WtCalcsDialog*>(&top);
         if (!qobject_cast<QDialog*>(&top) || own)
             return;
         const auto defaults =

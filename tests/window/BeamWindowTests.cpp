@@ -1,6 +1,6 @@
 // Allowable Beam Load and the grids' popup, through real keys, clicks and the real clipboard.
 #include "WindowTest.h"
-#include "window/GridView.h"
+#include "window/grid/GridView.h"
 
 #include <QClipboard>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 // Browse Sections, the menu and the settings, through real keys and clicks.
 #include "WindowTest.h"
-#include "window/GridView.h"
+#include "window/grid/GridView.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -101,7 +101,7 @@ TEST_F(BrowseWindowTest, TheFixedColumn) {
     grid.setFocus();
     QTest::keyClick(&grid, Qt::Key_End);
     Settle();
-    EXPECT_GT(Page().ShapeFlex.LeftCol(), 1);
+    EXPECT_GT(Page().ShapeFlex.Left_Col(), 1);
     EXPECT_EQ(grid.Cell_Rect(2, 0), cell);
     Page().Snap_Back();
     Settle();

@@ -2,8 +2,8 @@
 #include "StandIns.h"
 #include "WindowTest.h"
 #include "calculator/CalcConstants.h"
-#include "window/CalcForm.h"
-#include "window/CalcHelpForm.h"
+#include "window/calculator/CalcHelpDialog.h"
+#include "window/calculator/CalcWindow.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -404,11 +404,11 @@ TEST_F(CalcWindowTest, HelpOpensWithItsTopics) {
     });
 }
 
-TEST(CalcHelpForm, TheSpokenWordIsMarkedAndClosingSilences) {
+TEST(CalcHelpDialog, TheSpokenWordIsMarkedAndClosingSilences) {
     TestMachine machine;
     Desk desk(machine.Host);
     CalcVariables vars;
-    CalcForm form(desk, vars, nullptr);
+    CalcWindow form(desk, vars, nullptr);
     for (const bool aloud : {true, false}) {
         desk.ReadOut = aloud;
         machine.Speech.Spoken.clear();

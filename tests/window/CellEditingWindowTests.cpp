@@ -1,8 +1,8 @@
 // Editors laid over the cells of a real grid view, driven by real keys and clicks.
 #include "controls/CellEditing.h"
 #include "window/Bind.h"
-#include "window/CellOverlay.h"
-#include "window/GridView.h"
+#include "window/grid/CellOverlay.h"
+#include "window/grid/GridView.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -37,9 +37,9 @@ class EditedGrid : public testing::Test {
         grid.Set_Rows(31);
         grid.Set_Cols(4);
         grid.Set_Fixed(1, 1);
-        grid.Set_RowHeightMin(350);
+        grid.Set_Row_Height_Min(350);
         for (int col = 1; col < 4; ++col)
-            grid.Set_ColWidth(col, 2000);
+            grid.Set_Col_Width(col, 2000);
         for (const char* item : {"W8x10", "W8x13", "W10x12"})
             list.Add(item);
         editing.Add(CellEditing::TextCells{box,
@@ -241,7 +241,7 @@ TEST_F(EditedGrid, TheWheelKeepsWhatWasPickedAndClosesTheList) {
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(combo, &wheel);
     QCoreApplication::processEvents();
-    EXPECT_GT(grid.TopRow(), 1);
+    EXPECT_GT(grid.Top_Row(), 1);
     EXPECT_FALSE(combo->isVisible());
     EXPECT_EQ(grid.Text(2, 1), "W8x10");
     EXPECT_TRUE(view->hasFocus());

@@ -1,8 +1,8 @@
 // Connection Design through real keys, clicks and searches.
 #include "WindowTest.h"
-#include "window/GridView.h"
-#include "window/IconList.h"
-#include "window/ReportView.h"
+#include "window/grid/GridView.h"
+#include "window/pages/IconList.h"
+#include "window/pages/ReportView.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -125,7 +125,7 @@ TEST_F(DesignWindowTest, ConfigurationsByTheArrowKeys) {
     QTest::keyClick(&list, Qt::Key_Down);
     QTest::keyClick(&list, Qt::Key_Down);
     Settle();
-    EXPECT_EQ(Design().Welds.WeldView.SelectedItem(), 3);
+    EXPECT_EQ(Design().Welds.WeldView.Selected_Item(), 3);
     EXPECT_EQ(Design().Welds.WeldImage.Name(), "wImage3");
     EXPECT_EQ(Find<QLabel>("Panel1").text(), " SELECTION:   Weld Configuration 3");
     int clicks = 0;
@@ -139,7 +139,7 @@ TEST_F(DesignWindowTest, ConfigurationsByTheArrowKeys) {
                           list.visualItemRect(list.item(row)).center());
     };
     press(6);
-    EXPECT_EQ(Design().Welds.WeldView.SelectedItem(), 7);
+    EXPECT_EQ(Design().Welds.WeldView.Selected_Item(), 7);
     EXPECT_EQ(clicks, 1);
     press(6);
     EXPECT_EQ(clicks, 2);

@@ -1,7 +1,7 @@
 // The voice with the real speech service, which plays to nowhere: a service of the test's own, that
 // the voice itself starts from the home folder of the test.
 #include "WindowTest.h"
-#include "window/DesktopVoice.h"
+#include "window/desktop/DesktopVoice.h"
 
 #include <QElapsedTimer>
 #include <QFile>

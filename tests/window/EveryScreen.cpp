@@ -1,7 +1,7 @@
 #include "EveryScreen.h"
 
-#include "window/CalcForm.h"
-#include "window/GridView.h"
+#include "window/calculator/CalcWindow.h"
+#include "window/grid/GridView.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -37,7 +37,7 @@ void Activate(QWidget& top) {
 
 // By Escape, which in the calculator clears what is being typed.
 void Leave(QWidget& dialog) {
-    if (dialog.isVisible() && !dynamic_cast<CalcForm*>(&dialog)) {
+    if (dialog.isVisible() && !dynamic_cast<CalcWindow*>(&dialog)) {
         Activate(dialog);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         EXPECT_FALSE(dialog.isVisible())
@@ -295,7 +295,7 @@ class Walk {
     void Calculator() {
         In_Dialog([this] { program_.Form().mnuCalc.Click(); },
                   [this](QWidget& dialog) {
-                      auto& form = dynamic_cast<CalcForm&>(dialog);
+                      auto& form = dynamic_cast<CalcWindow&>(dialog);
                       auto& pages = *form.findChild<QTabWidget*>();
                       for (int page = 0; page < pages.count(); ++page) {
                           pages.setCurrentIndex(page);
@@ -309,7 +309,7 @@ class Walk {
                   });
     }
 
-    void Calculator_Dialogs(CalcForm& form) {
+    void Calculator_Dialogs(CalcWindow& form) {
         const auto keys = [&form](std::initializer_list<const char*> names) {
             return [&form, names = std::vector<const char*>(names)] {
                 for (const char* name : names)

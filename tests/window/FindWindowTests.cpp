@@ -1,6 +1,6 @@
 // Find Sections and View All through real keys and clicks.
 #include "WindowTest.h"
-#include "window/GridView.h"
+#include "window/grid/GridView.h"
 
 #include <QComboBox>
 #include <QLabel>

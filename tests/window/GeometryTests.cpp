@@ -2,12 +2,12 @@
 // neighbour, and every number has a point.
 #include "EveryScreen.h"
 #include "WindowTest.h"
-#include "window/CalcDigits.h"
-#include "window/CalcKeyButton.h"
 #include "window/ElidedLabel.h"
 #include "window/FittingArea.h"
-#include "window/GridView.h"
-#include "window/ReportView.h"
+#include "window/calculator/CalcDigits.h"
+#include "window/calculator/CalcKeyButton.h"
+#include "window/grid/GridView.h"
+#include "window/pages/ReportView.h"
 
 #include <QComboBox>
 #include <QGroupBox>

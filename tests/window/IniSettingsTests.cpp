@@ -1,5 +1,5 @@
 #include "WindowTest.h"
-#include "window/IniSettings.h"
+#include "window/desktop/IniSettings.h"
 
 #include <QDir>
 

@@ -4,7 +4,7 @@
 #include "calculator/CalcMainFrm.h"
 #include "shell/MainFrm.h"
 #include "shell/NoDialogs.h"
-#include "window/IniSettings.h"
+#include "window/desktop/IniSettings.h"
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 // The weight calculators as the user meets them: opened from the menu, driven by real keys.
 #include "WindowTest.h"
-#include "window/GridView.h"
+#include "window/grid/GridView.h"
 
 #include <QClipboard>
 #include <QComboBox>

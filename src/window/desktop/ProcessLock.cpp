@@ -1,0 +1,55 @@
+#include "window/desktop/ProcessLock.h"
+
+#if __has_include(<sys/file.h>)
+#include <QFile>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#else
+#include <QLockFile>
+#endif
+
+namespace Tensarix {
+
+#if __has_include(<sys/file.h>)
+
+struct ProcessLock::Held {
+    int File;
+
+    explicit Held(const QString& path)
+        : File(open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {}
+    Held(const Held&) = delete;
+    ~Held() {
+        if (File >= 0)
+            close(File);
+    }
+    bool Take() const {
+        return File < 0 || flock(File, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    }
+};
+
+#else // the system keeps the file open for one process
+
+struct ProcessLock::Held {
+    QLockFile File;
+
+    explicit Held(const QString& path) : File(path) { File.setStaleLockTime(0); }
+    bool Take() {
+        return File.isLocked() || File.tryLock() || File.error() != QLockFile::LockFailedError;
+    }
+};
+
+#endif
+
+ProcessLock::ProcessLock(const QString& path) : held_(std::make_unique<Held>(path)) {}
+
+ProcessLock::~ProcessLock() = default;
+
+bool ProcessLock::Take() {
+    return held_->Take();
+}
+
+} // namespace Tensarix

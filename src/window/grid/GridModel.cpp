@@ -1,0 +1,147 @@
+#include "window/grid/GridModel.h"
+
+#include "window/Theme.h"
+
+#include <QAbstractScrollArea>
+#include <QBrush>
+#include <QFont>
+#include <QPainter>
+#include <QPainterPath>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int markSize = 6;
+
+QFont Cell_Font(QFont font, const CellStyle& style) {
+    if (style.Tahoma)
+        font.setFamilies({QStringLiteral("Tahoma"), font.family(), QStringLiteral("sans-serif")});
+    font.setBold(style.Bold);
+    return font;
+}
+
+// What is cut off a number makes another one: in a cell that reaches over the edge of what shows of
+// the view, the text ends before it, with an ellipsis.
+QRect Place_In_View(const QStyleOptionViewItem& option) {
+    QRect place = option.rect;
+    if (const auto* view = qobject_cast<const QAbstractScrollArea*>(option.widget))
+        place.setRight(
+            std::min(place.right(), view->viewport()->visibleRegion().boundingRect().right()));
+    return place;
+}
+
+} // namespace
+
+Qt::Alignment Shown_Alignment(Alignment alignment) {
+    const Qt::Alignment horizontal = alignment == Alignment::Left     ? Qt::AlignLeft
+                                     : alignment == Alignment::Centre ? Qt::AlignHCenter
+                                                                      : Qt::AlignRight;
+    return horizontal | Qt::AlignVCenter;
+}
+
+GridModel::GridModel(const FlexGrid& grid, QWidget* view)
+    : QAbstractTableModel(view), grid_(grid), view_(view) {}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : cols_;
+}
+
+bool GridModel::Has_Size_Of_Grid() const {
+    return rows_ == grid_.Rows() - grid_.FixedRows() && cols_ == grid_.Cols();
+}
+
+void GridModel::Reset() {
+    beginResetModel();
+    rows_ = grid_.Rows() - grid_.FixedRows();
+    cols_ = grid_.Cols();
+    endResetModel();
+}
+
+void GridModel::Repaint() {
+    if (rows_ > 0 && cols_ > 0)
+        emit dataChanged(index(0, 0), index(rows_ - 1, cols_ - 1));
+    if (grid_.FixedRows() > 0)
+        emit headerDataChanged(Qt::Horizontal, 0, cols_ - 1);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    const int row = index.row() + grid_.FixedRows();
+    if (!index.isValid() || row >= grid_.Rows() || index.column() >= grid_.Cols())
+        return {};
+    return Cell(row, index.column(), role);
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    const bool head = orientation == Qt::Horizontal;
+    const int row = head ? 0 : section + grid_.FixedRows();
+    const int col = head ? section : 0;
+    if (row >= grid_.Rows() || col >= grid_.Cols() || (head && grid_.FixedRows() == 0))
+        return {};
+    return Cell(row, col, role);
+}
+
+QVariant GridModel::Cell(int row, int col, int role) const {
+    const CellStyle& style = grid_.Style(row, col);
+    switch (role) {
+    case Qt::DisplayRole:
+        return QString::fromStdString(grid_.Text(row, col));
+    case Qt::TextAlignmentRole: {
+        const bool wraps = row < grid_.FixedRows() && grid_.Word_Wrap();
+        return static_cast<int>(Shown_Alignment(style.Align).toInt()) |
+               (wraps ? Qt::TextWordWrap : 0);
+    }
+    case Qt::FontRole:
+        return Cell_Font(view_->font(), style);
+    case Qt::ForegroundRole:
+        if (style.Fore != Colours::Standard)
+            return QBrush(Shown_Colour(style.Fore, view_->palette()));
+        return {};
+    case Qt::BackgroundRole:
+        if (style.Back != Colours::Standard)
+            return QBrush(Shown_Colour(style.Back, view_->palette()));
+        return {};
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+    case RemarkRole:
+        if (const std::string& remark = grid_.Remark(row, col); !remark.empty())
+            return QString::fromStdString(remark);
+        return {};
+    default:
+        return {};
+    }
+}
+
+void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& palette) {
+    const QPoint corner = cell.topRight() + QPoint(1, 0);
+    QPainterPath mark(corner);
+    mark.lineTo(corner - QPoint(markSize, 0));
+    mark.lineTo(corner + QPoint(0, markSize));
+    mark.closeSubpath();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(mark, Shown_Colour(Colours::HeadText, palette));
+    painter.restore();
+}
+
+void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    QStyleOptionViewItem shown = option;
+    shown.rect = Place_In_View(option);
+    QStyledItemDelegate::paint(painter, shown, index);
+    // The view's own grid lines can't be seen under many a dark theme.
+    painter->setPen(Grid_Line_Colour(option.palette));
+    painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    if (index.data(GridModel::RemarkRole).isValid())
+        Paint_Remark_Mark(*painter, option.rect, option.palette);
+}
+
+} // namespace Tensarix

@@ -1,0 +1,51 @@
+#include "window/grid/HeadView.h"
+
+#include "window/grid/GridModel.h"
+
+#include <QBrush>
+#include <QPainter>
+
+namespace Tensarix {
+
+namespace {
+constexpr int headMargin = 4;
+}
+
+HeadView::HeadView(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(false);
+    setHighlightSections(false);
+}
+
+QSize HeadView::sectionSizeFromContents(int section) const {
+    const QString text = model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int flags = model()->headerData(section, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+    const int width = sectionSize(section) - 2 * headMargin;
+    const QSize size =
+        (flags & Qt::TextWordWrap) != 0
+            ? fontMetrics().boundingRect(0, 0, width, QWIDGETSIZE_MAX, flags, text).size()
+            : fontMetrics().size(0, text);
+    return {size.width() + 2 * headMargin, size.height() + 2 * headMargin};
+}
+
+void HeadView::paintSection(QPainter* painter, const QRect& rect, int section) const {
+    const auto head = [this, section](int role) {
+        return model()->headerData(section, Qt::Horizontal, role);
+    };
+    painter->save();
+    const QVariant back = head(Qt::BackgroundRole);
+    painter->fillRect(rect, back.isValid() ? back.value<QBrush>() : palette().button());
+    painter->setPen(palette().color(QPalette::Mid));
+    painter->drawLine(rect.topRight(), rect.bottomRight());
+    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    const QVariant fore = head(Qt::ForegroundRole);
+    painter->setPen(fore.isValid() ? fore.value<QBrush>().color()
+                                   : palette().color(QPalette::ButtonText));
+    painter->setFont(head(Qt::FontRole).value<QFont>());
+    painter->drawText(rect.adjusted(headMargin, 0, -headMargin, 0),
+                      head(Qt::TextAlignmentRole).toInt(), head(Qt::DisplayRole).toString());
+    painter->restore();
+    if (head(GridModel::RemarkRole).isValid())
+        Paint_Remark_Mark(*painter, rect, palette());
+}
+
+} // namespace Tensarix

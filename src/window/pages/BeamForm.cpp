@@ -1,0 +1,37 @@
+#include "window/pages/BeamForm.h"
+
+#include "ui_BeamForm.h"
+#include "window/Bind.h"
+#include "window/FittingArea.h"
+
+namespace Tensarix {
+
+QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
+    auto* form = new FittingPage(parent);
+    Ui::BeamForm ui;
+    ui.setupUi(form);
+    ui.AppliedCode->addTab(QStringLiteral(" Per AISC 9th Edition "));
+    ui.AppliedCode->addTab(QStringLiteral(" Per AISC 13th Edition "));
+    Bind(ui.zShapeType, page.zShapeType);
+    Bind(ui.zShapeLab, page.zShapeLab);
+    Bind(ui.zShapeSizeUS, page.zShapeSizeUS);
+    Bind(ui.zShapeSizeSI, page.zShapeSizeSI);
+    Bind(ui.ShapeLab, page.ShapeLab);
+    Bind(ui.zShapeFlex, page.zShapeFlex);
+    ui.zShapeFlex->Show_All_Columns();
+    Bind(ui.AppliedCode, page.AppliedCode);
+    Bind(ui.CodeFrame, page.CodeFrame);
+    Bind(ui.CodeOpt0, page.CodeOpt[0]);
+    Bind(ui.CodeOpt1, page.CodeOpt[1]);
+    Bind(ui.FyBox, page.FyBox);
+    Bind(ui.BeamSpanBox, page.BeamSpanBox);
+    Bind(ui.CFactor, page.CFactor);
+    Bind(ui.UniWTLab, page.UniWTLab);
+    Bind(ui.LimSpanLab, page.LimSpanLab);
+    Bind(ui.BeamReactionLab, page.BeamReactionLab);
+    Bind(ui.SpanRemark, page.SpanRemark);
+    Bind(ui.RuleRemark, page.RuleRemark);
+    return form;
+}
+
+} // namespace Tensarix

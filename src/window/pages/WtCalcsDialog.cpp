@@ -1,0 +1,87 @@
+#include "window/pages/WtCalcsDialog.h"
+
+#include "ui_WtCalcsDialog.h"
+#include "ui_WtCalcsDialogA.h"
+#include "window/Bind.h"
+#include "window/FittingArea.h"
+#include "window/grid/CellOverlay.h"
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int firstLines = 46;
+
+QString To_Qt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// The caption as it stands, with the key that chooses it.
+QString With_Mnemonic(QString caption, char key) {
+    return caption.insert(caption.indexOf(QLatin1Char(key)), QLatin1Char('&'));
+}
+
+// A button that is reached by its key takes the focus as one that is clicked: what is being edited
+// is committed before the button works.
+void Take_Focus_When_Pressed(QPushButton* button, char key) {
+    button->setText(With_Mnemonic(button->text(), key));
+    QObject::connect(button, &QPushButton::pressed, button,
+                     [button] { button->setFocus(Qt::MouseFocusReason); });
+}
+
+// What both forms have.
+template <typename Ui>
+void Bind_Sheets(const Ui& ui, WtCalcsSheets& form, WtCalcsDialog& dialog) {
+    dialog.setWindowTitle(To_Qt(WeightCaption));
+    Bind(ui.ShapeType, form.ShapeType);
+    Bind(ui.SSTab1, ui.SSTab1Pages, form.SSTab1);
+    Bind(ui.ImperialFlex, form.ImperialFlex);
+    Bind(ui.MetricFlex, form.MetricFlex);
+    Lay_Over(ui.ImperialFlex, form.ImperialFlex, form.EdiTxt, QStringLiteral("EdiTxt"),
+             QStringLiteral("Profile length in feet and inches"));
+    Lay_Over(ui.MetricFlex, form.MetricFlex, form.EdiTxtA, QStringLiteral("EdiTxtA"),
+             QStringLiteral("Profile length in metres"));
+    Bind(ui.TotalLabel, form.TotalLabel);
+    Bind(ui.RemarkLabel, form.RemarkLabel);
+    Bind(ui.ClearButton, form.ClearButton);
+    Bind(ui.ExitButton, form.ExitButton);
+    Take_Focus_When_Pressed(ui.ClearButton, 'C');
+    Take_Focus_When_Pressed(ui.ExitButton, 'x');
+    form.Close = [&dialog] { dialog.close(); };
+    ui.ImperialFlex->Show_All_Columns();
+    ui.MetricFlex->Show_All_Columns();
+    Let_Scroll(dialog, {0, firstLines});
+}
+
+} // namespace
+
+void WtCalcsDialog::done(int result) {
+    Run(Unload);
+    QDialog::done(result);
+}
+
+void Make_WtCalcs_Form(WtCalcsFrm& form, WtCalcsDialog& dialog) {
+    Ui::WtCalcsDialog ui;
+    ui.setupUi(&dialog);
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrm::ImperialCaption), 'I'));
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrm::MetricCaption), 'M'));
+    Bind(ui.ShapeSizeUS, form.ShapeSizeUS);
+    Bind(ui.ShapeSizeSI, form.ShapeSizeSI);
+    Bind_Sheets(ui, form, dialog);
+    dialog.Unload = [&form] { form.Unload(); };
+}
+
+void Make_WtCalcs_FormA(WtCalcsFrmA& form, WtCalcsDialog& dialog) {
+    Ui::WtCalcsDialogA ui;
+    ui.setupUi(&dialog);
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrmA::ImperialCaption), 'U'));
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrmA::MetricCaption), 'E'));
+    Bind_Sheets(ui, form, dialog);
+    Lay_Over(ui.ImperialFlex, form.ImperialFlex, form.ShapeSizeUS, QStringLiteral("ShapeSizeUS"),
+             QStringLiteral("Standard U.S. Profile"));
+    Lay_Over(ui.MetricFlex, form.MetricFlex, form.ShapeSizeSI, QStringLiteral("ShapeSizeSI"),
+             QStringLiteral("SI Equivalent Profile"));
+    dialog.Unload = [&form] { form.Unload(); };
+}
+
+} // namespace Tensarix
