@@ -118,6 +118,7 @@ std::optional<Centre> Better(const Problem& problem, const Group& group, const C
 struct Attained {
     double size = 1e9;
     double load = 0;
+    Centre centre;
 };
 
 // Newton's steps, elastic ones where they don't help. Ends at balance, or where it goes no further.
@@ -129,7 +130,7 @@ Attained Approach(const Problem& problem, const Group& group, Centre at) {
         const Residual residual = Residual_Of(problem, forces);
         const double size = residual.Size();
         if (size < best.size && forces.vertical > 0)
-            best = {size, forces.vertical};
+            best = {size, forces.vertical, at};
         if (!std::isfinite(size) || size <= Balanced)
             break;
         const Centre elastic = Elastic_Step(problem, at, forces);
@@ -150,7 +151,7 @@ Attained Approach(const Problem& problem, const Group& group, Centre at) {
 // From the elastic centre, and from others about it if that leads nowhere. Where the critical
 // element changes the equations have a kink, and a search may stop just beside balance.
 template <typename Group>
-std::optional<double> Solve(const Problem& problem, const Group& group) {
+std::optional<Attained> Solve(const Problem& problem, const Group& group) {
     const double elastic = problem.spread * problem.spread / problem.e;
     Attained best;
     for (const double part : {1.0, 0.4, 2.5}) {
@@ -158,7 +159,7 @@ std::optional<double> Solve(const Problem& problem, const Group& group) {
         if (attained.size < best.size)
             best = attained;
         if (best.size <= NearlyBalanced)
-            return best.load;
+            return best;
     }
     return std::nullopt;
 }
@@ -306,62 +307,123 @@ double Concentric(const Group& group, double spread) {
     return most;
 }
 
+// The load and, where the group turns, the centre.
+struct BalancedLoad {
+    double load = 0;
+    std::optional<Centre> centre;
+};
+
 template <typename Group, typename Fasteners>
-std::optional<double> Load(const Group& group, const Fasteners& places, double e) {
+std::optional<BalancedLoad> Load(const Group& group, const Fasteners& places, double e) {
     const Resistance about = group.About({0, 0});
     const auto count = static_cast<double>(places.size());
     const double spread = std::sqrt(about.polar / count);
     if (std::abs(e) <= LeastEccentricity * spread || e == 0)
-        return Concentric(group, spread);
+        return BalancedLoad{Concentric(group, spread), std::nullopt};
     if (spread == 0)
-        return 0.0; // all in one place: no moment can be resisted
-    return Solve({e, spread, count}, group);
+        return BalancedLoad{}; // all in one place: no moment can be resisted
+    if (const auto solved = Solve({e, spread, count}, group))
+        return BalancedLoad{solved->load, solved->centre};
+    return std::nullopt;
+}
+
+// The centre was found in the frame in which the load is vertical and on the right. Where it is on
+// the left, the group was looked at turned about (up = -1) or from behind (up = 1).
+Balance In_The_Groups_Frame(double C, const Centre& centre, double theta, double across,
+                            double up) {
+    const double w = -across * centre.a;
+    const double u = -up * centre.b;
+    return {C, true, w * std::cos(theta) + u * std::sin(theta),
+            u * std::cos(theta) - w * std::sin(theta)};
+}
+
+// AISC 360-05 J2.4(c), for a group without eccentricity whose lines run along the (vertical) load
+// or across it: the larger of Rwl + Rwt and 0.85 Rwl + 1.5 Rwt. None where a line leans.
+std::optional<double> Load_Along_And_Across(const Welds& welds) {
+    constexpr double straight = 1e-6; // of the cosine: the angle has a truncated pi behind it
+    double along = 0, across = 0;
+    for (const WeldPiece& piece : welds.pieces) {
+        const double strength = WeldStressFactor * ElectrodeStrength * piece.area;
+        if (std::abs(piece.cosine) < straight)
+            along += strength;
+        else if (std::abs(piece.sine) < straight)
+            across += strength;
+        else
+            return std::nullopt;
+    }
+    return std::max(along + across, 0.85 * along + 1.5 * across);
 }
 
 } // namespace
 
-std::optional<double> Balanced_Bolt_Coefficient(const BoltGroup& group, double ex, double angle) {
+std::optional<Balance> Balanced_Bolts(const BoltGroup& group, double ex, double angle) {
     const int mn = int{group.m} * group.n;
     if (group.m <= 0 || group.n <= 0 || mn > MostBalancedBolts ||
         !In_Range({group.sv, group.sh, ex, angle}))
         return std::nullopt;
     const double theta = angle * Pi / 180;
     const Bolts bolts = Turned_Bolts(group, theta);
-    // The group is symmetrical: the side of the load makes no difference.
-    return Load(bolts, bolts.u, std::abs(std::cos(theta) * ex));
+    const double e = std::cos(theta) * ex;
+    // Turned about, the group is the same: the side of the load makes no difference to C.
+    const double side = e < 0 ? -1 : 1;
+    const auto load = Load(bolts, bolts.u, std::abs(e));
+    if (!load)
+        return std::nullopt;
+    if (!load->centre)
+        return Balance{load->load};
+    return In_The_Groups_Frame(load->load, *load->centre, theta, side, side);
 }
 
-std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, double aL,
-                                                double angle) {
+std::optional<Balance> Balanced_Welds(int item, double L, double kL, double aL, double angle) {
     if (!In_Range({L, kL, aL, angle}) || L <= 0)
         return std::nullopt;
     const double scale = Weld_Scale(L);
     const double base = L * scale;
     const double theta = angle * Pi / 180;
-    double e = std::cos(theta) * std::abs(aL) * scale;
+    const double e = std::cos(theta) * std::abs(aL) * scale;
     Welds welds = Turned_Welds(Weld_Configuration_Lines(item, base, kL * scale), theta);
-    if (e < 0) {
-        // Turned past a right angle the load stands on the other side: look at it from behind.
-        e = -e;
-        for (WeldPiece& piece : welds.pieces) {
-            piece.x = -piece.x;
-            piece.cosine = -piece.cosine;
-        }
+    // Turned past a right angle the load stands on the other side: look at it from behind.
+    const double side = e < 0 ? -1 : 1;
+    for (WeldPiece& piece : welds.pieces) {
+        piece.x *= side;
+        piece.cosine *= side;
     }
-    const auto load = Load(welds, welds.pieces, e);
-    return load ? std::optional(Weld_Coefficient(*load, base)) : std::nullopt;
+    const auto load = Load(welds, welds.pieces, std::abs(e));
+    if (!load)
+        return std::nullopt;
+    const double C = Weld_Coefficient(load->load, base);
+    if (!load->centre) {
+        const auto byLines = Load_Along_And_Across(welds);
+        return byLines ? Balance{.C = Weld_Coefficient(*byLines, base), .ByLines = true}
+                       : Balance{C};
+    }
+    const Centre centre{load->centre->a / scale, load->centre->b / scale};
+    return In_The_Groups_Frame(C, centre, theta, side, 1);
 }
 
-std::string Balance_Remark(double shown, std::optional<double> balanced, double tolerance) {
-    if (!balanced && shown > 0)
+std::optional<double> Balanced_Bolt_Coefficient(const BoltGroup& group, double ex, double angle) {
+    const auto balance = Balanced_Bolts(group, ex, angle);
+    return balance ? std::optional(balance->C) : std::nullopt;
+}
+
+std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, double aL,
+                                                double angle) {
+    const auto balance = Balanced_Welds(item, L, kL, aL, angle);
+    return balance ? std::optional(balance->C) : std::nullopt;
+}
+
+std::string Balance_Remark(double shown, const std::optional<Balance>& balance, double tolerance) {
+    if (!balance && shown > 0)
         return "Not checked: no centre that satisfies all equilibrium conditions was found";
-    if (!balanced || !(*balanced > 0) || !std::isfinite(shown))
+    if (!balance || !(balance->C > 0) || !std::isfinite(shown))
         return {};
-    const double excess = shown / *balanced - 1;
+    const double excess = shown / balance->C - 1;
     if (!(std::abs(excess) > tolerance))
         return {};
-    std::string text = "The centre that satisfies all equilibrium conditions gives C = ";
-    text.append(Format_Number(*balanced, "0.000")).append(" (this value is ");
+    std::string text = balance->ByLines
+                           ? "AISC 360-05 J2.4(c), for lines along and across the load, gives C = "
+                           : "The centre that satisfies all equilibrium conditions gives C = ";
+    text.append(Format_Number(balance->C, "0.000")).append(" (this value is ");
     text.append(Format_Number(std::abs(excess) * 100, "0"));
     return text.append(excess > 0 ? " % higher)" : " % lower)");
 }

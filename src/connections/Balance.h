@@ -10,15 +10,27 @@
 
 namespace Tensarix {
 
+// What a group's coefficient is held against.
+struct Balance {
+    double C = 0;
+    bool Turns = false; // a load without eccentricity turns nothing
+    // The centre it turns about, seen from the centroid: x to the right, y up, the unit of the
+    // inputs.
+    double X = 0, Y = 0;
+    bool ByLines = false; // no balance, but the rule for lines along and across the load
+};
+
 // C as the AISC Manual's tables 7-7 to 7-14 are made: every bolt, the farthest too, counts its own
 // (1 - e^(-10 D))^0.55. Lengths in one unit, the angle in degrees. None where there is no group,
 // the numbers are out of range, the group is larger than a remark is worth, or no centre is found.
+std::optional<Balance> Balanced_Bolts(const BoltGroup& group, double ex, double angle);
 std::optional<double> Balanced_Bolt_Coefficient(const BoltGroup& group, double ex, double angle);
 
 // C of an item of the weld configurations, each element with its own deformation limits and its
 // true angle, the critical one by the smallest ultimate deformation over radius (AISC Manual,
 // tables 8-4 to 8-11). Arguments as for the configurations' routines. None as above, and for L <=
 // 0.
+std::optional<Balance> Balanced_Welds(int item, double L, double kL, double aL, double angle);
 std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, double aL,
                                                 double angle);
 
@@ -29,6 +41,6 @@ inline constexpr double WeldRemarkTolerance = 0.05;
 
 // What stands beside a coefficient that is off by more than the tolerance, or that there is nothing
 // to hold against; else empty.
-std::string Balance_Remark(double shown, std::optional<double> balanced, double tolerance);
+std::string Balance_Remark(double shown, const std::optional<Balance>& balance, double tolerance);
 
 } // namespace Tensarix

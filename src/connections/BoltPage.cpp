@@ -247,7 +247,7 @@ void BoltPage::Remark_On(int row, double C) {
     if (!IsBoltRowComplete(cFlex, row))
         return;
     const Inputs inputs = Row_Inputs(row);
-    const auto balanced = Balanced_Bolt_Coefficient(inputs.Group, inputs.ex, inputs.Angle);
+    const auto balanced = Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle);
     cFlex.Set_Remark(row, BoltColumn::C, Balance_Remark(C, balanced, BoltRemarkTolerance));
 }
 

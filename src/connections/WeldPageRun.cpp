@@ -124,7 +124,7 @@ void WeldPage::Show_Aborted(const Inputs& inputs, double C) {
 
 std::string WeldPage::Balance_Remark(const Inputs& inputs, double C) const {
     const auto balanced =
-        Balanced_Weld_Coefficient(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
+        Balanced_Welds(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
     return Tensarix::Balance_Remark(C, balanced, WeldRemarkTolerance);
 }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
 #include <string>
@@ -127,6 +128,45 @@ TEST(BalancedBolts, AnglesAndSidesOfOneGroupAgree) {
     }
 }
 
+// In the frame of the group: forces square to the radius from the centre, against the load that
+// points down, turned clockwise by the angle, through a point at ex beside the centroid.
+TEST(BalancedBolts, TheForcesAboutTheCentreBalanceTheLoad) {
+    struct Case {
+        BoltGroup group;
+        double ex, angle;
+    };
+    for (const Case& c :
+         {Case{{3, 1, 3, 3}, 8, 0}, Case{{6, 2, 3, 5.5}, 16, 30}, Case{{4, 3, 3, 2}, -5, 40},
+          Case{{2, 4, 3, 3}, 7, -60}, Case{{5, 2, 3, 3}, 6, 140}, Case{{5, 2, 3, 3}, -6, 200}}) {
+        const Balance balance = Balanced_Bolts(c.group, c.ex, c.angle).value_or(Balance{});
+        ASSERT_TRUE(balance.Turns);
+        const double theta = c.angle * Pi / 180;
+        double across = -balance.C * std::sin(theta), up = -balance.C * std::cos(theta);
+        double moment = c.ex * up;
+        const double turn = moment > 0 ? -1 : 1; // the forces turn the other way
+        std::vector<std::array<double, 4>> bolts;
+        double farthest = 0;
+        for (int i = 0; i < c.group.m; ++i) {
+            for (int j = 0; j < c.group.n; ++j) {
+                const double x = (j - (c.group.n - 1) / 2.0) * c.group.sh;
+                const double y = (i - (c.group.m - 1) / 2.0) * c.group.sv;
+                bolts.push_back({x, y, x - balance.X, y - balance.Y});
+                farthest = std::max(farthest, std::hypot(x - balance.X, y - balance.Y));
+            }
+        }
+        for (const auto& [x, y, dx, dy] : bolts) {
+            const double d = std::hypot(dx, dy);
+            const double share = turn * std::pow(1 - std::exp(-3.4 * d / farthest), 0.55) / d;
+            across -= share * dy;
+            up += share * dx;
+            moment += share * (x * dx + y * dy);
+        }
+        EXPECT_NEAR(across, 0, 1e-3) << c.angle;
+        EXPECT_NEAR(up, 0, 1e-3) << c.angle;
+        EXPECT_NEAR(moment, 0, 1e-2) << c.angle;
+    }
+}
+
 TEST(BalancedBolts, EdgesOfTheGroup) {
     EXPECT_NEAR(Balanced_Bolt_Coefficient({3, 2, 3, 3}, 0, 30).value_or(-1), 6 * FarthestBolt,
                 1e-9);
@@ -146,10 +186,28 @@ TEST(BalancedWelds, ConcentricGroups) {
     EXPECT_NEAR(Balanced_Weld_Coefficient(3, 10, 5, 0, 15).value_or(-1),
                 2 * unit * (1 + 0.5 * std::pow(std::sin(75 * 3.14159265358979 / 180), 1.5)), 0.006);
     // Along and across together, AISC section J2.4: 0.85 and 1.5.
-    EXPECT_NEAR(Balanced_Weld_Coefficient(4, 10, 10, 0, 0).value_or(-1),
-                unit * (2 * 0.85 + 2 * 1.5), 0.1);
+    for (const auto& [leg, angle, lines] :
+         {std::array{10.0, 0.0, 2 * 0.85 + 2 * 1.5}, std::array{2.0, 0.0, 2 + 2 * 0.2},
+          std::array{2.0, 90.0, 0.85 * 2 * 0.2 + 1.5 * 2}}) {
+        const Balance balance = Balanced_Welds(4, 10, leg, 0, angle).value_or(Balance{});
+        EXPECT_TRUE(balance.ByLines);
+        EXPECT_NEAR(balance.C, unit * lines, 1e-9);
+    }
+    EXPECT_FALSE(Balanced_Welds(4, 10, 2, 0, 30).value_or(Balance{}).ByLines);
     EXPECT_FALSE(Balanced_Weld_Coefficient(4, 0, 10, 3, 0));
     EXPECT_FALSE(Balanced_Weld_Coefficient(4, 1e300, 10, 3, 0));
+}
+
+// Turned past a right angle, the load is that of the group upside down.
+TEST(BalancedWelds, TheCentreFollowsTheSideOfTheLoad) {
+    for (const double angle : {0.0, 25.0, 70.0}) {
+        const Balance one = Balanced_Welds(6, 10, 5, 8, angle).value_or(Balance{});
+        const Balance other = Balanced_Welds(6, 10, 5, 8, 180 - angle).value_or(Balance{});
+        EXPECT_LT(one.X, 0) << angle;
+        EXPECT_NEAR(one.C, other.C, 1e-3) << angle;
+        EXPECT_NEAR(one.X, other.X, 1e-2) << angle;
+        EXPECT_NEAR(one.Y, -other.Y, 1e-2) << angle;
+    }
 }
 
 // The centre of a weld group by feeling about for it: from the elastic centre, in shorter and
@@ -283,9 +341,10 @@ TEST(BalanceRemark, TheBoltSearchIsNeverBelowTheBalancedLoad) {
                     CountingTurn turn;
                     SearchYield yield(turn);
                     const double C = BoltCoefficientC(group, ex, angle, yield);
-                    const auto balanced = Balanced_Bolt_Coefficient(group, ex, angle);
-                    EXPECT_GT(C / balanced.value_or(1e9), 1.018) << m << " x " << n << " at " << ex;
-                    above.Take(C / *balanced - 1, std::to_string(m) + " x " + std::to_string(n));
+                    const auto balanced = Balanced_Bolts(group, ex, angle);
+                    EXPECT_GT(C / balanced.value_or(Balance{1e9}).C, 1.018)
+                        << m << " x " << n << " at " << ex;
+                    above.Take(C / balanced->C - 1, std::to_string(m) + " x " + std::to_string(n));
                     remarks += !Balance_Remark(C, balanced, BoltRemarkTolerance).empty();
                 }
         EXPECT_TRUE(angle > 0 || remarks < 5);
@@ -306,14 +365,14 @@ TEST(BalanceRemark, TheWeldSearchIsBelowTheBalancedLoadUnderAnUprightLoad) {
                 };
                 const double C =
                     Weld_Configuration_Result(item, 10, 5, aL, angle, WeldModeC, bench.search);
-                const auto balanced = Balanced_Weld_Coefficient(item, 10, 5, aL, angle);
+                const auto balanced = Balanced_Welds(item, 10, 5, aL, angle);
                 if (bench.state.StopRequested || !balanced)
                     continue;
                 const std::string at = "item " + std::to_string(item);
-                above.Take(C / *balanced - 1, at);
-                below.Take(1 - C / *balanced, at);
+                above.Take(C / balanced->C - 1, at);
+                below.Take(1 - C / balanced->C, at);
                 remarks += !Balance_Remark(C, balanced, WeldRemarkTolerance).empty();
-                EXPECT_TRUE(angle > 0 || C < *balanced) << at;
+                EXPECT_TRUE(angle > 0 || C < balanced->C) << at;
             }
         const std::string run =
             std::to_string(int(angle)) + " degrees, " + std::to_string(remarks) + " remarks, ";
@@ -327,17 +386,21 @@ TEST(BalanceRemark, StandsBeyondTheTolerance) {
     SearchYield yield(turn);
     const BoltGroup group{3, 1, 3, 3};
     const double C = BoltCoefficientC(group, 8, 0, yield);
-    EXPECT_EQ(Balance_Remark(C, Balanced_Bolt_Coefficient(group, 8, 0), BoltRemarkTolerance),
+    EXPECT_EQ(Balance_Remark(C, Balanced_Bolts(group, 8, 0), BoltRemarkTolerance),
               "The centre that satisfies all equilibrium conditions gives C = 0.732 (this value is "
               "310 % higher)");
-    EXPECT_EQ(Balance_Remark(0.9, 1.0, 0.05),
+    EXPECT_EQ(Balance_Remark(0.9, Balance{1.0}, 0.05),
               "The centre that satisfies all equilibrium conditions gives C = 1.000 (this value is "
               "10 % lower)");
-    EXPECT_EQ(Balance_Remark(4.5584, Balanced_Bolt_Coefficient({6, 1, 3, 3}, 4, 0), 0.025), "");
+    EXPECT_EQ(
+        Balance_Remark(1.1, Balance{.C = 1, .ByLines = true}, 0.05),
+        "AISC 360-05 J2.4(c), for lines along and across the load, gives C = 1.000 (this value "
+        "is 10 % higher)");
+    EXPECT_EQ(Balance_Remark(4.5584, Balanced_Bolts({6, 1, 3, 3}, 4, 0), 0.025), "");
     EXPECT_EQ(Balance_Remark(1.0, std::nullopt, 0.025),
               "Not checked: no centre that satisfies all equilibrium conditions was found");
     EXPECT_EQ(Balance_Remark(0.0, std::nullopt, 0.025), ""); // no group, no load
-    EXPECT_EQ(Balance_Remark(0.0, 0.0, 0.025), "");
+    EXPECT_EQ(Balance_Remark(0.0, Balance{}, 0.025), "");
 }
 
 } // namespace
