@@ -26,11 +26,12 @@ void Change_Place(Placement& target, const Placement& place, const View& view) {
 
 } // namespace
 
-void Label::Set_Caption(std::string caption) {
+void Label::Set_Caption(std::string caption, RemarkWeight weight) {
+    Change(captionWeight_, weight, Shown);
     Change(caption_, std::move(caption), Shown);
 }
-void Label::Set_Remark(std::string remark) {
-    Change(remark_, std::move(remark), Shown);
+void Label::Set_Remark(std::string remark, RemarkWeight weight) {
+    Change(remark_, {std::move(remark), weight}, Shown);
 }
 
 void Button::Set_Caption(std::string caption) {
@@ -184,8 +185,8 @@ void MenuItem::Click() const {
 void StatusBar::Set_Panel1(std::string text) {
     Change(panel1_, std::move(text), Shown);
 }
-void StatusBar::Set_Remark(std::string text) {
-    Change(remark_, std::move(text), Shown);
+void StatusBar::Set_Remark(std::string text, RemarkWeight weight) {
+    Change(remark_, {std::move(text), weight}, Shown);
 }
 void StatusBar::Set_Count(std::string text) {
     Change(count_, std::move(text), Shown);

@@ -3,6 +3,7 @@
 // and tells its view.
 #pragma once
 
+#include "controls/Remark.h"
 #include "controls/View.h"
 
 #include <array>
@@ -29,13 +30,18 @@ class Label {
     View Shown;
 
     const std::string& Caption() const { return caption_; }
-    void Set_Caption(std::string caption);
+    // Of a label whose caption is itself a remark.
+    RemarkWeight Caption_Weight() const { return captionWeight_; }
+    void Set_Caption(std::string caption, RemarkWeight weight = RemarkWeight::Note);
     // An advisory beside the caption, never part of it.
-    const std::string& Remark() const { return remark_; }
-    void Set_Remark(std::string remark);
+    const std::string& Remark() const { return remark_.Text; }
+    RemarkWeight Remark_Weight() const { return remark_.Weight; }
+    void Set_Remark(std::string remark, RemarkWeight weight = RemarkWeight::Note);
 
   private:
-    std::string caption_, remark_;
+    std::string caption_;
+    RemarkWeight captionWeight_ = RemarkWeight::Note;
+    Advice remark_;
 };
 
 class Button {
@@ -223,13 +229,15 @@ class StatusBar {
 
     const std::string& Panel1() const { return panel1_; }
     void Set_Panel1(std::string text);
-    const std::string& Remark() const { return remark_; }
-    void Set_Remark(std::string text);
+    const std::string& Remark() const { return remark_.Text; }
+    RemarkWeight Remark_Weight() const { return remark_.Weight; }
+    void Set_Remark(std::string text, RemarkWeight weight = RemarkWeight::Note);
     const std::string& Count() const { return count_; }
     void Set_Count(std::string text);
 
   private:
-    std::string panel1_, remark_, count_;
+    std::string panel1_, count_;
+    Advice remark_;
 };
 
 } // namespace Tensarix

@@ -101,19 +101,26 @@ void FlexGrid::Set_Style(int row, int col, const CellStyle& style) {
     Shown.Changed();
 }
 
-const std::string& FlexGrid::Remark(int row, int col) const {
-    static const std::string none;
+const Advice& FlexGrid::Remark_Of(int row, int col) const {
+    static const Advice none;
     At(row, col);
     const auto found = remarks_.find({row, col});
     return found == remarks_.end() ? none : found->second;
 }
 
-void FlexGrid::Set_Remark(int row, int col, std::string remark) {
+const std::string& FlexGrid::Remark(int row, int col) const {
+    return Remark_Of(row, col).Text;
+}
+RemarkWeight FlexGrid::Remark_Weight(int row, int col) const {
+    return Remark_Of(row, col).Weight;
+}
+
+void FlexGrid::Set_Remark(int row, int col, std::string remark, RemarkWeight weight) {
     At(row, col);
     if (remark.empty())
         remarks_.erase({row, col});
     else
-        remarks_[{row, col}] = std::move(remark);
+        remarks_[{row, col}] = {std::move(remark), weight};
     Shown.Changed();
 }
 

@@ -75,7 +75,8 @@ class FlexGrid {
     void Set_Style(int row, int col, const CellStyle& style);
     // An advisory of a cell, never part of its text; empty: none.
     const std::string& Remark(int row, int col) const;
-    void Set_Remark(int row, int col, std::string remark);
+    RemarkWeight Remark_Weight(int row, int col) const; // Note where there is no remark
+    void Set_Remark(int row, int col, std::string remark, RemarkWeight weight = RemarkWeight::Note);
 
     double Row_Height(int row) const;
     void Set_Row_Height(int row, double twips);
@@ -135,12 +136,13 @@ class FlexGrid {
     };
 
     std::size_t At(int row, int col) const;
+    const Advice& Remark_Of(int row, int col) const;
     void Layout_Changed();
     void Keep_Position_Inside();
 
     std::vector<Cell> cells_ = std::vector<Cell>(4);
     std::vector<double> heights_ = std::vector<double>(2, -1), widths_ = std::vector<double>(2, -1);
-    std::map<std::pair<int, int>, std::string> remarks_;
+    std::map<std::pair<int, int>, Advice> remarks_;
     int rows_ = 2, cols_ = 2, fixedRows_ = 1, fixedCols_ = 1;
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
     int topRow_ = 1, leftCol_ = 1;

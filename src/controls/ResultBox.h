@@ -22,8 +22,17 @@ class ResultBox {
         Shown.Changed();
     }
 
+    // An advisory beside the result, never part of it.
+    const std::string& Remark() const { return remark_.Text; }
+    RemarkWeight Remark_Weight() const { return remark_.Weight; }
+    void Set_Remark(std::string remark, RemarkWeight weight = RemarkWeight::Note) {
+        remark_ = {std::move(remark), weight};
+        Shown.Changed();
+    }
+
   private:
     std::string text_;
+    Advice remark_;
     Colour fore_ = Colours::Standard;
 };
 

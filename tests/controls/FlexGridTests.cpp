@@ -42,9 +42,11 @@ TEST(FlexGrid, WhatStaysKeepsWhatItHolds) {
 TEST(FlexGrid, WritingACellEndsItsRemark) {
     FlexGrid grid;
     Fill(grid, 3, 3);
-    grid.Set_Remark(1, 1, "old");
+    grid.Set_Remark(1, 1, "old", RemarkWeight::Unsafe);
+    EXPECT_EQ(grid.Remark_Weight(1, 1), RemarkWeight::Unsafe);
     grid.Set_Text(1, 1, "new");
     EXPECT_EQ(grid.Remark(1, 1), "");
+    EXPECT_EQ(grid.Remark_Weight(1, 1), RemarkWeight::Note);
     grid.Set_Remark(1, 1, "old");
     grid.Clear();
     EXPECT_EQ(grid.Remark(1, 1), "");
