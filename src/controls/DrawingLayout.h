@@ -1,0 +1,102 @@
+// A drawing laid out for a view: fitted into it, and every text in a place of its own. All
+// measures are pixels, x to the right and y downward from the view's upper left corner.
+//
+// Texts keep the size of the font, and what belongs to them (arrowheads, the distance of a
+// dimension) follows it. No text lies on another one, and all lie inside the view. Where there is
+// no room for all, the values go first, then the dimensions from the last one on; LeftOut tells.
+#pragma once
+
+#include "controls/Drawing.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Tensarix {
+
+namespace Drawn {
+
+struct Size {
+    double Width = 0, Height = 0;
+};
+
+struct Box {
+    double Left = 0, Top = 0, Right = 0, Bottom = 0;
+
+    double Width() const { return Right - Left; }
+    double Height() const { return Bottom - Top; }
+    bool Overlaps(const Box& other) const {
+        return Left < other.Right && other.Left < Right && Top < other.Bottom && other.Top < Bottom;
+    }
+    bool Contains(const Box& other) const {
+        return Left <= other.Left && other.Right <= Right && Top <= other.Top &&
+               other.Bottom <= Bottom;
+    }
+    // Whether the line between two points comes into it.
+    bool Meets(Point from, Point to) const;
+    Box Grown(double by) const { return {Left - by, Top - by, Right + by, Bottom + by}; }
+    // Becomes the least box that also holds the other one.
+    void Take_In(const Box& other);
+};
+
+// The room that a text takes, in pixels.
+using TextMeasure = std::function<Size(const std::string& words)>;
+
+// Closed polygons; one inside another is a hole.
+struct Fill {
+    std::vector<std::vector<Point>> Rings;
+    Ink In = Ink::Body;
+    bool Tint = false; // a light one of the ink
+    std::string Name = {};
+};
+
+enum class Weight : std::uint8_t { Thin, Bold };
+struct Stroke {
+    std::vector<Point> Points;
+    Ink In = Ink::Body;
+    Weight Width = Weight::Thin;
+    Pattern Dash = Pattern::Solid;
+    std::string Name = {};
+    bool InPlot = false; // cut at the frame of the plot
+};
+
+struct Text {
+    Box Place;
+    std::string Words;
+    Ink In = Ink::Body;
+    std::string Name = {};
+};
+
+struct Layout {
+    std::vector<Fill> Fills;
+    std::vector<Stroke> Strokes;
+    std::vector<Text> Texts;
+    std::optional<Box> Plot;
+    std::vector<std::string> LeftOut; // names or words of what found no room
+    bool Values = true;               // the values of the dimensions are shown
+
+    Point Zero;                    // where the drawing's own zero lies
+    double XScale = 1, YScale = 1; // pixels to a unit
+
+    Point In_View(Point own) const { return {Zero.X + own.X * XScale, Zero.Y - own.Y * YScale}; }
+    Point In_Drawing(Point pixel) const {
+        return {(pixel.X - Zero.X) / XScale, (Zero.Y - pixel.Y) / YScale};
+    }
+};
+
+Layout Lay_Out(const Drawing& drawing, Size view, const TextMeasure& measure);
+
+// The name of the part whose text lies at a place, or whose line passes within reach of it; empty:
+// none.
+std::string Name_At(const Layout& layout, Point pixel, double reach);
+
+// The closed polygon of a ring in the drawing's own units, its corners rounded by so many pieces.
+std::vector<Point> Polygon_Of(const Ring& ring, int pieces = 12);
+
+// The least step of 1, 2 or 5 times a power of ten that is not under a length.
+double Round_Step(double least);
+
+} // namespace Drawn
+
+} // namespace Tensarix
