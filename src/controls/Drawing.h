@@ -83,7 +83,7 @@ struct Dimension {
 };
 
 // A place, in the size of a text.
-enum class MarkKind : std::uint8_t { Cross, Dot, Ring };
+enum class MarkKind : std::uint8_t { Cross, Dot, Hollow };
 struct Mark {
     Point At;
     MarkKind Kind = MarkKind::Cross;
@@ -103,8 +103,7 @@ struct Curve {
     Pattern Dash = Pattern::Solid;
 };
 
-using Shape =
-    std::variant<Line, Outline, Circle, Arrow, CentreLine, Dimension, Mark, Label, Curve>;
+using Shape = std::variant<Line, Outline, Circle, Arrow, CentreLine, Dimension, Mark, Label, Curve>;
 
 struct Part {
     Shape What;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "controls/Controls.h"
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "controls/ResultBox.h"
 
@@ -20,6 +21,7 @@ class QTabWidget;
 
 namespace Tensarix {
 
+class DrawingView;
 class GridView;
 class Link;
 class PictureView;
@@ -48,6 +50,7 @@ void Bind(QLineEdit* widget, ResultBox& control);
 void Bind(QStatusBar* widget, StatusBar& control);
 void Bind(QAction* action, MenuItem& control);
 void Bind(PictureView* widget, Picture& control);
+void Bind(DrawingView* widget, DrawingBox& control);
 void Bind(GridView* widget, FlexGrid& control);
 
 } // namespace Tensarix

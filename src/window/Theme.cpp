@@ -33,6 +33,23 @@ constexpr KeyColour keyColours[] = {
     {"#a83232", "#f08080"}, // axis
 };
 
+// By ink: its colour under a light theme and under a dark one.
+struct InkColours {
+    QRgb Light, Dark;
+};
+
+constexpr InkColours inkColours[] = {
+    {0x101010, 0xE8E8E8}, // Body
+    {0x1F5FA8, 0x7FB4F0}, // Measure
+    {0x6B6B6B, 0xA8A8A8}, // Axis
+    {0x6A3FA0, 0xC3A5F0}, // Force
+    {0x1E6E34, 0x7FD08A}, // Result
+    {0xA0A0A0, 0x6E6E6E}, // Quiet
+    {0xA34A00, 0xFFB454}, // Alert
+};
+
+constexpr float tintPart = 0.17F; // of the ink over the background
+
 } // namespace
 
 bool Is_Dark(const QPalette& palette) {
@@ -60,7 +77,19 @@ QColor Grid_Line_Colour(const QPalette& palette) {
             blend(base.blue(), text.blue())};
 }
 
-QByteArray Drawing(const QString& name, const QPalette& palette) {
+QColor Ink_Colour(Drawn::Ink ink, const QPalette& palette) {
+    const InkColours& colours = inkColours[static_cast<std::size_t>(ink)];
+    return QColor(Is_Dark(palette) ? colours.Dark : colours.Light);
+}
+
+QColor Tint_Colour(Drawn::Ink ink, const QPalette& palette) {
+    // The body has a cool grey, which its own ink would make a plain one.
+    QColor tint = Ink_Colour(ink == Drawn::Ink::Body ? Drawn::Ink::Measure : ink, palette);
+    tint.setAlphaF(tintPart);
+    return tint;
+}
+
+QByteArray Picture_Text(const QString& name, const QPalette& palette) {
     QFile file(QStringLiteral(":/pictures/") + name + QStringLiteral(".svg"));
     if (!file.open(QIODevice::ReadOnly))
         return {};

@@ -1,6 +1,7 @@
 // Colours and drawings under the palette of the desktop, light or dark.
 #pragma once
 
+#include "controls/Drawing.h"
 #include "controls/FlexGrid.h"
 
 #include <QByteArray>
@@ -19,8 +20,12 @@ QColor Shown_Colour(Colour value, const QPalette& palette);
 // The lines between the cells of a grid, seen on any base.
 QColor Grid_Line_Colour(const QPalette& palette);
 
-// The drawing of that name with the key colours of its file replaced by the palette's; empty if
+// The colour of an ink on the background of a window, and a light tint of it.
+QColor Ink_Colour(Drawn::Ink ink, const QPalette& palette);
+QColor Tint_Colour(Drawn::Ink ink, const QPalette& palette);
+
+// The picture of that name with the key colours of its file replaced by the palette's; empty if
 // the program holds none.
-QByteArray Drawing(const QString& name, const QPalette& palette);
+QByteArray Picture_Text(const QString& name, const QPalette& palette);
 
 } // namespace Tensarix

@@ -20,7 +20,7 @@ void PictureView::Show_Picture(const std::string& name) {
 }
 
 void PictureView::Load() {
-    renderer_.load(name_.isEmpty() ? QByteArray() : Drawing(name_, palette()));
+    renderer_.load(name_.isEmpty() ? QByteArray() : Picture_Text(name_, palette()));
     renderer_.setAspectRatioMode(Qt::KeepAspectRatio);
     update();
 }

@@ -21,7 +21,7 @@ QPixmap Icon(const QString& name, const QPalette& palette, qreal ratio) {
     QPixmap icon(QSize(iconPixels, iconPixels) * ratio);
     icon.setDevicePixelRatio(ratio);
     icon.fill(Qt::transparent);
-    QSvgRenderer drawing(Drawing(name, palette));
+    QSvgRenderer drawing(Picture_Text(name, palette));
     QPainter painter(&icon);
     drawing.render(&painter, QRectF(0, 0, iconPixels, iconPixels));
     return icon;

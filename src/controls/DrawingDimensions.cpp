@@ -1,0 +1,185 @@
+#include "controls/DrawingSheet.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tensarix::Drawn {
+
+namespace {
+
+// In heights of a line of text.
+constexpr double headLength = 0.55;
+constexpr double leastBetweenHeads = 2.4; // of a line whose heads stand between its ends
+constexpr double firstGap = 0.7, laneStep = 0.3, leastBetweenLines = 0.55;
+constexpr double tailLength = 1.1, tailStep = 0.5, longestTail = 7;
+constexpr double extensionGap = 0.15, extensionEnd = 0.25, textGap = 0.3;
+constexpr int lanes = 60;
+
+} // namespace
+
+// A dimension in its own direction: U along it, V across; Out leads away from the drawing.
+struct Sheet::Run {
+    const Part& Of;
+    std::string Words;
+    Size Label; // along and across
+    bool Upright = false;
+    double From = 0, To = 0;     // along, From < To
+    double FromAt = 0, ToAt = 0; // across: where the measured points lie
+    double Out = 1;
+    bool Pinched = false; // the heads stand outside and point inward
+
+    Point At(double along, double across) const {
+        return Upright ? Point{across, along} : Point{along, across};
+    }
+    Box Label_Box(Point centre) const {
+        const double width = (Upright ? Label.Height : Label.Width) / 2;
+        const double height = (Upright ? Label.Width : Label.Height) / 2;
+        return {centre.X - width, centre.Y - height, centre.X + width, centre.Y + height};
+    }
+};
+
+void Sheet::Place_Dimension(const Part& part, const Dimension& dimension) {
+    const Point a = layout_.In_View(dimension.From), b = layout_.In_View(dimension.To);
+    Run run{part, dimension.Symbol, {}};
+    if (detail_.Values && !dimension.Value.empty())
+        run.Words += " = " + dimension.Value;
+    run.Upright = dimension.At == Side::Left || dimension.At == Side::Right ||
+                  (dimension.At == Side::Inside && std::abs(b.Y - a.Y) > std::abs(b.X - a.X));
+    const Size size = measure_(run.Words);
+    run.Label = run.Upright ? Size{size.Height, size.Width} : size;
+    run.From = run.Upright ? a.Y : a.X;
+    run.To = run.Upright ? b.Y : b.X;
+    run.FromAt = run.Upright ? a.X : a.Y;
+    run.ToAt = run.Upright ? b.X : b.Y;
+    if (run.From > run.To) {
+        std::swap(run.From, run.To);
+        std::swap(run.FromAt, run.ToAt);
+    }
+    run.Out = dimension.At == Side::Left || dimension.At == Side::Above ? -1 : 1;
+    run.Pinched = run.To - run.From < leastBetweenHeads * em_;
+    const bool inside = dimension.At == Side::Inside;
+    for (const bool strict : {true, false})
+        if (inside ? Place_Inside(run, strict) : Place_Beside(run, strict))
+            return;
+    Leave_Out(part, run.Words);
+}
+
+// Lane by lane away from the drawing.
+bool Sheet::Place_Beside(const Run& run, bool strict) {
+    const double edge = run.Upright ? (run.Out < 0 ? things_.Left : things_.Right)
+                                    : (run.Out < 0 ? things_.Top : things_.Bottom);
+    for (int lane = 0; lane < lanes; ++lane)
+        if (Try(run, edge + run.Out * (firstGap + lane * laneStep) * em_, tailLength * em_, strict))
+            return true;
+    return false;
+}
+
+// At the measured points themselves; the tail carries the label as far as it has to go.
+bool Sheet::Place_Inside(const Run& run, bool strict) {
+    const double across = (run.FromAt + run.ToAt) / 2;
+    for (double tail = tailLength; tail < longestTail; tail += tailStep)
+        if (Try(run, across, tail * em_, strict))
+            return true;
+    return false;
+}
+
+bool Sheet::Try(const Run& run, double across, double tail, bool strict) {
+    for (const Point& centre : Label_Centres(run, across, tail)) {
+        const Proposal proposal = Proposal_Of(run, across, tail, centre);
+        if (!Is_Free(proposal, run.Upright, strict))
+            continue;
+        Accept(run, proposal, across);
+        return true;
+    }
+    return false;
+}
+
+// Where the label may stand, the best first: in the line, beside it, behind its ends.
+std::vector<Point> Sheet::Label_Centres(const Run& run, double across, double tail) const {
+    std::vector<Point> centres;
+    const double middle = (run.From + run.To) / 2, gap = textGap * em_;
+    if (run.To - run.From > run.Label.Width + (2 * headLength + 4 * textGap) * em_)
+        return {run.At(middle, across)};
+    const Point beside =
+        run.At(middle, across + run.Out * (run.Label.Height / 2 + extensionEnd * em_ + gap));
+    const bool inside = std::get<Dimension>(run.Of.What).At == Side::Inside;
+    if (run.Upright && !inside)
+        centres.push_back(beside);
+    if (run.Pinched) {
+        centres.push_back(run.At(run.To + tail + gap + run.Label.Width / 2, across));
+        centres.push_back(run.At(run.From - tail - gap - run.Label.Width / 2, across));
+    }
+    if (!run.Pinched || (!run.Upright && !inside))
+        centres.push_back(beside);
+    return centres;
+}
+
+Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
+                                   Point labelCentre) const {
+    Proposal proposal{run.Label_Box(labelCentre), {}, {}};
+    const auto line = [&](double from, double to) {
+        proposal.Lines.push_back({run.At(from, across), run.At(to, across)});
+    };
+    const double middle = (run.From + run.To) / 2;
+    if (run.Pinched) {
+        line(run.From - tail, run.From);
+        line(run.From, run.To);
+        line(run.To, run.To + tail);
+    } else if (labelCentre == run.At(middle, across)) {
+        const double half = run.Label.Width / 2 + textGap * em_;
+        line(run.From, middle - half);
+        line(middle + half, run.To);
+    } else
+        line(run.From, run.To);
+    const auto extend = [&](double along, double from) {
+        const double way = across - from;
+        if (std::abs(way) <= 2 * extensionGap * em_)
+            return;
+        const double sign = way < 0 ? -1 : 1;
+        proposal.Extensions.push_back({run.At(along, from + sign * extensionGap * em_),
+                                       run.At(along, across + sign * extensionEnd * em_)});
+    };
+    extend(run.From, run.FromAt);
+    extend(run.To, run.ToAt);
+    return proposal;
+}
+
+bool Sheet::Is_Free(const Proposal& proposal, bool upright, bool strict) const {
+    if (!Is_Free(proposal.Label, strict))
+        return false;
+    const Box apart = proposal.Label.Grown(1);
+    for (const Segment& line : proposal.Lines) {
+        if (!Misses_Texts(line) || apart.Meets(line.From, line.To))
+            return false;
+        // Not into the line of another dimension, nor too close beside it.
+        Box own{line.From.X, line.From.Y, line.From.X, line.From.Y};
+        own.Take_In({line.To.X, line.To.Y, line.To.X, line.To.Y});
+        const double beside = leastBetweenLines * em_;
+        own = upright ? Box{own.Left - beside, own.Top + 1, own.Right + beside, own.Bottom - 1}
+                      : Box{own.Left + 1, own.Top - beside, own.Right - 1, own.Bottom + beside};
+        for (const Segment& other : dimensionLines_) {
+            const bool otherUpright = other.From.X == other.To.X;
+            if (otherUpright == upright && own.Meets(other.From, other.To))
+                return false;
+        }
+    }
+    return std::all_of(
+        proposal.Extensions.begin(), proposal.Extensions.end(), [&](const Segment& line) {
+            return !strict || (Misses_Texts(line) && !apart.Meets(line.From, line.To));
+        });
+}
+
+void Sheet::Accept(const Run& run, const Proposal& proposal, double across) {
+    for (const Segment& line : proposal.Extensions)
+        Add_Stroke(run.Of, {line.From, line.To}, Weight::Thin, Pattern::Solid);
+    for (const Segment& line : proposal.Lines) {
+        Add_Stroke(run.Of, {line.From, line.To}, Weight::Thin, Pattern::Solid);
+        dimensionLines_.push_back(line);
+    }
+    const double inward = run.Pinched ? -em_ : em_;
+    Add_Head(run.Of, run.At(run.From, across), run.At(run.From + inward, across));
+    Add_Head(run.Of, run.At(run.To, across), run.At(run.To - inward, across));
+    Add_Text(run.Of, proposal.Label, run.Words);
+}
+
+} // namespace Tensarix::Drawn

@@ -1,0 +1,54 @@
+#include "common/NumberText.h"
+#include "controls/DrawingSheet.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tensarix::Drawn {
+
+namespace {
+
+// In heights of a line of text.
+constexpr double tickGap = 0.3, leastBetweenTicks = 1.6;
+
+} // namespace
+
+void Sheet::Draw_Frame(const Axes& axes) {
+    const Point low = layout_.In_View({axes.XFrom, axes.YFrom});
+    const Point high = layout_.In_View({axes.XTo, axes.YTo});
+    const Part frame{Line{}, Ink::Quiet, {}};
+    Add_Stroke(frame, {{low.X, high.Y}, low, {high.X, low.Y}}, Weight::Thin, Pattern::Solid);
+    Draw_Ticks(axes, false);
+    Draw_Ticks(axes, true);
+    const Size x = measure_(axes.XTitle), y = measure_(axes.YTitle);
+    const double below = extent_.Bottom + tickGap * em_, above = high.Y - tickGap * em_;
+    const double left = std::min(extent_.Left, low.X);
+    Add_Text(frame, {high.X - x.Width, below, high.X, below + x.Height}, axes.XTitle);
+    Add_Text(frame, {left, above - y.Height - em_ / 2, left + y.Width, above - em_ / 2},
+             axes.YTitle);
+    layout_.Plot = Box{low.X, high.Y, high.X, low.Y};
+}
+
+// Round numbers along one of the axes, as close as their texts allow.
+void Sheet::Draw_Ticks(const Axes& axes, bool upright) {
+    const Part grid{Line{}, Ink::Quiet, {}};
+    const double from = upright ? axes.YFrom : axes.XFrom, to = upright ? axes.YTo : axes.XTo;
+    const double scale = upright ? layout_.YScale : layout_.XScale;
+    const double widest = std::max(measure_(General_Text(Round_Step(to))).Width, 2 * em_);
+    const double room = upright ? leastBetweenTicks * em_ : widest + em_;
+    const double step = Round_Step(room / scale);
+    for (double k = std::ceil(from / step - 1e-9); k * step <= to + 1e-9 * step; ++k) {
+        const std::string words = General_Text(k * step);
+        const Point at =
+            layout_.In_View(upright ? Point{axes.XFrom, k * step} : Point{k * step, axes.YFrom});
+        const Point end =
+            layout_.In_View(upright ? Point{axes.XTo, k * step} : Point{k * step, axes.YTo});
+        layout_.Strokes.push_back({{at, end}, Ink::Quiet, Weight::Thin, Pattern::Dashed, {}});
+        const Size size = measure_(words);
+        const Point centre = upright ? Point{at.X - tickGap * em_ - size.Width / 2, at.Y}
+                                     : Point{at.X, at.Y + tickGap * em_ + size.Height / 2};
+        Add_Text(grid, Text_Box(centre, words), words);
+    }
+}
+
+} // namespace Tensarix::Drawn

@@ -1,0 +1,261 @@
+#include "controls/DrawingSheet.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace Tensarix::Drawn {
+
+namespace {
+
+// In heights of a line of text.
+constexpr double headLength = 0.55, headHalfWidth = 0.17;
+constexpr double markSize = 0.38, dotSize = 0.22;
+constexpr double overhang = 0.7;
+constexpr double labelDistances[] = {0.35, 0.8, 1.4, 2.2, 3.2};
+constexpr double textMargin = 2; // pixels
+
+constexpr int circlePieces = 72;
+
+constexpr Point directions[] = {{1, 0},  {1, -1}, {0, -1}, {-1, -1},
+                                {-1, 0}, {-1, 1}, {0, 1},  {1, 1}};
+
+Point Along(Point from, Point to, double length) {
+    const double whole = std::hypot(to.X - from.X, to.Y - from.Y);
+    if (whole == 0)
+        return {from.X + length, from.Y};
+    return {from.X + (to.X - from.X) * length / whole, from.Y + (to.Y - from.Y) * length / whole};
+}
+
+// Some points of a curve from its end to its start, where its label may stand.
+std::vector<Point> Spread(const std::vector<Point>& points) {
+    constexpr std::size_t most = 9;
+    std::vector<Point> some;
+    for (std::size_t i = 0; i < most && !points.empty(); ++i)
+        some.push_back(points[(points.size() - 1) * (most - 1 - i) / (most - 1)]);
+    return some;
+}
+
+} // namespace
+
+Sheet::Sheet(const Drawing& drawing, const Layout& scaled, const TextMeasure& measure,
+             Detail detail)
+    : drawing_(drawing), measure_(measure), detail_(detail), layout_(scaled),
+      em_(measure("X").Height) {
+    layout_.Values = detail.Values;
+}
+
+void Sheet::Draw() {
+    if (drawing_.Frame)
+        Draw_Frame(*drawing_.Frame);
+    for (const Part& part : drawing_.Parts)
+        Draw_Shape(part);
+    things_ = extent_;
+    for (const Part& part : drawing_.Parts)
+        if (const auto* line = std::get_if<CentreLine>(&part.What))
+            Draw_CentreLine(part, *line);
+    std::vector<const Part*> dimensions;
+    for (const Part& part : drawing_.Parts)
+        if (std::holds_alternative<Dimension>(part.What))
+            dimensions.push_back(&part);
+    dimensions.resize(dimensions.size() - std::min(detail_.Dimensions, dimensions.size()));
+    // Those inside have the least choice of places, those beside the drawing the most.
+    for (const Part* part : dimensions)
+        if (const auto& dimension = std::get<Dimension>(part->What); dimension.At == Side::Inside)
+            Place_Dimension(*part, dimension);
+    for (const Part& part : drawing_.Parts)
+        Place_Label(part);
+    for (const Part* part : dimensions)
+        if (const auto& dimension = std::get<Dimension>(part->What); dimension.At != Side::Inside)
+            Place_Dimension(*part, dimension);
+}
+
+void Sheet::Draw_Shape(const Part& part) {
+    if (const auto* line = std::get_if<Line>(&part.What))
+        Add_Stroke(part, {layout_.In_View(line->From), layout_.In_View(line->To)}, Weight::Thin,
+                   line->Dash);
+    else if (const auto* outline = std::get_if<Outline>(&part.What))
+        Draw_Outline(part, *outline);
+    else if (const auto* circle = std::get_if<Circle>(&part.What)) {
+        std::vector<Point> points =
+            Circle_Points(layout_.In_View(circle->Centre), circle->Radius * layout_.XScale);
+        if (circle->Filled)
+            layout_.Fills.push_back({{points}, part.In, true, part.Name});
+        Add_Stroke(part, std::move(points), Weight::Thin, Pattern::Solid);
+    } else if (const auto* arrow = std::get_if<Arrow>(&part.What))
+        Draw_Arrow(part, *arrow);
+    else if (const auto* mark = std::get_if<Mark>(&part.What))
+        Draw_Mark(part, *mark);
+    else if (const auto* curve = std::get_if<Curve>(&part.What)) {
+        std::vector<Point> points;
+        points.reserve(curve->Points.size());
+        for (const Point& point : curve->Points)
+            points.push_back(layout_.In_View(point));
+        Add_Stroke(part, std::move(points), Weight::Bold, curve->Dash);
+    }
+}
+
+void Sheet::Draw_Outline(const Part& part, const Outline& outline) {
+    Fill fill{{}, part.In, true, part.Name};
+    for (const Ring& ring : outline.Rings) {
+        std::vector<Point> points = Polygon_Of(ring);
+        for (Point& point : points)
+            point = layout_.In_View(point);
+        fill.Rings.push_back(points);
+        if (!points.empty())
+            points.push_back(points.front());
+        Add_Stroke(part, std::move(points), Weight::Thin, Pattern::Solid);
+    }
+    layout_.Fills.push_back(std::move(fill));
+}
+
+void Sheet::Draw_Arrow(const Part& part, const Arrow& arrow) {
+    const Point tail = layout_.In_View(arrow.Tail), head = layout_.In_View(arrow.Head);
+    Add_Stroke(part, {tail, head}, Weight::Bold, Pattern::Solid);
+    Add_Head(part, head, tail);
+}
+
+void Sheet::Draw_Mark(const Part& part, const Mark& mark) {
+    const Point at = layout_.In_View(mark.At);
+    const double size = markSize * em_;
+    if (mark.Kind == MarkKind::Cross) {
+        Add_Stroke(part, {{at.X - size, at.Y}, {at.X + size, at.Y}}, Weight::Bold, Pattern::Solid);
+        Add_Stroke(part, {{at.X, at.Y - size}, {at.X, at.Y + size}}, Weight::Bold, Pattern::Solid);
+        return;
+    }
+    const bool dot = mark.Kind == MarkKind::Dot;
+    std::vector<Point> points = Circle_Points(at, (dot ? dotSize : markSize) * em_);
+    if (dot)
+        layout_.Fills.push_back({{points}, part.In, false, part.Name});
+    Add_Stroke(part, std::move(points), Weight::Bold, Pattern::Solid);
+}
+
+void Sheet::Draw_CentreLine(const Part& part, const CentreLine& line) {
+    const Point from = layout_.In_View(line.From), to = layout_.In_View(line.To);
+    const Point end = Along(to, from, -overhang * em_);
+    Add_Stroke(part, {Along(from, to, -overhang * em_), end}, Weight::Thin, line.Dash);
+    if (line.Label.empty())
+        return;
+    const Size size = measure_(line.Label);
+    const Point onward = Along({0, 0}, {end.X - from.X, end.Y - from.Y}, 1);
+    const Point centre{end.X + onward.X * (size.Width / 2 + textMargin),
+                       end.Y + onward.Y * (size.Height / 2 + textMargin)};
+    const Box place = Text_Box(centre, line.Label);
+    if (Is_Free(place, false))
+        Add_Text(part, place, line.Label);
+    else if (!Place_Near(part, {end}, line.Label))
+        Leave_Out(part, line.Label);
+}
+
+void Sheet::Add_Stroke(const Part& part, std::vector<Point> points, Weight width, Pattern dash) {
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Box place{points[i].X, points[i].Y, points[i].X, points[i].Y};
+        if (!started_)
+            extent_ = place;
+        started_ = true;
+        extent_.Take_In(place);
+        if (i > 0)
+            segments_.push_back({points[i - 1], points[i]});
+    }
+    layout_.Strokes.push_back(
+        {std::move(points), part.In, width, dash, part.Name,
+         layout_.Plot.has_value() && std::holds_alternative<Curve>(part.What)});
+}
+
+// The head of an arrow whose tip is at a point and which comes from another one.
+void Sheet::Add_Head(const Part& part, Point tip, Point from) {
+    const Point foot = Along(tip, from, headLength * em_);
+    const Point half = Along({0, 0}, {-(foot.Y - tip.Y), foot.X - tip.X}, headHalfWidth * em_);
+    layout_.Fills.push_back(
+        {{{tip, {foot.X + half.X, foot.Y + half.Y}, {foot.X - half.X, foot.Y - half.Y}}},
+         part.In,
+         false,
+         part.Name});
+}
+
+std::vector<Point> Sheet::Circle_Points(Point centre, double radius) const {
+    std::vector<Point> points;
+    for (int i = 0; i <= circlePieces; ++i) {
+        const double angle = 2 * std::numbers::pi * i / circlePieces;
+        points.push_back(
+            {centre.X + radius * std::cos(angle), centre.Y + radius * std::sin(angle)});
+    }
+    return points;
+}
+
+Box Sheet::Text_Box(Point centre, const std::string& words) const {
+    const Size size = measure_(words);
+    return {centre.X - size.Width / 2, centre.Y - size.Height / 2, centre.X + size.Width / 2,
+            centre.Y + size.Height / 2};
+}
+
+void Sheet::Add_Text(const Part& part, const Box& place, const std::string& words) {
+    if (!started_)
+        extent_ = place;
+    started_ = true;
+    extent_.Take_In(place);
+    layout_.Texts.push_back({place, words, part.In, part.Name});
+}
+
+bool Sheet::Is_Free(const Box& place, bool strict) const {
+    const Box room = place.Grown(textMargin);
+    if (std::any_of(layout_.Texts.begin(), layout_.Texts.end(),
+                    [&](const Text& text) { return text.Place.Overlaps(room); }))
+        return false;
+    return !strict || std::none_of(segments_.begin(), segments_.end(), [&](const Segment& line) {
+        return room.Meets(line.From, line.To);
+    });
+}
+
+bool Sheet::Misses_Texts(const Segment& line) const {
+    return std::none_of(layout_.Texts.begin(), layout_.Texts.end(), [&](const Text& text) {
+        return text.Place.Grown(textMargin).Meets(line.From, line.To);
+    });
+}
+
+void Sheet::Place_Label(const Part& part) {
+    std::vector<Point> anchors;
+    std::string words;
+    if (const auto* label = std::get_if<Label>(&part.What)) {
+        anchors = {layout_.In_View(label->At)};
+        words = label->Words;
+    } else if (const auto* mark = std::get_if<Mark>(&part.What)) {
+        anchors = {layout_.In_View(mark->At)};
+        words = mark->Label;
+    } else if (const auto* arrow = std::get_if<Arrow>(&part.What)) {
+        const Point tail = layout_.In_View(arrow->Tail), head = layout_.In_View(arrow->Head);
+        anchors = {tail, {(tail.X + head.X) / 2, (tail.Y + head.Y) / 2}, head};
+        words = arrow->Label;
+    } else if (const auto* curve = std::get_if<Curve>(&part.What)) {
+        for (const Point& point : Spread(curve->Points))
+            anchors.push_back(layout_.In_View(point));
+        words = curve->Label;
+    }
+    if (!words.empty() && !Place_Near(part, anchors, words))
+        Leave_Out(part, words);
+}
+
+// The nearest free place around the anchors: first one that crosses no line.
+bool Sheet::Place_Near(const Part& part, const std::vector<Point>& anchors,
+                       const std::string& words) {
+    const Size size = measure_(words);
+    for (const bool strict : {true, false})
+        for (const double distance : labelDistances)
+            for (const Point& anchor : anchors)
+                for (const Point& towards : directions) {
+                    const Point centre{anchor.X + towards.X * (size.Width / 2 + distance * em_),
+                                       anchor.Y + towards.Y * (size.Height / 2 + distance * em_)};
+                    const Box place = Text_Box(centre, words);
+                    if ((layout_.Plot && !layout_.Plot->Contains(place)) || !Is_Free(place, strict))
+                        continue;
+                    Add_Text(part, place, words);
+                    return true;
+                }
+    return false;
+}
+
+void Sheet::Leave_Out(const Part& part, const std::string& words) {
+    layout_.LeftOut.push_back(part.Name.empty() ? words : part.Name);
+}
+
+} // namespace Tensarix::Drawn

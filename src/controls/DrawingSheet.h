@@ -1,0 +1,84 @@
+// One try to lay a drawing out at one scale. Private to the layout of drawings: DrawingSheet.cpp
+// has lines and labels, DrawingDimensions.cpp the dimensions, DrawingFrame.cpp what stands around
+// a plot.
+#pragma once
+
+#include "controls/DrawingLayout.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace Tensarix::Drawn {
+
+// What may be left away for want of room.
+struct Detail {
+    bool Values = true;
+    std::size_t Dimensions = 0; // so many from the last one on are left away
+};
+
+class Sheet {
+  public:
+    // The layout has its scales and its zero.
+    Sheet(const Drawing& drawing, const Layout& scaled, const TextMeasure& measure, Detail detail);
+
+    void Draw();
+    // What has been drawn, and the room that it takes with its texts.
+    Layout& Result() { return layout_; }
+    const Box& Extent() const { return extent_; }
+
+  private:
+    struct Segment {
+        Point From, To;
+    };
+    // A proposal for a dimension: its label, and the lines that it adds.
+    struct Proposal {
+        Box Label;
+        std::vector<Segment> Lines, Extensions;
+    };
+    struct Run; // one dimension along its own direction (DrawingDimensions.cpp)
+
+    // Lines.
+    void Draw_Shape(const Part& part);
+    void Draw_Outline(const Part& part, const Outline& outline);
+    void Draw_Arrow(const Part& part, const Arrow& arrow);
+    void Draw_Mark(const Part& part, const Mark& mark);
+    void Draw_CentreLine(const Part& part, const CentreLine& line);
+    void Add_Stroke(const Part& part, std::vector<Point> points, Weight width, Pattern dash);
+    void Add_Head(const Part& part, Point tip, Point from);
+    std::vector<Point> Circle_Points(Point centre, double radius) const;
+
+    // Labels.
+    Box Text_Box(Point centre, const std::string& words) const;
+    void Add_Text(const Part& part, const Box& place, const std::string& words);
+    bool Is_Free(const Box& place, bool strict) const;
+    bool Misses_Texts(const Segment& line) const;
+    void Place_Label(const Part& part);
+    bool Place_Near(const Part& part, const std::vector<Point>& anchors, const std::string& words);
+    void Leave_Out(const Part& part, const std::string& words);
+
+    // Dimensions.
+    void Place_Dimension(const Part& part, const Dimension& dimension);
+    bool Place_Beside(const Run& run, bool strict);
+    bool Place_Inside(const Run& run, bool strict);
+    bool Try(const Run& run, double across, double tail, bool strict);
+    std::vector<Point> Label_Centres(const Run& run, double across, double tail) const;
+    Proposal Proposal_Of(const Run& run, double across, double tail, Point labelCentre) const;
+    bool Is_Free(const Proposal& proposal, bool upright, bool strict) const;
+    void Accept(const Run& run, const Proposal& proposal, double across);
+
+    // The plot.
+    void Draw_Frame(const Axes& axes);
+    void Draw_Ticks(const Axes& axes, bool upright);
+
+    const Drawing& drawing_;
+    const TextMeasure& measure_;
+    Detail detail_;
+    Layout layout_;
+    double em_;           // the height of a line of text
+    Box extent_, things_; // everything; without texts, dimensions and the ends of centre lines
+    bool started_ = false;
+    std::vector<Segment> segments_;       // all lines
+    std::vector<Segment> dimensionLines_; // those of dimensions, with their tails
+};
+
+} // namespace Tensarix::Drawn
