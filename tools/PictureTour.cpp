@@ -99,19 +99,19 @@ class Tour {
     }
 
     void Calculator_Dialogs(CalcVariables& vars, CalcWindow& form, const QString& suffix) {
-        vars.Registers[2] = {1.75, "Bolt spacing"};
-        vars.DataList = {2, 4, 4, 4, 5, 5, 7, 9};
-        for (const int mode : {memoryIn, memoryDelete}) {
-            CalcMemoryFrm memory(vars, mode, 12.5, {});
+        vars.Memory.Registers[2] = {1.75, "Bolt spacing"};
+        vars.Statistics.DataList = {2, 4, 4, 4, 5, 5, 7, 9};
+        for (const RegisterUse use : {RegisterUse::In, RegisterUse::Delete}) {
+            CalcMemoryFrm memory(vars.Memory, use, 12.5, {});
             memory.Select_Row(2);
             CalcMemoryDialog dialog(memory, &form);
-            Show_And_Take(QStringLiteral("calculator-memory-%1").arg(mode) + suffix, dialog);
+            Show_And_Take(QStringLiteral("calculator-memory-%1").arg(int(use)) + suffix, dialog);
         }
-        CalcDataFrm data(vars, {});
+        CalcDataFrm data(vars.Statistics, {});
         data.Toggle_Row(3, true);
         CalcDataDialog dataForm(data, &form);
         Show_And_Take(QStringLiteral("calculator-data") + suffix, dataForm);
-        CalcConstantFrm constant(vars);
+        CalcConstantFrm constant(vars.Memory);
         CalcConstantDialog constantForm(constant, &form);
         constantForm.findChild<QListWidget*>()->setCurrentRow(4);
         Show_And_Take(QStringLiteral("calculator-constants") + suffix, constantForm);

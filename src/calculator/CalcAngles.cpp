@@ -38,12 +38,28 @@ bool Is_Upright(const CalcVariables& vars, double angle) {
 
 double FromDegrees(const CalcVariables& vars, double degrees) {
     const double rest = Without_Turns(degrees);
-    return vars.RadianMode ? rest * calcPi / 180 : vars.GradianMode ? rest * 200 / 180 : rest;
+    switch (vars.Conversion.Angle) {
+    case AngleMode::RadianMode:
+        return rest * calcPi / 180;
+    case AngleMode::GradianMode:
+        return rest * 200 / 180;
+    case AngleMode::DegreeMode:
+        break;
+    }
+    return rest;
 }
 
 double ToDegrees(const CalcVariables& vars, double angle) {
     const double rest = Without_Turns(angle);
-    return vars.RadianMode ? rest * 180 / calcPi : vars.GradianMode ? rest * 180 / 200 : rest;
+    switch (vars.Conversion.Angle) {
+    case AngleMode::RadianMode:
+        return rest * 180 / calcPi;
+    case AngleMode::GradianMode:
+        return rest * 180 / 200;
+    case AngleMode::DegreeMode:
+        break;
+    }
+    return rest;
 }
 
 double To_Circle(const CalcVariables& vars, double angle) {
@@ -55,7 +71,7 @@ double From_Circle(const CalcVariables& vars, double radians) {
 }
 
 std::string Turns_Remark(const CalcVariables& vars, double angle) {
-    if ((!vars.RadianMode && !vars.GradianMode) || std::abs(angle) < 360)
+    if (vars.Conversion.Angle == AngleMode::DegreeMode || std::abs(angle) < 360)
         return {};
     return "Taken at " + Number_Text(Without_Turns(angle)) + ": turns of 360 go off in any unit";
 }
@@ -105,7 +121,7 @@ std::string Angular_Text(double degrees) {
     const double minutes = (degrees - whole) * 60;
     const double seconds = std::abs((minutes - std::trunc(minutes)) * 60);
     const double rounded = Leading_Value(Format_Number(seconds, "0.000#"));
-    // The sign stands with the whole degrees alone: -0.5 reads 0°30'0", which is intended.
+    // The sign stands with the whole degrees alone: -0.5 reads 0°30'0", and a remark tells it.
     return Number_Text(Without_Turns(whole)) + "°" + Number_Text(std::trunc(std::abs(minutes))) +
            "'" + Number_Text(rounded) + "\"";
 }

@@ -1,6 +1,6 @@
 // Angles in the unit of the calculator and the functions of angles. Both conversions take full
-// turns of 360 off first, also from a value in radians or gradians; this is intended: 400 radians
-// count as 40.
+// turns of 360 off first, also from a value in radians or gradians, where a turn is another number:
+// 400 radians count as 40, and a remark tells it.
 #pragma once
 
 #include "calculator/CalcMainFrm.h"

@@ -91,19 +91,19 @@ std::string Constant_Text(const CalcConstant& constant) {
 
 void Key_Constant(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    CalcConstantFrm dialog(vars);
+    CalcConstantFrm dialog(vars.Memory);
     if (form.Host.Show_Constants)
         form.Host.Show_Constants(dialog);
-    if (vars.ConstantPick.empty())
+    if (vars.Memory.ConstantPick.empty())
         return;
-    Drop_Fraction(vars);
-    vars.SexaCount.reset();
-    End_Entry(vars);
-    Show_Result(form, Leading_Value(vars.ConstantPick));
+    Drop_Fraction(vars.Entry);
+    vars.Conversion.SexaCount.reset();
+    End_Entry(vars.Entry);
+    Show_Result(form, Leading_Value(vars.Memory.ConstantPick));
 }
 
-CalcConstantFrm::CalcConstantFrm(CalcVariables& vars) : vars_(vars) {
-    vars_.ConstantPick.clear();
+CalcConstantFrm::CalcConstantFrm(MemoryState& memory) : memory_(memory) {
+    memory_.ConstantPick.clear();
     for (const CalcConstant& each : constants)
         ConstantBox.push_back(Constant_Text(each));
 }
@@ -120,12 +120,12 @@ void CalcConstantFrm::Select_Row(int row) {
 void CalcConstantFrm::OKButton() {
     if (!OKEnabled)
         return;
-    vars_.ConstantPick = ConstantBox[static_cast<std::size_t>(Selected)];
+    memory_.ConstantPick = ConstantBox[static_cast<std::size_t>(Selected)];
     Closed = true;
 }
 
 void CalcConstantFrm::ExitButton() {
-    vars_.ConstantPick.clear();
+    memory_.ConstantPick.clear();
     Closed = true;
 }
 

@@ -22,7 +22,7 @@ void Key_Constant(CalcMainFrm& form);
 
 // What the dialog shows, and what its controls do.
 struct CalcConstantFrm {
-    explicit CalcConstantFrm(CalcVariables& vars);
+    explicit CalcConstantFrm(MemoryState& memory);
 
     std::vector<std::string> ConstantBox;
     int Selected = -1;
@@ -36,7 +36,7 @@ struct CalcConstantFrm {
     void ExitButton(); // also closing by the frame
 
   private:
-    CalcVariables& vars_;
+    MemoryState& memory_;
 };
 
 } // namespace Tensarix

@@ -1,6 +1,7 @@
 #include "calculator/CalcConversions.h"
 
 #include "calculator/CalcAngles.h"
+#include "calculator/CalcClock.h"
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcFraction.h"
@@ -15,67 +16,72 @@ namespace Tensarix {
 namespace {
 
 // The guard holds until the next operator, so a second press of either key does nothing.
-void Begin_Conversion(CalcMainFrm& form, bool CalcVariables::*flag,
-                      std::optional<double> CalcVariables::*operand) {
+void Begin_Conversion(CalcMainFrm& form, bool& active, std::optional<double>& operand) {
     CalcVariables& vars = form.Vars;
-    if (!Direct_Key_Begins(form) || vars.ConversionGuard)
+    if (!Direct_Key_Begins(form) || vars.Conversion.ConversionGuard)
         return;
     Finish_Fraction(form);
-    if (vars.ErrorLatched)
+    if (vars.Display.ErrorLatched)
         return;
-    if (!(vars.*operand))
-        vars.*operand = vars.EntryText.empty() ? Shown_Value(vars) : Leading_Value(vars.EntryText);
-    vars.*flag = vars.ConversionGuard = true;
-    End_Entry(vars);
+    if (!operand)
+        operand =
+            vars.Entry.EntryText.empty() ? Shown_Value(vars) : Leading_Value(vars.Entry.EntryText);
+    active = vars.Conversion.ConversionGuard = true;
+    End_Entry(vars.Entry);
 }
 
 void Complete_Polar(CalcVariables& vars) {
+    ConversionState& conversion = vars.Conversion;
     const double angle = To_Circle(vars, Shown_Value(vars));
-    const double radius = vars.PolarRadius.value_or(0);
-    vars.SecondResult = vars.Running ? 0 : Finite(std::sin(angle) * radius);
-    vars.PolarRadius = Finite(std::cos(angle) * radius);
-    vars.EntryText = Number_Text(*vars.PolarRadius);
+    const double radius = conversion.PolarRadius.value_or(0);
+    conversion.SecondResult = vars.Pending.Running ? 0 : Finite(std::sin(angle) * radius);
+    conversion.PolarRadius = Finite(std::cos(angle) * radius);
+    vars.Entry.EntryText = Number_Text(*conversion.PolarRadius);
 }
 
 void Complete_Rectangular(CalcVariables& vars) {
+    ConversionState& conversion = vars.Conversion;
     const double y = Shown_Value(vars);
-    const double x = vars.RectX.value_or(0);
-    vars.SecondResult = vars.Running ? 0 : From_Circle(vars, std::atan(Finite(y / x)));
-    vars.RectX = Finite(std::pow(x * x + y * y, 0.5));
-    vars.EntryText = Number_Text(*vars.RectX);
+    const double x = conversion.RectX.value_or(0);
+    conversion.SecondResult =
+        vars.Pending.Running ? 0 : From_Circle(vars, std::atan(Finite(y / x)));
+    conversion.RectX = Finite(std::pow(x * x + y * y, 0.5));
+    vars.Entry.EntryText = Number_Text(*conversion.RectX);
 }
 
 } // namespace
 
 void key_PtoR(CalcMainFrm& form) {
-    Begin_Conversion(form, &CalcVariables::PolarActive, &CalcVariables::PolarRadius);
+    Begin_Conversion(form, form.Vars.Conversion.PolarActive, form.Vars.Conversion.PolarRadius);
 }
 
 void key_RtoP(CalcMainFrm& form) {
-    Begin_Conversion(form, &CalcVariables::RectActive, &CalcVariables::RectX);
+    Begin_Conversion(form, form.Vars.Conversion.RectActive, form.Vars.Conversion.RectX);
 }
 
-bool Conversion_Pending(const CalcVariables& vars) {
-    return vars.PolarActive || vars.RectActive;
+bool Conversion_Pending(const ConversionState& conversion) {
+    return conversion.PolarActive || conversion.RectActive;
 }
 
 void Complete_Conversions(CalcMainFrm& form) {
-    if (form.Vars.PolarActive) {
-        form.Panel.Remark = Turns_Remark(form.Vars, Shown_Value(form.Vars));
-        Complete_Polar(form.Vars);
+    CalcVariables& vars = form.Vars;
+    if (vars.Conversion.PolarActive) {
+        form.Panel.Remark = Turns_Remark(vars, Shown_Value(vars));
+        Complete_Polar(vars);
     }
-    if (form.Vars.RectActive) {
-        const bool quadrantLost = !form.Vars.Running && IsNegative(form.Vars.RectX.value_or(0));
-        Complete_Rectangular(form.Vars);
+    if (vars.Conversion.RectActive) {
+        const double x = vars.Conversion.RectX.value_or(0);
+        const bool quadrantLost = !vars.Pending.Running && IsNegative(x);
+        Complete_Rectangular(vars);
         if (quadrantLost)
             form.Panel.Remark = "The angle (x-y) is half a turn off: x is negative";
     }
 }
 
-void Clear_Conversions(CalcVariables& vars) {
-    vars.PolarActive = vars.RectActive = vars.ConversionGuard = false;
-    vars.PolarRadius.reset();
-    vars.RectX.reset();
+void Clear_Conversions(ConversionState& conversion) {
+    conversion.PolarActive = conversion.RectActive = conversion.ConversionGuard = false;
+    conversion.PolarRadius.reset();
+    conversion.RectX.reset();
 }
 
 } // namespace Tensarix

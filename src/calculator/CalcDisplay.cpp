@@ -1,5 +1,6 @@
 #include "calculator/CalcDisplay.h"
 
+#include "calculator/CalcClock.h"
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
@@ -12,7 +13,6 @@ namespace {
 
 constexpr std::string_view infinityText = "Infinity";
 constexpr std::string_view randomPattern = "0.000";
-constexpr std::string_view fixName = "FIX", sciName = "SCI", normName = "NORM";
 constexpr int lastPrecIndex = 14;
 constexpr int firstPrecIndex = 2; // of a mode that had none yet
 
@@ -33,10 +33,10 @@ void Write_Panel(CalcPanel& panel, std::string_view text) {
 }
 
 std::string Formatted(const CalcVariables& vars, double value) {
-    if (vars.FixDigits)
-        return Format_Number(value, Fixed_Pattern(*vars.FixDigits));
-    if (vars.SciDigits)
-        return Format_Number(value, Scientific_Pattern(*vars.SciDigits));
+    if (vars.Display.FixDigits)
+        return Format_Number(value, Fixed_Pattern(*vars.Display.FixDigits));
+    if (vars.Display.SciDigits)
+        return Format_Number(value, Scientific_Pattern(*vars.Display.SciDigits));
     return Number_Text(value);
 }
 
@@ -52,31 +52,31 @@ bool Is_Below_Range(double value) {
 } // namespace
 
 double Shown_Value(const CalcVariables& vars) {
-    return vars.DisplayValue.value_or(0);
+    return vars.Display.DisplayValue.value_or(0);
 }
 
 void ShowNumber(CalcMainFrm& form, double value) {
     CalcVariables& vars = form.Vars;
-    vars.ResultSci = Full_Scientific(value);
-    vars.LastResult = value;
-    vars.KeyToken =
-        vars.RandomPending ? Format_Number(value, randomPattern) : Formatted(vars, value);
-    vars.ResultPending = true;
-    vars.RandomPending = false;
-    if (Is_Above_Range(value, vars.KeyToken))
+    vars.Display.ResultSci = Full_Scientific(value);
+    vars.Display.LastResult = value;
+    vars.Entry.KeyToken =
+        vars.Display.RandomPending ? Format_Number(value, randomPattern) : Formatted(vars, value);
+    vars.Display.ResultPending = true;
+    vars.Display.RandomPending = false;
+    if (Is_Above_Range(value, vars.Entry.KeyToken))
         Fail_Key(form, infinityText);
     else if (Is_Below_Range(value))
-        vars.KeyToken = '0'; // the text alone; the operand for the next operator stays
+        vars.Entry.KeyToken = '0'; // the text alone; the operand for the next operator stays
 }
 
 void Show_Result(CalcMainFrm& form, double value) {
     ShowNumber(form, value);
-    form.Vars.EntryText.clear();
+    form.Vars.Entry.EntryText.clear();
 }
 
 void Fail_Key(CalcMainFrm& form, std::string_view message) {
-    form.Vars.KeyToken = "Error";
-    form.Vars.ErrorText = message;
+    form.Vars.Entry.KeyToken = "Error";
+    form.Vars.Display.ErrorText = message;
 }
 
 void ShowValue(CalcMainFrm& form, std::optional<double> number, std::string_view text) {
@@ -87,20 +87,21 @@ void ShowValue(CalcMainFrm& form, std::optional<double> number, std::string_view
         const double value = Through_Text(number.value_or(0));
         shown = Formatted(vars, Is_Below_Range(value) ? 0 : value);
         if (Is_Above_Range(value, shown)) {
-            vars.ErrorText = infinityText;
+            vars.Display.ErrorText = infinityText;
             return ShowError(form);
         }
-        if (!vars.FixDigits && !vars.SciDigits)
+        if (!vars.Display.FixDigits && !vars.Display.SciDigits)
             shown = FitFifteen(shown);
     }
-    vars.DisplayValue = number ? Through_Text(*number) : Leading_Value(text);
-    vars.DisplayText = text.empty() ? Number_Text(*vars.DisplayValue) : std::string{text};
+    vars.Display.DisplayValue = number ? Through_Text(*number) : Leading_Value(text);
+    vars.Display.DisplayText =
+        text.empty() ? Number_Text(*vars.Display.DisplayValue) : std::string{text};
     Write_Panel(form.Panel, TrimFifteen(shown));
 }
 
 void ShowText(CalcMainFrm& form, std::string_view text, std::optional<double> number) {
-    form.Vars.DisplayValue = number ? Through_Text(*number) : Leading_Value(text);
-    form.Vars.DisplayText = text;
+    form.Vars.Display.DisplayValue = number ? Through_Text(*number) : Leading_Value(text);
+    form.Vars.Display.DisplayText = text;
     Write_Panel(form.Panel, Replace_All(text, " ", ""));
 }
 
@@ -115,44 +116,29 @@ void Show_Fraction(CalcMainFrm& form, std::string_view fraction) {
 }
 
 void ShowError(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
+    DisplayState& display = form.Vars.Display;
     End_Clock(form);
     form.Panel.DisplayBox.assign(1, '*')
-        .append(vars.ErrorText.empty() ? "Error" : vars.ErrorText)
+        .append(display.ErrorText.empty() ? "Error" : display.ErrorText)
         .append(1, '*');
     form.Panel.ExpoBox.clear();
-    vars.ErrorLatched = true;
-    vars.ErrorText.clear();
+    display.ErrorLatched = true;
+    display.ErrorText.clear();
 }
 
 void Redisplay(CalcMainFrm& form) {
-    if (form.Vars.FractionEntry)
-        Show_Fraction(form, form.Vars.FractionText);
+    if (form.Vars.Entry.FractionEntry)
+        Show_Fraction(form, form.Vars.Entry.FractionText);
     else
         ShowValue(form, Shown_Value(form.Vars), {});
-}
-
-void End_Clock(CalcMainFrm& form) {
-    form.Vars.ClockRunning = false;
-    form.Panel.DateBox.clear();
-}
-
-bool Direct_Key_Begins(CalcMainFrm& form) {
-    if (form.Vars.ClockRunning) {
-        key_Time(form);
-        return false;
-    }
-    if (!form.Vars.ErrorLatched)
-        form.Vars.SexaCount.reset();
-    return !form.Vars.ErrorLatched;
 }
 
 // Display modes
 
 namespace {
 
-void Choose_Display_Mode(CalcMainFrm& form, std::string_view name, int precIndex) {
-    form.Panel.DispMode_Indicator = name;
+void Choose_Display_Mode(CalcMainFrm& form, DisplayMode mode, int precIndex) {
+    form.Panel.DispMode_Indicator = mode;
     form.Panel.PrecEnabled = precIndex >= 0;
     PrecBox_Change(form, precIndex);
 }
@@ -161,71 +147,70 @@ int Index_From(std::optional<int> memo) {
     return std::min(memo.value_or(firstPrecIndex), lastPrecIndex);
 }
 
-void Choose_Angle_Mode(CalcMainFrm& form, const bool CalcVariables::*flag) {
-    for (auto each :
-         {&CalcVariables::DegreeMode, &CalcVariables::RadianMode, &CalcVariables::GradianMode})
-        form.Vars.*each = each == flag;
-}
-
-void Show_Angle_Mode(CalcMainFrm& form) {
-    form.Panel.Mode_Indicator = form.Vars.RadianMode    ? "RADIAN"
-                                : form.Vars.GradianMode ? "GRADIAN"
-                                                        : "DEGREE";
-}
-
-void Angle_Button(CalcMainFrm& form, bool CalcVariables::*flag) {
-    if (form.Vars.ClockRunning)
+void Choose_Angle_Mode(CalcMainFrm& form, AngleMode mode) {
+    if (form.Vars.Display.ClockRunning)
         key_Time(form);
-    Choose_Angle_Mode(form, flag);
-    Show_Angle_Mode(form);
+    form.Vars.Conversion.Angle = form.Panel.Mode_Indicator = mode;
 }
 
 } // namespace
 
+std::string_view Indicator_Text(AngleMode mode) {
+    return mode == AngleMode::RadianMode    ? "RADIAN"
+           : mode == AngleMode::GradianMode ? "GRADIAN"
+                                            : "DEGREE";
+}
+
+std::string_view Indicator_Text(DisplayMode mode) {
+    return mode == DisplayMode::Fix ? "FIX" : mode == DisplayMode::Sci ? "SCI" : "NORM";
+}
+
 void FxnButton(CalcMainFrm& form) {
-    Choose_Display_Mode(form, fixName, Index_From(form.Vars.FixMemo));
+    Choose_Display_Mode(form, DisplayMode::Fix, Index_From(form.Vars.Display.FixMemo));
 }
 
 void ScnButton(CalcMainFrm& form) {
-    Choose_Display_Mode(form, sciName, Index_From(form.Vars.SciMemo));
+    Choose_Display_Mode(form, DisplayMode::Sci, Index_From(form.Vars.Display.SciMemo));
 }
 
 void StdButton(CalcMainFrm& form) {
-    Choose_Display_Mode(form, normName, -1);
+    Choose_Display_Mode(form, DisplayMode::Norm, -1);
 }
 
 void PrecBox_Change(CalcMainFrm& form, int index) {
-    CalcVariables& vars = form.Vars;
+    DisplayState& display = form.Vars.Display;
     form.Panel.PrecIndex = std::clamp(index, -1, lastPrecIndex);
     const auto digits = index < 0 ? std::nullopt : std::optional<int>(form.Panel.PrecIndex);
-    vars.FixDigits.reset();
-    vars.SciDigits.reset();
-    if (form.Panel.DispMode_Indicator == fixName)
-        vars.FixDigits = vars.FixMemo = digits;
-    else if (form.Panel.DispMode_Indicator == sciName)
-        vars.SciDigits = vars.SciMemo = digits;
-    if (!vars.ErrorLatched) // the message stays until AC
+    display.FixDigits.reset();
+    display.SciDigits.reset();
+    if (form.Panel.DispMode_Indicator == DisplayMode::Fix)
+        display.FixDigits = display.FixMemo = digits;
+    else if (form.Panel.DispMode_Indicator == DisplayMode::Sci)
+        display.SciDigits = display.SciMemo = digits;
+    if (!display.ErrorLatched) // the message stays until AC
         Redisplay(form);
-    vars.KeyToken.clear();
+    form.Vars.Entry.KeyToken.clear();
 }
 
 void DegButton(CalcMainFrm& form) {
-    Angle_Button(form, &CalcVariables::DegreeMode);
+    Choose_Angle_Mode(form, AngleMode::DegreeMode);
 }
 
 void RadButton(CalcMainFrm& form) {
-    Angle_Button(form, &CalcVariables::RadianMode);
+    Choose_Angle_Mode(form, AngleMode::RadianMode);
 }
 
 void GradButton(CalcMainFrm& form) {
-    Angle_Button(form, &CalcVariables::GradianMode);
+    Choose_Angle_Mode(form, AngleMode::GradianMode);
 }
 
 void Open_Modes(CalcMainFrm& form) {
-    Show_Angle_Mode(form);
-    const CalcVariables& vars = form.Vars;
-    form.Panel.DispMode_Indicator = vars.FixDigits ? fixName : vars.SciDigits ? sciName : normName;
-    const auto digits = vars.FixDigits ? vars.FixDigits : vars.SciDigits;
+    const DisplayState& display = form.Vars.Display;
+    form.Panel.Mode_Indicator = form.Vars.Conversion.Angle;
+    form.Panel.DispMode_Indicator = display.FixDigits   ? DisplayMode::Fix
+                                    : display.SciDigits ? DisplayMode::Sci
+                                                        : DisplayMode::Norm;
+    const auto digits = display.FixDigits ? display.FixDigits : display.SciDigits;
     form.Panel.PrecEnabled = digits.has_value();
     form.Panel.PrecIndex = digits ? Index_From(digits) : -1;
 }

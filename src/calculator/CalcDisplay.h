@@ -43,17 +43,4 @@ void GradButton(CalcMainFrm& form);
 // Sets the indicators and PrecBox from CalcVariables when the form opens.
 void Open_Modes(CalcMainFrm& form);
 
-// Move the decimal point by three places; the value stays.
-void key_EngL(CalcMainFrm& form);
-void key_EngR(CalcMainFrm& form);
-
-// Toggles the clock. While it runs, the routine stays in its loop and yields.
-void key_Time(CalcMainFrm& form);
-
-// Takes the clock off without showing the number again.
-void End_Clock(CalcMainFrm& form);
-
-// The start of a direct key: false if the key only ends the clock, or an error is latched.
-bool Direct_Key_Begins(CalcMainFrm& form);
-
 } // namespace Tensarix

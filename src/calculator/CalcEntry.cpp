@@ -19,40 +19,42 @@ namespace {
 constexpr std::string_view erasedOperand = "0.0";
 
 void Show_Entry(CalcMainFrm& form) {
-    ShowValue(form, std::nullopt, form.Vars.EntryText);
+    ShowValue(form, std::nullopt, form.Vars.Entry.EntryText);
 }
 
 bool Is_Zero_Without_Point(std::string_view entry) {
     return !HasPoint(entry) && IsZero(Leading_Value(entry));
 }
 
-void Append_To_Entry(CalcVariables& vars) {
-    std::string& entry = vars.EntryText;
-    if (vars.KeyToken == "dot")
-        entry += HasPoint(entry) ? "" : ".";
-    else if (Is_Zero_Without_Point(entry))
-        entry = vars.KeyToken;
+void Append_To_Entry(EntryState& entry) {
+    std::string& text = entry.EntryText;
+    if (entry.KeyToken == "dot")
+        text += HasPoint(text) ? "" : ".";
+    else if (Is_Zero_Without_Point(text))
+        text = entry.KeyToken;
     else
-        entry += vars.KeyToken;
+        text += entry.KeyToken;
 }
 
 // A new number has no exponent of its own.
 void Begin_Entry(CalcVariables& vars) {
-    if (!vars.ResultPending) {
-        vars.ExponentText.clear();
-        vars.ExponentNegative = false;
+    EntryState& entry = vars.Entry;
+    if (!vars.Display.ResultPending) {
+        entry.ExponentText.clear();
+        entry.ExponentNegative = false;
     }
-    vars.EntryText = vars.KeyToken == "dot" ? "0." : vars.KeyToken;
+    entry.EntryText = entry.KeyToken == "dot" ? "0." : entry.KeyToken;
 }
 
 void Show_Exponent_Entry(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
-    vars.EntryText = vars.MantissaText + "E" + vars.ExponentText;
-    ShowText(form, vars.EntryText, std::nullopt);
+    EntryState& entry = form.Vars.Entry;
+    entry.EntryText = entry.MantissaText + "E" + entry.ExponentText;
+    ShowText(form, entry.EntryText, std::nullopt);
 }
 
-void Sign_Exponent(CalcVariables& vars) {
-    vars.ExponentText = std::string(1, vars.ExponentNegative ? '-' : '+').append(vars.ExponentText);
+void Sign_Exponent(EntryState& entry) {
+    entry.ExponentText =
+        std::string(1, entry.ExponentNegative ? '-' : '+').append(entry.ExponentText);
 }
 
 void Keep_Last_Two(std::string& text) {
@@ -61,102 +63,117 @@ void Keep_Last_Two(std::string& text) {
 }
 
 void Erase_Exponent(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
-    if (IsZero(Leading_Value(vars.ExponentText))) {
-        vars.EntryText = vars.MantissaText;
-        vars.ExponentText.clear();
-        vars.ExponentEntry = vars.SignPending = false;
+    EntryState& entry = form.Vars.Entry;
+    if (IsZero(Leading_Value(entry.ExponentText))) {
+        entry.EntryText = entry.MantissaText;
+        entry.ExponentText.clear();
+        entry.ExponentEntry = entry.SignPending = false;
         return Show_Entry(form);
     }
-    if (vars.ExponentText.ends_with('0'))
-        vars.ExponentNegative = false;
-    Keep_Last_Two(vars.ExponentText);
-    vars.ExponentText = std::string(1, '0').append(vars.ExponentText, 0, 1);
-    Sign_Exponent(vars);
+    if (entry.ExponentText.ends_with('0'))
+        entry.ExponentNegative = false;
+    Keep_Last_Two(entry.ExponentText);
+    entry.ExponentText = std::string(1, '0').append(entry.ExponentText, 0, 1);
+    Sign_Exponent(entry);
     Show_Exponent_Entry(form);
 }
 
 void Erase_Digit(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    vars.ExponentEntry = vars.SignPending = false;
-    std::string& entry = vars.EntryText;
+    vars.Entry.ExponentEntry = vars.Entry.SignPending = false;
+    std::string& entry = vars.Entry.EntryText;
     if (entry.size() <= (entry.starts_with('-') ? 2u : 1u)) {
         ShowValue(form, std::nullopt, "0.");
         entry.clear();
-        vars.ResumeText = erasedOperand;
+        vars.Pending.ResumeText = erasedOperand;
         return;
     }
     entry.pop_back();
     if (entry.ends_with('.'))
         entry.pop_back();
     Show_Entry(form);
-    vars.MantissaText = entry;
+    vars.Entry.MantissaText = entry;
 }
 
 void Toggle_Entry_Sign(CalcMainFrm& form) {
-    std::string& entry = form.Vars.EntryText;
+    std::string& entry = form.Vars.Entry.EntryText;
     if (entry.starts_with('-'))
         entry.erase(0, 1);
     else if (!IsZero(Leading_Value(entry)))
         entry = std::string(1, '-').append(entry);
-    Show_Entry(form); // MantissaText stays: 12, sign, "exp" loses the sign, which is intended
+    Show_Entry(form); // MantissaText stays: 12, sign, "exp" goes on with 12, as the display shows
+}
+
+// ResumeText and the operands that the next step reads anew outlive AC.
+void Clear_Pending(PendingState& pending) {
+    for (std::string* text : {&pending.Op1, &pending.Op2, &pending.Op3, &pending.ConstOperator})
+        text->clear();
+    pending.Operands.clear();
+    pending.Running.reset();
+    pending.ConstOperand.reset();
+    pending.OpHistory.clear();
+    pending.Chain.Start({});
 }
 
 } // namespace
 
 void Digit_Step(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    if (vars.EntryText.empty())
+    EntryState& entry = vars.Entry;
+    if (entry.EntryText.empty())
         Begin_Entry(vars);
     else
-        Append_To_Entry(vars);
-    const auto number = vars.ResultPending ? std::optional(vars.LastResult) : std::nullopt;
-    ShowValue(form, number, vars.EntryText);
-    vars.ResumeText.clear();
-    vars.MantissaText = vars.EntryText;
-    if (vars.ResultPending) {
-        vars.EntryText.clear();
-        vars.ResumeText = vars.ResultSci;
-        vars.ResultPending = false;
+        Append_To_Entry(entry);
+    const auto number =
+        vars.Display.ResultPending ? std::optional(vars.Display.LastResult) : std::nullopt;
+    ShowValue(form, number, entry.EntryText);
+    vars.Pending.ResumeText.clear();
+    entry.MantissaText = entry.EntryText;
+    if (vars.Display.ResultPending) {
+        entry.EntryText.clear();
+        vars.Pending.ResumeText = vars.Display.ResultSci;
+        vars.Display.ResultPending = false;
     }
 }
 
 void Exponent_Step(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
-    if (vars.ExponentText.empty())
-        vars.ExponentText = vars.KeyToken;
-    else if (vars.KeyToken != "dot")
-        vars.ExponentText += vars.KeyToken;
-    Keep_Last_Two(vars.ExponentText); // drops the old sign, and rolls the digits
-    Sign_Exponent(vars);
+    EntryState& entry = form.Vars.Entry;
+    if (entry.ExponentText.empty())
+        entry.ExponentText = entry.KeyToken;
+    else if (entry.KeyToken != "dot")
+        entry.ExponentText += entry.KeyToken;
+    Keep_Last_Two(entry.ExponentText); // drops the old sign, and rolls the digits
+    Sign_Exponent(entry);
     Show_Exponent_Entry(form);
-    vars.KeyToken.clear();
+    entry.KeyToken.clear();
 }
 
 void Key_Cancel(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    vars.ExponentEntry = vars.SignPending = false;
-    vars.SexaCount.reset();
-    Show_Result(form, 0); // a fraction being keyed goes on, with this 0 behind it, as intended
-    vars.ExponentText.clear();
+    EntryState& entry = vars.Entry;
+    entry.ExponentEntry = entry.SignPending = false;
+    vars.Conversion.SexaCount.reset();
+    Show_Result(form, 0); // a fraction being keyed takes this 0 as one more digit
+    entry.ExponentText.clear();
 }
 
 void Key_Point(CalcMainFrm& form) {
-    form.Vars.KeyToken = form.Vars.FractionEntry ? "" : "dot";
+    form.Vars.Entry.KeyToken = form.Vars.Entry.FractionEntry ? "" : "dot";
 }
 
 void Key_Sign(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    if (vars.ExponentEntry) {
-        vars.ExponentNegative = !vars.ExponentNegative;
+    EntryState& entry = vars.Entry;
+    if (entry.ExponentEntry) {
+        entry.ExponentNegative = !entry.ExponentNegative;
         Exponent_Step(form);
         return;
     }
-    if (!vars.EntryText.empty())
-        vars.SignPending = true;
-    if (vars.FractionEntry)
-        vars.KeyToken = '-';
-    else if (!vars.EntryText.empty())
+    if (!entry.EntryText.empty())
+        entry.SignPending = true;
+    if (entry.FractionEntry)
+        entry.KeyToken = '-';
+    else if (!entry.EntryText.empty())
         Toggle_Entry_Sign(form);
     else
         Show_Result(form, -Shown_Value(vars));
@@ -164,61 +181,58 @@ void Key_Sign(CalcMainFrm& form) {
 
 void Key_Exponent(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    vars.SexaCount.reset();
-    if ((vars.EntryText.empty() && !vars.SignPending) || vars.FractionEntry)
+    EntryState& entry = vars.Entry;
+    vars.Conversion.SexaCount.reset();
+    if ((entry.EntryText.empty() && !entry.SignPending) || entry.FractionEntry)
         return;
-    vars.ExponentEntry = true;
-    if (vars.ExponentText.empty())
-        vars.KeyToken = "00";
+    entry.ExponentEntry = true;
+    if (entry.ExponentText.empty())
+        entry.KeyToken = "00";
 }
 
 void Key_Erase(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    vars.SexaCount.reset();
-    if (vars.FractionEntry)
+    EntryState& entry = vars.Entry;
+    vars.Conversion.SexaCount.reset();
+    if (entry.FractionEntry)
         Erase_Fraction(form);
-    else if (vars.EntryText.find('E') != std::string::npos)
+    else if (entry.EntryText.find('E') != std::string::npos)
         Erase_Exponent(form);
-    else if (!vars.EntryText.empty())
+    else if (!entry.EntryText.empty())
         Erase_Digit(form);
-    vars.KeyToken.clear();
+    entry.KeyToken.clear();
 }
 
 void Key_Pi(CalcMainFrm& form) {
-    if (!form.Vars.ExponentEntry)
+    if (!form.Vars.Entry.ExponentEntry)
         Show_Result(form, calcPi);
 }
 
-// ResumeText, the modes, the memories and the data list outlive AC.
+// The modes, the memories and the data list stay.
 void Key_All_Clear(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    using V = CalcVariables;
-    for (auto text :
-         {&V::KeyToken, &V::Op1, &V::Op2, &V::Op3, &V::EntryText, &V::DisplayText, &V::ErrorText,
-          &V::ExponentText, &V::MantissaText, &V::ResultSci, &V::FractionText, &V::ConstOperator})
-        (vars.*text).clear();
-    for (auto value : {&V::Running, &V::ConstOperand, &V::SecondResult})
-        (vars.*value).reset();
-    for (auto flag : {&V::ErrorLatched, &V::HasInput, &V::SignPending, &V::ExponentEntry,
-                      &V::ExponentNegative, &V::ResultPending, &V::FractionEntry})
-        vars.*flag = false;
-    vars.Operands.clear();
-    vars.Chain.Start({});
-    vars.OpHistory.clear();
-    vars.SexaCount.reset();
-    Clear_Conversions(vars);
+    vars.Entry = {};
+    Clear_Pending(vars.Pending);
+    vars.Conversion.SexaCount.reset();
+    vars.Conversion.SecondResult.reset();
+    Clear_Conversions(vars.Conversion);
+    for (std::string* text :
+         {&vars.Display.DisplayText, &vars.Display.ErrorText, &vars.Display.ResultSci})
+        text->clear();
+    vars.Display.ErrorLatched = vars.Display.ResultPending = false;
     form.Panel.CCalc_Indicator.clear();
     Show_Result(form, 0);
 }
 
-void End_Entry(CalcVariables& vars) {
-    vars.EntryText.clear();
-    vars.ExponentEntry = vars.SignPending = false;
+void End_Entry(EntryState& entry) {
+    entry.EntryText.clear();
+    entry.ExponentEntry = entry.SignPending = false;
 }
 
 void Entry_To_Operand(CalcVariables& vars) {
-    vars.ResumeText = vars.EntryText.empty() ? Number_Text(Shown_Value(vars)) : vars.EntryText;
-    End_Entry(vars);
+    const std::string& keyed = vars.Entry.EntryText;
+    vars.Pending.ResumeText = keyed.empty() ? Number_Text(Shown_Value(vars)) : keyed;
+    End_Entry(vars.Entry);
 }
 
 } // namespace Tensarix

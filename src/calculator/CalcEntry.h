@@ -18,7 +18,7 @@ void Key_Pi(CalcMainFrm& form);        // "PI"
 void Key_All_Clear(CalcMainFrm& form); // "AC"
 
 // The number being keyed ends: the next digit begins a new one.
-void End_Entry(CalcVariables& vars);
+void End_Entry(EntryState& entry);
 
 // The entry, or the shown number if there is none, becomes the operand that the next operator
 // takes; the entry ends.

@@ -1,5 +1,6 @@
 #include "calculator/CalcFraction.h"
 
+#include "calculator/CalcClock.h"
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcText.h"
@@ -155,7 +156,7 @@ void Show_Cycled(CalcMainFrm& form, const FractionParts& parts) {
 }
 
 void Show_Reduced_Entry(CalcMainFrm& form) {
-    FractionParts parts = Read_Fraction(form.Vars.FractionText);
+    FractionParts parts = Read_Fraction(form.Vars.Entry.FractionText);
     const auto last = static_cast<std::size_t>(parts.Count - 1);
     if (!IsZero(parts.Part[last]) && parts.Part[last] == parts.Part[last - 1]) {
         parts.Part[0] = parts.Count == 3 ? parts.Part[0] + 1 : 1;
@@ -168,7 +169,7 @@ void Show_Reduced_Entry(CalcMainFrm& form) {
 
 void Show_Number_As_Fraction(CalcMainFrm& form) {
     const double value = Shown_Value(form.Vars);
-    form.Vars.DisplayText = Number_Text(value);
+    form.Vars.Display.DisplayText = Number_Text(value);
     const double snapped = Snap12(value);
     if (snapped == std::trunc(snapped))
         ShowValue(form, value, {});
@@ -189,76 +190,76 @@ double Fraction_Value(std::string_view fraction) {
 
 void Key_Fraction(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    vars.SexaCount.reset();
-    if (!vars.FractionEntry && !Takes_Fraction(vars.EntryText))
+    vars.Conversion.SexaCount.reset();
+    if (!vars.Entry.FractionEntry && !Takes_Fraction(vars.Entry.EntryText))
         return;
-    vars.FractionEntry = true;
-    vars.ExponentEntry = vars.SignPending = false;
-    vars.KeyToken = '/';
+    vars.Entry.FractionEntry = true;
+    vars.Entry.ExponentEntry = vars.Entry.SignPending = false;
+    vars.Entry.KeyToken = '/';
     Fraction_Step(form);
-    vars.KeyToken.clear();
+    vars.Entry.KeyToken.clear();
 }
 
 void Fraction_Step(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    if (vars.FractionText.empty())
-        vars.FractionText = vars.EntryText;
-    if (vars.ResultPending) // its digits, whatever the display mode
-        vars.FractionText += Number_Text(vars.LastResult);
-    else if (vars.KeyToken == "/")
-        Append_Slash(vars.FractionText);
-    else if (vars.KeyToken == "-")
-        Toggle_Sign(vars.FractionText);
+    if (vars.Entry.FractionText.empty())
+        vars.Entry.FractionText = vars.Entry.EntryText;
+    if (vars.Display.ResultPending) // its digits, whatever the display mode
+        vars.Entry.FractionText += Number_Text(vars.Display.LastResult);
+    else if (vars.Entry.KeyToken == "/")
+        Append_Slash(vars.Entry.FractionText);
+    else if (vars.Entry.KeyToken == "-")
+        Toggle_Sign(vars.Entry.FractionText);
     else
-        vars.FractionText += vars.KeyToken;
-    vars.ResultPending = false;
-    Show_Fraction(form, vars.FractionText);
+        vars.Entry.FractionText += vars.Entry.KeyToken;
+    vars.Display.ResultPending = false;
+    Show_Fraction(form, vars.Entry.FractionText);
 }
 
 void Finish_Fraction(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    if (!vars.FractionEntry)
+    if (!vars.Entry.FractionEntry)
         return;
     const bool good = Attempt([&] {
-        const double value = Fraction_Value(vars.FractionText);
-        vars.EntryText = Number_Text(value);
-        vars.DisplayText = vars.EntryText;
-        vars.DisplayValue = value;
+        const double value = Fraction_Value(vars.Entry.FractionText);
+        vars.Entry.EntryText = Number_Text(value);
+        vars.Display.DisplayText = vars.Entry.EntryText;
+        vars.Display.DisplayValue = value;
     });
-    Drop_Fraction(vars);
+    Drop_Fraction(vars.Entry);
     if (good)
         return;
-    vars.ErrorText = "Divide by Zero";
+    vars.Display.ErrorText = "Divide by Zero";
     ShowError(form);
 }
 
 void Finish_Fraction_As_Operand(CalcMainFrm& form) {
-    if (!form.Vars.FractionEntry)
+    if (!form.Vars.Entry.FractionEntry)
         return;
     Finish_Fraction(form);
     Entry_To_Operand(form.Vars);
 }
 
-void Drop_Fraction(CalcVariables& vars) {
-    vars.FractionText.clear();
-    vars.FractionEntry = false;
+void Drop_Fraction(EntryState& entry) {
+    entry.FractionText.clear();
+    entry.FractionEntry = false;
 }
 
 void Erase_Fraction(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    std::string& text = vars.FractionText;
+    std::string& text = vars.Entry.FractionText;
     text.pop_back();
-    if (text.size() <= (text.starts_with('-') ? 2u : 1u)) { // also "1/", as intended
+    if (text.size() <= (text.starts_with('-') ? 2u : 1u)) { // "1/" too
         ShowValue(form, std::nullopt, "0");
-        vars.ResumeText = "0.0";
-        vars.EntryText.clear();
-        return Drop_Fraction(vars);
+        vars.Pending.ResumeText = "0.0";
+        vars.Entry.EntryText.clear();
+        return Drop_Fraction(vars.Entry);
     }
     if (text.find('/') != std::string::npos)
         return Show_Fraction(form, text);
-    vars.EntryText = vars.MantissaText = text;
+    vars.Entry.EntryText = vars.Entry.MantissaText = text;
     ShowValue(form, std::nullopt, text);
-    Drop_Fraction(vars);
+    Drop_Fraction(vars.Entry);
 }
 
 void key_Dc(CalcMainFrm& form) {
@@ -266,7 +267,7 @@ void key_Dc(CalcMainFrm& form) {
         return;
     // A number that makes no fraction leaves the display as it is.
     Attempt([&] {
-        if (form.Vars.FractionEntry)
+        if (form.Vars.Entry.FractionEntry)
             Show_Reduced_Entry(form);
         else
             Show_Number_As_Fraction(form);

@@ -18,7 +18,7 @@ void Finish_Fraction(CalcMainFrm& form);
 // The same for a direct key: the value waits as operand, and the next digit begins a new number.
 void Finish_Fraction_As_Operand(CalcMainFrm& form);
 
-void Drop_Fraction(CalcVariables& vars);
+void Drop_Fraction(EntryState& entry);
 void Erase_Fraction(CalcMainFrm& form);
 
 // The value of "a", "a/b" or "a/b/c"; fails on a zero denominator. A missing last number reads 0.

@@ -111,12 +111,12 @@ void Key_Factorial(CalcMainFrm& form) {
 // Degrees, minutes, seconds in turns; SexaCount is empty before the first.
 void Key_Sexa(CalcMainFrm& form) {
     const double x = Shown_Value(form.Vars);
-    const int count = form.Vars.SexaCount.value_or(3);
+    const int count = form.Vars.Conversion.SexaCount.value_or(3);
     if (count % 3 == 0)
         form.SexaSum = x;
     else
         form.SexaSum += count % 3 == 1 ? x / 60 : x / 3600;
-    form.Vars.SexaCount = count + 1;
+    form.Vars.Conversion.SexaCount = count + 1;
     Show_Result(form, form.SexaSum);
 }
 
@@ -133,7 +133,7 @@ void Key_Asex(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
     const double x = Shown_Value(vars);
     const std::string text = Angular_Text(x);
-    if (!vars.EntryText.empty())
+    if (!vars.Entry.EntryText.empty())
         Entry_To_Operand(vars);
     if (Characters(text) > displayCharacters)
         return;
@@ -153,18 +153,18 @@ double Serial_Date(CalcTime time) {
 void Key_Random(CalcMainFrm& form) {
     const CalcTime now = form.Host.Now ? form.Host.Now() : CalcTime{};
     const std::string text = Format_Number(Serial_Date(now), "0.0" + std::string(100, '#'));
-    form.Vars.RandomPending = true;
+    form.Vars.Display.RandomPending = true;
     Show_Result(form, Leading_Value(text.substr(text.size() - 3)) / 1000);
 }
 
 void Key_Swap(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
     const double shown = Shown_Value(vars);
-    if (!Conversion_Pending(vars))
-        vars.Running = shown;
-    vars.Chain.Lost = true;
-    Show_Result(form, vars.SecondResult.value_or(0));
-    vars.SecondResult = shown;
+    if (!Conversion_Pending(vars.Conversion))
+        vars.Pending.Running = shown;
+    vars.Pending.Chain.Lost = true;
+    Show_Result(form, vars.Conversion.SecondResult.value_or(0));
+    vars.Conversion.SecondResult = shown;
 }
 
 constexpr auto finish = EntryBefore::Finish, drop = EntryBefore::Drop, keep = EntryBefore::Keep;

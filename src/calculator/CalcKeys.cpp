@@ -1,7 +1,9 @@
 #include "calculator/CalcKeys.h"
 
+#include "calculator/CalcClock.h"
 #include "calculator/CalcConversions.h"
 #include "calculator/CalcDisplay.h"
+#include "calculator/CalcEngineering.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcFraction.h"
 #include "calculator/CalcMemory.h"
@@ -17,7 +19,7 @@ namespace Tensarix {
 namespace {
 
 void HelpButton(CalcMainFrm& form) {
-    if (form.Vars.ClockRunning)
+    if (form.Vars.Display.ClockRunning)
         key_Time(form);
     if (form.Host.Show_Help)
         form.Host.Show_Help();
@@ -183,11 +185,11 @@ KeyedNumber Number_To_Key(std::string_view text) {
 }
 
 void Discard_Entry(CalcMainFrm& form) {
-    if (form.Vars.ClockRunning)
+    if (form.Vars.Display.ClockRunning)
         key_Time(form);
-    form.Vars.SexaCount.reset();
-    Drop_Fraction(form.Vars);
-    End_Entry(form.Vars);
+    form.Vars.Conversion.SexaCount.reset();
+    Drop_Fraction(form.Vars.Entry);
+    End_Entry(form.Vars.Entry);
 }
 
 } // namespace
@@ -223,12 +225,12 @@ void Press(CalcMainFrm& form, const CalcKey& key) {
 }
 
 std::string Display_As_Number(const CalcMainFrm& form) {
-    if (form.Vars.ErrorLatched)
+    if (form.Vars.Display.ErrorLatched)
         return {};
     std::string text = form.Panel.DisplayBox;
     if (text.ends_with('.'))
         text.pop_back();
-    if (form.Vars.ClockRunning || !Is_Numeric(text))
+    if (form.Vars.Display.ClockRunning || !Is_Numeric(text))
         return Number_Text(Shown_Value(form.Vars));
     if (form.Panel.ExpoBox.size() == 3)
         text += (form.Panel.ExpoBox.front() == '-' ? "E-" : "E+") + form.Panel.ExpoBox.substr(1);
@@ -236,7 +238,7 @@ std::string Display_As_Number(const CalcMainFrm& form) {
 }
 
 bool Key_In_Number(CalcMainFrm& form, std::string_view text) {
-    if (form.Vars.ErrorLatched || !Is_Numeric(text))
+    if (form.Vars.Display.ErrorLatched || !Is_Numeric(text))
         return false;
     const KeyedNumber number = Number_To_Key(text);
     if (std::abs(number.Exponent.value_or(0)) > maxExponent)

@@ -1,5 +1,6 @@
 #include "calculator/CalcMainFrm.h"
 
+#include "calculator/CalcClock.h"
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcFraction.h"
@@ -34,9 +35,9 @@ bool Is_Digit_Token(std::string_view token) {
 void Begin_Operator(CalcMainFrm& form, std::string_view token) {
     CalcVariables& vars = form.Vars;
     Finish_Fraction(form);
-    vars.ExponentEntry = vars.SignPending = vars.ExponentNegative = false;
-    vars.SexaCount.reset();
-    vars.KeyToken = std::string{token};
+    vars.Entry.ExponentEntry = vars.Entry.SignPending = vars.Entry.ExponentNegative = false;
+    vars.Conversion.SexaCount.reset();
+    vars.Entry.KeyToken = std::string{token};
 }
 
 // Operators under the names of their keys.
@@ -55,15 +56,15 @@ void Prepare_Entry(CalcMainFrm& form, const FunctionKey& key) {
     if (key.Before == EntryBefore::Finish)
         Finish_Fraction(form);
     else
-        Drop_Fraction(vars);
-    vars.ExponentEntry = vars.SignPending = false;
+        Drop_Fraction(vars.Entry);
+    vars.Entry.ExponentEntry = vars.Entry.SignPending = false;
     if (key.Token != "sexa")
-        vars.SexaCount.reset();
+        vars.Conversion.SexaCount.reset();
 }
 
 void Run_Function(CalcMainFrm& form, const FunctionKey& key) {
     Prepare_Entry(form, key);
-    if (form.Vars.ErrorLatched) // by the fraction
+    if (form.Vars.Display.ErrorLatched) // by the fraction
         return;
     if (!Attempt([&] { key.Run(form); }))
         Fail_Key(form, key.FailureText);
@@ -71,7 +72,7 @@ void Run_Function(CalcMainFrm& form, const FunctionKey& key) {
 
 void Take_Token(CalcMainFrm& form, std::string_view token) {
     if (Is_Digit_Token(token)) {
-        form.Vars.KeyToken = std::string{token};
+        form.Vars.Entry.KeyToken = std::string{token};
         return;
     }
     if (const auto op = Operator_Of(token); !op.empty())
@@ -90,52 +91,52 @@ int Digits_Keyed(const std::string& entry) {
 }
 
 void Number_Step(CalcMainFrm& form) {
-    if (Digits_Keyed(form.Vars.EntryText) >= maxDigits)
+    if (Digits_Keyed(form.Vars.Entry.EntryText) >= maxDigits)
         return;
-    form.Vars.HasInput = true;
-    if (!form.Vars.ErrorLatched)
+    form.Vars.Entry.HasInput = true;
+    if (!form.Vars.Display.ErrorLatched)
         Digit_Step(form);
 }
 
 void Key_Step(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    if (vars.KeyToken.empty())
+    if (vars.Entry.KeyToken.empty())
         return;
-    if (vars.FractionEntry)
+    if (vars.Entry.FractionEntry)
         return Fraction_Step(form);
-    if (vars.ExponentEntry)
+    if (vars.Entry.ExponentEntry)
         return Exponent_Step(form);
-    if (vars.KeyToken == "dot" || Is_Numeric(vars.KeyToken))
+    if (vars.Entry.KeyToken == "dot" || Is_Numeric(vars.Entry.KeyToken))
         return Number_Step(form);
-    if (vars.KeyToken == "Error")
+    if (vars.Entry.KeyToken == "Error")
         return ShowError(form);
-    if (!vars.HasInput)
-        vars.EntryText = freshOperand;
-    if (!vars.ErrorLatched)
+    if (!vars.Entry.HasInput)
+        vars.Entry.EntryText = freshOperand;
+    if (!vars.Display.ErrorLatched)
         Operator_Step(form);
 }
 
 void Take_Key(CalcMainFrm& form, std::string_view token) {
     CalcVariables& vars = form.Vars;
-    vars.KeyToken.clear();
-    if (!vars.ErrorLatched)
+    vars.Entry.KeyToken.clear();
+    if (!vars.Display.ErrorLatched)
         Take_Token(form, token);
     if (token == "AC")
         Key_All_Clear(form);
-    if (!vars.FractionEntry)
-        vars.FractionText.clear();
+    if (!vars.Entry.FractionEntry)
+        vars.Entry.FractionText.clear();
     Key_Step(form);
 }
 
 } // namespace
 
 void KeyPress(CalcMainFrm& form, std::string_view token) {
-    if (form.Vars.ClockRunning)
+    if (form.Vars.Display.ClockRunning)
         return key_Time(form);
     form.Panel.Remark.clear();
     if (Attempt([&] { Take_Key(form, token); }))
         return;
-    form.Vars.ErrorText.clear();
+    form.Vars.Display.ErrorText.clear();
     ShowError(form);
 }
 
@@ -144,12 +145,12 @@ void Open(CalcMainFrm& form) {
     form.Panel = {};
     form.SexaSum = 0;
     form.FracCycle = 0;
-    vars.ClockRunning = false;
+    vars.Display.ClockRunning = false;
     Open_Modes(form);
-    if (vars.DisplayText.empty() || !vars.DisplayValue || vars.ErrorLatched)
+    if (vars.Display.DisplayText.empty() || !vars.Display.DisplayValue || vars.Display.ErrorLatched)
         KeyPress(form, "AC");
-    else if (vars.ExponentEntry)
-        ShowText(form, vars.EntryText, std::nullopt);
+    else if (vars.Entry.ExponentEntry)
+        ShowText(form, vars.Entry.EntryText, std::nullopt);
     else
         Redisplay(form);
     Open_Memory(form);

@@ -18,18 +18,18 @@ struct CalcMemoryFrm;
 struct CalcDataFrm;
 struct CalcConstantFrm;
 
-// The texts of the panel; the window shows them as they stand.
+// The panel; the window shows its texts as they stand, and the modes by Indicator_Text.
 struct CalcPanel {
-    std::string DisplayBox;         // mantissa with a point, an error message, or the time
-    std::string ExpoBox;            // a blank or "-" and two digits; or empty
-    std::string DispMode_Indicator; // "NORM", "FIX" or "SCI"
-    std::string Mode_Indicator;     // "DEGREE", "RADIAN" or "GRADIAN"
-    std::string Mem_Indicator;      // "MEM" or empty
-    std::string CCalc_Indicator;    // "K" or empty
-    std::string DateBox;            // the date while the clock runs
-    std::string Remark;             // where the number shown is not what one would expect
-    int PrecIndex = -1;             // the row of PrecBox, 0 to 14, or none
-    bool PrecEnabled = false;       // PrecBox and PrecLab
+    std::string DisplayBox; // mantissa with a point, an error message, or the time
+    std::string ExpoBox;    // a blank or "-" and two digits; or empty
+    DisplayMode DispMode_Indicator = DisplayMode::Norm;
+    AngleMode Mode_Indicator = AngleMode::DegreeMode;
+    std::string Mem_Indicator;   // "MEM" or empty
+    std::string CCalc_Indicator; // "K" or empty
+    std::string DateBox;         // the date while the clock runs
+    std::string Remark;          // where the number shown is not what one would expect
+    int PrecIndex = -1;          // the row of PrecBox, 0 to 14, or none
+    bool PrecEnabled = false;    // PrecBox and PrecLab
 };
 
 struct CalcQuestion {

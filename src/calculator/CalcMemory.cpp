@@ -1,5 +1,6 @@
 #include "calculator/CalcMemory.h"
 
+#include "calculator/CalcClock.h"
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcFraction.h"
@@ -86,7 +87,7 @@ std::string Rest_Of_Description(ByteReader& reader) {
 }
 
 void Show_Memory_Indicator(CalcMainFrm& form) {
-    form.Panel.Mem_Indicator = IsZero(form.Vars.MemValue) ? "" : "MEM";
+    form.Panel.Mem_Indicator = IsZero(form.Vars.Memory.MemValue) ? "" : "MEM";
 }
 
 double Stored_Memory(const CalcHost& host) {
@@ -98,31 +99,31 @@ double Stored_Memory(const CalcHost& host) {
 // The fraction counts with its value, although it is finished only on a choice.
 double Value_In_Sight(const CalcVariables& vars) {
     double value = Shown_Value(vars);
-    if (vars.FractionEntry)
-        Attempt([&] { value = Fraction_Value(vars.FractionText); });
+    if (vars.Entry.FractionEntry)
+        Attempt([&] { value = Fraction_Value(vars.Entry.FractionText); });
     return value;
 }
 
 // Runs the dialog; the chosen register, or none if it was left.
-Register* Choose_Register(CalcMainFrm& form, MemoryMode mode) {
+Register* Choose_Register(CalcMainFrm& form, RegisterUse mode) {
     CalcVariables& vars = form.Vars;
-    CalcMemoryFrm dialog(vars, mode, Value_In_Sight(vars), form.Host.Ask);
+    CalcMemoryFrm dialog(vars.Memory, mode, Value_In_Sight(vars), form.Host.Ask);
     if (form.Host.Show_Memory)
         form.Host.Show_Memory(dialog);
-    const int chosen = vars.SelectedRegister;
+    const int chosen = vars.Memory.SelectedRegister;
     if (chosen < 0 || chosen >= static_cast<int>(registerCount))
         return nullptr;
-    return &vars.Registers[static_cast<std::size_t>(chosen)];
+    return &vars.Memory.Registers[static_cast<std::size_t>(chosen)];
 }
 
-void Add_To_Register(CalcMainFrm& form, MemoryMode mode, double sign) {
+void Add_To_Register(CalcMainFrm& form, RegisterUse mode, double sign) {
     if (!Direct_Key_Begins(form))
         return;
     Register* const chosen = Choose_Register(form, mode);
     if (!chosen)
         return;
     Finish_Fraction(form);
-    if (form.Vars.ErrorLatched)
+    if (form.Vars.Display.ErrorLatched)
         return;
     Keep(chosen->Value, chosen->Value + sign * Shown_Value(form.Vars));
     Entry_To_Operand(form.Vars);
@@ -155,10 +156,10 @@ RegisterList Registers_From(const Bytes& bytes) {
 }
 
 void Open_Memory(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
-    Attempt([&] { vars.MemValue = Stored_Memory(form.Host); });
+    MemoryState& memory = form.Vars.Memory;
+    Attempt([&] { memory.MemValue = Stored_Memory(form.Host); });
     Show_Memory_Indicator(form);
-    if (!form.Host.DataFolder || vars.RegistersUnsaved)
+    if (!form.Host.DataFolder || memory.RegistersUnsaved)
         return;
     const auto path = *form.Host.DataFolder / registerFileName;
     std::error_code error;
@@ -166,83 +167,84 @@ void Open_Memory(CalcMainFrm& form) {
         std::filesystem::file_type::not_found)
         Replace_File(path, {});
     if (const auto bytes = Read_Whole_File(path))
-        vars.Registers = Registers_From(*bytes);
+        memory.Registers = Registers_From(*bytes);
 }
 
 void Close_Memory(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
+    MemoryState& memory = form.Vars.Memory;
     if (form.Host.Write_Setting)
-        form.Host.Write_Setting(memorySection, memoryKey, Number_Text(vars.MemValue));
-    vars.RegistersUnsaved =
+        form.Host.Write_Setting(memorySection, memoryKey, Number_Text(memory.MemValue));
+    memory.RegistersUnsaved =
         !form.Host.DataFolder ||
-        !Replace_File(*form.Host.DataFolder / registerFileName, Registers_Image(vars.Registers));
+        !Replace_File(*form.Host.DataFolder / registerFileName, Registers_Image(memory.Registers));
 }
 
 // The keys
 
 void key_Min(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    if (vars.ClockRunning)
+    if (vars.Display.ClockRunning)
         key_Time(form);
-    vars.SexaCount.reset();
+    vars.Conversion.SexaCount.reset();
     Finish_Fraction_As_Operand(form);
-    vars.MemValue = Shown_Value(vars);
-    vars.ResumeText = Number_Text(vars.MemValue);
+    vars.Memory.MemValue = Shown_Value(vars);
+    vars.Pending.ResumeText = Number_Text(vars.Memory.MemValue);
     Show_Memory_Indicator(form);
 }
 
 void key_Kin(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    if (vars.ClockRunning)
+    if (vars.Display.ClockRunning)
         key_Time(form);
-    Register* const chosen = vars.ErrorLatched ? nullptr : Choose_Register(form, memoryIn);
+    Register* const chosen =
+        vars.Display.ErrorLatched ? nullptr : Choose_Register(form, RegisterUse::In);
     if (!chosen)
         return;
-    vars.SexaCount.reset();
+    vars.Conversion.SexaCount.reset();
     Finish_Fraction_As_Operand(form);
-    if (vars.ErrorLatched)
+    if (vars.Display.ErrorLatched)
         return;
     chosen->Value = Shown_Value(vars);
-    chosen->Description = vars.RegisterDescription;
+    chosen->Description = vars.Memory.RegisterDescription;
 }
 
 void key_Mplus(CalcMainFrm& form) {
-    Add_To_Register(form, memoryAdd, 1);
+    Add_To_Register(form, RegisterUse::Add, 1);
 }
 
 void key_Mminus(CalcMainFrm& form) {
-    Add_To_Register(form, memoryMinus, -1);
+    Add_To_Register(form, RegisterUse::Minus, -1);
 }
 
 void key_KAC(CalcMainFrm& form) {
     if (Direct_Key_Begins(form))
-        Choose_Register(form, memoryDelete);
+        Choose_Register(form, RegisterUse::Delete);
 }
 
 void Key_Memory_Recall(CalcMainFrm& form) {
-    Show_Result(form, form.Vars.MemValue);
+    Show_Result(form, form.Vars.Memory.MemValue);
 }
 
 void Key_Register_Recall(CalcMainFrm& form) {
-    const Register* const chosen = Choose_Register(form, memoryRecall);
+    const Register* const chosen = Choose_Register(form, RegisterUse::Recall);
     if (!chosen)
         return;
-    Drop_Fraction(form.Vars);
-    form.Vars.SexaCount.reset();
-    End_Entry(form.Vars);
+    Drop_Fraction(form.Vars.Entry);
+    form.Vars.Conversion.SexaCount.reset();
+    End_Entry(form.Vars.Entry);
     Show_Result(form, chosen->Value);
 }
 
 void Key_Register_Swap(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    Register* const chosen = Choose_Register(form, memorySwap);
+    Register* const chosen = Choose_Register(form, RegisterUse::Swap);
     if (!chosen)
         return;
     Finish_Fraction(form);
-    if (vars.ErrorLatched)
+    if (vars.Display.ErrorLatched)
         return;
-    vars.SexaCount.reset();
-    End_Entry(vars);
+    vars.Conversion.SexaCount.reset();
+    End_Entry(vars.Entry);
     const double shown = Shown_Value(vars);
     Show_Result(form, chosen->Value);
     chosen->Value = shown;

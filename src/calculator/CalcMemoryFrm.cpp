@@ -44,20 +44,20 @@ std::string Row_Value(double value) {
     return Number_Text(Leading_Value(Format_Number(value, pattern)));
 }
 
-CalcMemoryFrm::CalcMemoryFrm(CalcVariables& vars, int mode, double shownValue,
+CalcMemoryFrm::CalcMemoryFrm(MemoryState& memory, RegisterUse mode, double shownValue,
                              std::function<bool(const CalcQuestion&)> ask)
-    : DeleteFrame(mode == memoryDelete), vars_(vars), mode_(mode), shownValue_(shownValue),
-      ask_(std::move(ask)) {
-    const ModeTexts& texts = modeTexts[mode];
+    : DeleteFrame(mode == RegisterUse::Delete), memory_(memory), mode_(mode),
+      shownValue_(shownValue), ask_(std::move(ask)) {
+    const ModeTexts& texts = modeTexts[static_cast<std::size_t>(mode)];
     Title = texts.Title;
     Prompt = texts.Prompt;
     OkCaption = texts.OkCaption;
     Accelerator = texts.Accelerator;
     DescriptionLocked = texts.DescriptionLocked;
     FrameCaption = DescriptionLocked ? "Description" : "Specify Description";
-    vars_.MemoryMode = mode;
-    vars_.RegisterDescription.clear();
-    vars_.SelectedRegister = -1;
+    memory_.MemoryMode = mode;
+    memory_.RegisterDescription.clear();
+    memory_.SelectedRegister = -1;
     Selected.assign(registerCount, false);
     Fill();
 }
@@ -66,7 +66,7 @@ void CalcMemoryFrm::Fill() {
     ItemBox.clear();
     for (std::size_t i = 0; i < registerCount; ++i)
         ItemBox.push_back(
-            {Row_Name(registerPrefix, i), "=   " + Row_Value(vars_.Registers[i].Value)});
+            {Row_Name(registerPrefix, i), "=   " + Row_Value(memory_.Registers[i].Value)});
 }
 
 int CalcMemoryFrm::Current_Row() const {
@@ -77,7 +77,7 @@ int CalcMemoryFrm::Current_Row() const {
 }
 
 void CalcMemoryFrm::Select_Row(int row) {
-    if (mode_ == memoryDelete)
+    if (mode_ == RegisterUse::Delete)
         return Toggle_Row(row, true);
     if (row < 0 || row >= static_cast<int>(registerCount))
         return;
@@ -89,13 +89,13 @@ void CalcMemoryFrm::Select_Row(int row) {
 
 // The row as it would stand after "OK", and its description. Only the list changes.
 void CalcMemoryFrm::Show_Choice(int row) {
-    const Register& each = vars_.Registers[static_cast<std::size_t>(row)];
+    const Register& each = memory_.Registers[static_cast<std::size_t>(row)];
     double value = shownValue_;
-    if (mode_ == memoryRecall)
+    if (mode_ == RegisterUse::Recall)
         value = each.Value;
-    else if (mode_ == memoryAdd)
+    else if (mode_ == RegisterUse::Add)
         value = each.Value + shownValue_;
-    else if (mode_ == memoryMinus)
+    else if (mode_ == RegisterUse::Minus)
         value = each.Value - shownValue_;
     Fill();
     Attempt([&] { ItemBox[static_cast<std::size_t>(row)].Value = "=   " + Row_Value(value); });
@@ -105,14 +105,14 @@ void CalcMemoryFrm::Show_Choice(int row) {
 }
 
 void CalcMemoryFrm::Toggle_Row(int row, bool selected) {
-    if (mode_ != memoryDelete || row < 0 || row >= static_cast<int>(registerCount))
+    if (mode_ != RegisterUse::Delete || row < 0 || row >= static_cast<int>(registerCount))
         return;
     Selected[static_cast<std::size_t>(row)] = selected;
     OKEnabled = Current_Row() >= 0;
 }
 
 void CalcMemoryFrm::Select_All_Rows(bool selected) {
-    if (mode_ != memoryDelete)
+    if (mode_ != RegisterUse::Delete)
         return;
     Selected.assign(registerCount, selected);
     OKEnabled = selected;
@@ -128,7 +128,7 @@ void CalcMemoryFrm::CLRButton() {
 
 bool CalcMemoryFrm::May_Overwrite(int row) const {
     const auto index = static_cast<std::size_t>(row);
-    if (mode_ == memoryRecall || IsZero(vars_.Registers[index].Value))
+    if (mode_ == RegisterUse::Recall || IsZero(memory_.Registers[index].Value))
         return true;
     return ask_ && ask_({"Do you wish to OVERWRITE " + Row_Name(registerPrefix, index) + " ?",
                          std::string{warningTitle}, false});
@@ -137,17 +137,17 @@ bool CalcMemoryFrm::May_Overwrite(int row) const {
 void CalcMemoryFrm::OKButton() {
     if (!OKEnabled)
         return;
-    vars_.RegisterDescription.clear();
-    if (mode_ == memoryDelete)
+    memory_.RegisterDescription.clear();
+    if (mode_ == RegisterUse::Delete)
         return Delete_Selected();
     const int row = Current_Row();
     if (!May_Overwrite(row)) {
-        vars_.SelectedRegister = -1;
+        memory_.SelectedRegister = -1;
         return;
     }
-    if (mode_ != memoryRecall)
-        vars_.RegisterDescription = Trim(DescBox);
-    vars_.SelectedRegister = row;
+    if (mode_ != RegisterUse::Recall)
+        memory_.RegisterDescription = Trim(DescBox);
+    memory_.SelectedRegister = row;
     Closed = true;
 }
 
@@ -157,14 +157,14 @@ void CalcMemoryFrm::Delete_Selected() {
         return;
     for (std::size_t i = 0; i < registerCount; ++i)
         if (Selected[i])
-            vars_.Registers[i] = {};
+            memory_.Registers[i] = {};
     Select_All_Rows(false);
     Fill();
 }
 
 void CalcMemoryFrm::ExitButton() {
-    vars_.RegisterDescription.clear();
-    vars_.SelectedRegister = -1;
+    memory_.RegisterDescription.clear();
+    memory_.SelectedRegister = -1;
     Closed = true;
 }
 

@@ -7,15 +7,6 @@
 
 namespace Tensarix {
 
-enum MemoryMode : int {
-    memoryIn = 0,
-    memoryRecall = 1,
-    memorySwap = 2,
-    memoryAdd = 3,
-    memoryMinus = 4,
-    memoryDelete = 5
-};
-
 // A row of the dialogs' lists.
 struct CalcRow {
     std::string Name, Value;
@@ -27,7 +18,7 @@ std::string Row_Value(double value);
 
 // What the dialog shows, and what its controls do. Title, Prompt and captions come from the mode.
 struct CalcMemoryFrm {
-    CalcMemoryFrm(CalcVariables& vars, int mode, double shownValue,
+    CalcMemoryFrm(MemoryState& memory, RegisterUse mode, double shownValue,
                   std::function<bool(const CalcQuestion&)> ask);
 
     std::string Title, Prompt, OkCaption, FrameCaption;
@@ -56,8 +47,8 @@ struct CalcMemoryFrm {
     bool May_Overwrite(int row) const;
     int Current_Row() const;
 
-    CalcVariables& vars_;
-    int mode_;
+    MemoryState& memory_;
+    RegisterUse mode_;
     double shownValue_;
     std::function<bool(const CalcQuestion&)> ask_;
 };

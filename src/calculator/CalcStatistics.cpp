@@ -1,5 +1,6 @@
 #include "calculator/CalcStatistics.h"
 
+#include "calculator/CalcClock.h"
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcText.h"
@@ -41,11 +42,11 @@ double Deviation(const Sums& sums, double divisor) {
 template <double (*result)(const Sums&)>
 void Result_Key(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    vars.ExponentText.clear();
-    if (vars.DataList.empty())
+    vars.Entry.ExponentText.clear();
+    if (vars.Statistics.DataList.empty())
         Fail_Key(form, "Empty Data");
     else
-        Show_Result(form, Finite(result(Sums_Of(vars.DataList))));
+        Show_Result(form, Finite(result(Sums_Of(vars.Statistics.DataList))));
 }
 
 double Count_Of(const Sums& sums) {
@@ -107,24 +108,25 @@ std::vector<double> Data_From(const Bytes& bytes) {
 }
 
 void Open_Data(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
-    if (!form.Host.DataFolder || vars.DataUnsaved)
+    StatisticsState& statistics = form.Vars.Statistics;
+    if (!form.Host.DataFolder || statistics.DataUnsaved)
         return;
     if (const auto bytes = Read_Whole_File(*form.Host.DataFolder / dataFileName))
-        Attempt([&] { vars.DataList = Data_From(*bytes); });
+        Attempt([&] { statistics.DataList = Data_From(*bytes); });
 }
 
 void Close_Data(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
-    vars.DataUnsaved = !form.Host.DataFolder || !Replace_File(*form.Host.DataFolder / dataFileName,
-                                                              Data_Image(vars.DataList));
+    StatisticsState& statistics = form.Vars.Statistics;
+    statistics.DataUnsaved =
+        !form.Host.DataFolder ||
+        !Replace_File(*form.Host.DataFolder / dataFileName, Data_Image(statistics.DataList));
 }
 
 void Key_Data(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
-    vars.DataList.push_back(Shown_Value(vars));
+    vars.Statistics.DataList.push_back(Shown_Value(vars));
     Entry_To_Operand(vars);
-    vars.ExponentText.clear();
+    vars.Entry.ExponentText.clear();
 }
 
 void Key_Data_Count(CalcMainFrm& form) {
@@ -152,22 +154,22 @@ void Key_Sample_Deviation(CalcMainFrm& form) {
 void key_Del(CalcMainFrm& form) {
     if (!Direct_Key_Begins(form))
         return;
-    CalcDataFrm dialog(form.Vars, form.Host.Ask);
+    CalcDataFrm dialog(form.Vars.Statistics, form.Host.Ask);
     if (form.Host.Show_Data)
         form.Host.Show_Data(dialog);
 }
 
 // The dialog
 
-CalcDataFrm::CalcDataFrm(CalcVariables& vars, std::function<bool(const CalcQuestion&)> ask)
-    : vars_(vars), ask_(std::move(ask)) {
+CalcDataFrm::CalcDataFrm(StatisticsState& statistics, std::function<bool(const CalcQuestion&)> ask)
+    : statistics_(statistics), ask_(std::move(ask)) {
     Fill();
 }
 
 void CalcDataFrm::Fill() {
     ItemBox.clear();
-    for (std::size_t i = 0; i < vars_.DataList.size(); ++i)
-        ItemBox.push_back({Row_Name("Data-", i), "=    " + Row_Value(vars_.DataList[i])});
+    for (std::size_t i = 0; i < statistics_.DataList.size(); ++i)
+        ItemBox.push_back({Row_Name("Data-", i), "=    " + Row_Value(statistics_.DataList[i])});
     Select_All_Rows(false);
 }
 
@@ -196,10 +198,10 @@ void CalcDataFrm::DeleteButton() {
         !ask_({"Are you sure you want to delete Selected Data?", "Warning", false}))
         return;
     std::vector<double> kept;
-    for (std::size_t i = 0; i < vars_.DataList.size(); ++i)
+    for (std::size_t i = 0; i < statistics_.DataList.size(); ++i)
         if (!Selected[i])
-            kept.push_back(vars_.DataList[i]);
-    vars_.DataList = std::move(kept);
+            kept.push_back(statistics_.DataList[i]);
+    statistics_.DataList = std::move(kept);
     Fill();
 }
 

@@ -22,7 +22,7 @@ std::vector<double> Data_From(const Bytes& bytes);
 void Open_Data(CalcMainFrm& form);
 void Close_Data(CalcMainFrm& form);
 
-// The keys. A sum that is exactly 0 has no deviation here, which is intended.
+// The keys. Data that sum to exactly 0 have no deviation here: "*Error*" (docs/validation.md).
 void Key_Data(CalcMainFrm& form);                 // "data"
 void Key_Data_Count(CalcMainFrm& form);           // "dtn"
 void Key_Data_Sum(CalcMainFrm& form);             // "dts"
@@ -35,7 +35,7 @@ void key_Del(CalcMainFrm& form);
 
 // What the dialog shows, and what its controls do. Several rows may be selected.
 struct CalcDataFrm {
-    CalcDataFrm(CalcVariables& vars, std::function<bool(const CalcQuestion&)> ask);
+    CalcDataFrm(StatisticsState& statistics, std::function<bool(const CalcQuestion&)> ask);
 
     std::vector<CalcRow> ItemBox;
     std::vector<bool> Selected;
@@ -52,7 +52,7 @@ struct CalcDataFrm {
     void Fill();
     void Select_All_Rows(bool selected);
 
-    CalcVariables& vars_;
+    StatisticsState& statistics_;
     std::function<bool(const CalcQuestion&)> ask_;
 };
 

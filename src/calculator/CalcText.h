@@ -32,7 +32,7 @@ std::string Full_Scientific(double value);
 // The text with no more decimals than leave 15 digits.
 std::string FitFifteen(std::string_view text);
 // The text itself, or cut if it has more than 15 digits. A "-" in the exponent counts one digit
-// off, which is intended.
+// off, so that 1.234567890123456E-07 keeps its sixteenth.
 std::string TrimFifteen(std::string_view text);
 std::string CutFifteen(std::string_view text);
 
@@ -42,7 +42,7 @@ double Snap14(double value);
 double Snap12(double value);
 
 // A positive number within 13 decimals of a whole one becomes that. For a negative number that has
-// decimals nothing snaps and the result loses its sign; this is intended.
+// decimals nothing snaps and the result loses its sign, by which (-8) ^ (-1/3) is an invalid power.
 double SnapWhole(double value);
 bool IsWhole(double value);
 

@@ -8,9 +8,20 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Tensarix {
+
+enum class AngleMode { DegreeMode, RadianMode, GradianMode };
+enum class DisplayMode { Norm, Fix, Sci };
+
+// What the panel's indicator shows: "DEGREE", "NORM" and so on.
+std::string_view Indicator_Text(AngleMode mode);
+std::string_view Indicator_Text(DisplayMode mode);
+
+// What a register is chosen for.
+enum class RegisterUse { In, Recall, Swap, Add, Minus, Delete };
 
 struct Register {
     double Value = 0;
@@ -20,67 +31,84 @@ struct Register {
 constexpr std::size_t registerCount = 100;
 using RegisterList = std::array<Register, registerCount>;
 
-struct CalcVariables {
-    // The entry
+// The number being keyed.
+struct EntryState {
     std::string KeyToken;       // the token in work; also a formatted result on its way out
-    bool ErrorLatched = false;  // an error message is on the display: every key but AC is ignored
     bool HasInput = false;      // a digit or a point has been taken since AC
-    bool FractionEntry = false; // a fraction is being keyed
-    std::string FractionText;   // the fraction as keyed, with one or two "/"
-    std::string EntryText;      // the number being keyed
-    bool ExponentEntry = false; // digits now go to the exponent
+    std::string EntryText;      // as keyed; empty when nothing is being keyed
+    std::string MantissaText;   // the last keyed mantissa
     bool SignPending = false;   // the sign key was pressed on a non-empty entry
+    bool ExponentEntry = false; // digits now go to the exponent
     bool ExponentNegative = false;
-    std::string ExponentText; // a sign and two digits
-    std::string MantissaText; // the last keyed mantissa
+    std::string ExponentText;   // a sign and two digits
+    bool FractionEntry = false; // a fraction is being keyed
+    std::string FractionText;   // as keyed, with one or two "/"
+};
 
-    // Results
-    bool ResultPending = false; // KeyToken holds a formatted result, not a key
-    double LastResult = 0;      // the value handed to the display last
-    std::string ResultSci;      // LastResult with all its digits
-    std::string ResumeText;     // the unrounded result, taken as operand by the next operator
-    std::optional<double> DisplayValue; // the number on the display, held to 15 digits
-    std::string DisplayText;            // the text on the display
-    std::string ErrorText;              // the message that waits for the error display
-    std::optional<double> SecondResult; // what the swap key brings back
-
-    // Pending operations. There is no stack: Running is always fully evaluated, and an operator
-    // of higher priority undoes the last step and does it again.
+// Operators that wait for an operand. There is no stack: Running is always fully evaluated, and an
+// operator of higher priority undoes the last step and does it again.
+struct PendingState {
     std::string Op1, Op2, Op3;    // the newest binary operator, and the two before it
     std::vector<double> Operands; // since the last collapse, oldest first
     double LastOperand = 0, PrevOperand = 0, ThirdOperand = 0; // the newest three
     double PowerScratch = 0;
     std::optional<double> Running; // empty at rest, and after a failure until AC
-    PriorityChain Chain;           // for the panel's remark alone
-
+    std::string ResumeText;        // the unrounded result, taken as operand by the next operator
     // Constant calculation
     std::optional<double> ConstOperand;
     std::string ConstOperator;
     std::vector<std::string> OpHistory; // operators pressed in a row without a new operand
+    PriorityChain Chain;                // for the panel's remark alone
+};
 
-    // Functions; no angle flag set means degree
-    bool DegreeMode = false, RadianMode = false, GradianMode = false;
-    std::optional<int> SexaCount;                 // presses of key_Sexa since any other key
-    bool PolarActive = false, RectActive = false; // a conversion waits for its second operand
-    bool ConversionGuard = false;
-    std::optional<double> PolarRadius, RectX;
+// Angles, and the conversions that wait for their second operand.
+struct ConversionState {
+    AngleMode Angle = AngleMode::DegreeMode;
+    std::optional<int> SexaCount; // presses of key_Sexa since any other key
+    bool PolarActive = false, RectActive = false;
+    bool ConversionGuard = false; // a second press of either key does nothing until an operator
+    std::optional<double> PolarRadius, RectX; // the first operand, later the first result
+    std::optional<double> SecondResult;       // what the swap key brings back
+};
 
-    // Display; FIX is tested first, neither set means NORM
-    std::optional<int> FixDigits, SciDigits; // decimals, 0 to 14
+struct DisplayState {
+    std::optional<double> DisplayValue; // the number on the display, held to 15 digits
+    std::string DisplayText;            // the text on the display
+    bool ResultPending = false;         // KeyToken holds a formatted result, not a key
+    double LastResult = 0;              // the value handed to the display last
+    std::string ResultSci;              // LastResult with all its digits
+    bool ErrorLatched = false; // an error message is on the display: every key but AC is ignored
+    std::string ErrorText;     // the message that waits for the error display
+    std::optional<int> FixDigits, SciDigits; // decimals, 0 to 14; FIX goes first, neither is NORM
     std::optional<int> FixMemo, SciMemo;     // the decimals last chosen in each mode
     bool RandomPending = false;              // the next result is a random number
     bool ClockRunning = false;
+};
 
-    // Memories and data. A list that could not be written stays newer than its file.
+// MEM, the registers, and what the dialogs hand back. A list that could not be written stays newer
+// than its file.
+struct MemoryState {
     double MemValue = 0;
     RegisterList Registers;
     bool RegistersUnsaved = false;
-    int MemoryMode = 0;
-    int SelectedRegister = -1;
+    RegisterUse MemoryMode = RegisterUse::In;
+    int SelectedRegister = -1; // none
     std::string RegisterDescription;
+    std::string ConstantPick; // the text of the chosen constant
+};
+
+struct StatisticsState {
     std::vector<double> DataList;
     bool DataUnsaved = false;
-    std::string ConstantPick; // the text of the chosen constant
+};
+
+struct CalcVariables {
+    EntryState Entry;
+    PendingState Pending;
+    ConversionState Conversion;
+    DisplayState Display;
+    MemoryState Memory;
+    StatisticsState Statistics;
 };
 
 } // namespace Tensarix

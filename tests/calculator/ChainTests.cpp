@@ -160,11 +160,11 @@ TEST(CalcChains, FollowThePriorityOfTheOperators) {
         CalcTest calc;
         calc.Keys(keys);
         const double expected = By_Priority(chain);
-        ASSERT_NEAR(calc.Vars.Running.value_or(NAN), expected,
+        ASSERT_NEAR(calc.Vars.Pending.Running.value_or(NAN), expected,
                     1e-9 * std::max(1.0, std::abs(expected)))
             << keys;
         ASSERT_EQ(calc.Form.Panel.Remark, "") << keys;
-        const double off = std::abs(*calc.Vars.Running - expected);
+        const double off = std::abs(*calc.Vars.Pending.Running - expected);
         deviation.Take(off / std::max(1.0, std::abs(expected)), keys);
     }
     EXPECT_GT(withPowers, 1000);
@@ -183,9 +183,10 @@ TEST(CalcChains, ATotalAgainstThePriorityHasARemark) {
             chain.Add(random, Any_Operator(random));
         CalcTest calc;
         calc.Keys(chain.Keys());
-        if (calc.Vars.ErrorLatched || !std::isfinite(By_Priority(chain)))
+        if (calc.Vars.Display.ErrorLatched || !std::isfinite(By_Priority(chain)))
             continue;
-        const double expected = By_Priority(chain), off = std::abs(*calc.Vars.Running - expected);
+        const double expected = By_Priority(chain),
+                     off = std::abs(*calc.Vars.Pending.Running - expected);
         const double part = off / std::max(1.0, std::abs(expected));
         if (part > 1e-11 && part < 1e-6) // digits that the undo has lost
             continue;
@@ -241,9 +242,9 @@ TEST(CalcFunctions, AgreeWithTheLibraryToThirteenDigits) {
             CalcTest calc;
             ASSERT_TRUE(Key_In_Number(calc.Form, text));
             calc.Keys(function.Token);
-            ASSERT_FALSE(calc.Vars.ErrorLatched) << text << function.Token;
+            ASSERT_FALSE(calc.Vars.Display.ErrorLatched) << text << function.Token;
             const Real exact = function.Exact(Text_Number(text));
-            const double off = static_cast<double>(std::abs(calc.Vars.LastResult - exact) /
+            const double off = static_cast<double>(std::abs(calc.Vars.Display.LastResult - exact) /
                                                    std::max(Real{1}, std::abs(exact)));
             EXPECT_LT(off, 1e-13) << text << function.Token;
             deviation.Take(off, text);
@@ -271,11 +272,13 @@ TEST(CalcFuzz, ThePanelHoldsOneOfItsForms) {
             pressed += std::string{key.Name} + " ";
             Press(calc.Form, key);
             ASSERT_TRUE(Is_Allowed_Panel(calc.Form.Panel)) << pressed << ": " << calc.Shown();
-            ASSERT_LE(calc.Vars.EntryText.size(), 24u) << pressed;
-            ASSERT_TRUE(!calc.Vars.DisplayValue || std::isfinite(*calc.Vars.DisplayValue));
+            ASSERT_LE(calc.Vars.Entry.EntryText.size(), 24u) << pressed;
+            ASSERT_TRUE(!calc.Vars.Display.DisplayValue ||
+                        std::isfinite(*calc.Vars.Display.DisplayValue));
             const std::string copied = Display_As_Number(calc.Form);
-            ASSERT_TRUE(calc.Vars.ErrorLatched ? copied.empty() : Is_Numeric(copied)) << pressed;
-            if (calc.Vars.ErrorLatched && Pick(random, 2) == 0)
+            ASSERT_TRUE(calc.Vars.Display.ErrorLatched ? copied.empty() : Is_Numeric(copied))
+                << pressed;
+            if (calc.Vars.Display.ErrorLatched && Pick(random, 2) == 0)
                 KeyPress(calc.Form, "AC");
         }
     }
@@ -291,12 +294,12 @@ TEST(CalcFuzz, ThePanelShowsTheNumberInWork) {
     for (int i = 0; i < 60000; ++i) {
         static CalcTest calc;
         KeyPress(calc.Form, tokens[random() % std::size(tokens)]);
-        if (calc.Vars.ErrorLatched) {
+        if (calc.Vars.Display.ErrorLatched) {
             KeyPress(calc.Form, "AC");
             continue;
         }
         const double shown = Leading_Value(Display_As_Number(calc.Form));
-        const double value = *calc.Vars.DisplayValue;
+        const double value = *calc.Vars.Display.DisplayValue;
         if (std::abs(value) < 1e-99) // shown as zero
             continue;
         ++compared;

@@ -33,10 +33,10 @@ TEST(CalcKeyTable, EveryTokenIsKnown) {
         CalcTest calc;
         calc.Keys("15 exp 2");
         const std::string before = calc.Shown();
-        calc.Vars.ExponentEntry = key.Token != "PI" && key.Token != "exp";
+        calc.Vars.Entry.ExponentEntry = key.Token != "PI" && key.Token != "exp";
         calc.Keys(std::string{key.Name});
-        const bool changed = calc.Shown() != before || !calc.Vars.Op1.empty() ||
-                             calc.Vars.ExponentEntry || calc.Vars.EntryText.empty();
+        const bool changed = calc.Shown() != before || !calc.Vars.Pending.Op1.empty() ||
+                             calc.Vars.Entry.ExponentEntry || calc.Vars.Entry.EntryText.empty();
         EXPECT_TRUE(changed) << key.Name;
     }
 }
@@ -205,16 +205,16 @@ TEST(CalcClock, KeysThatEndItAndGoOn) {
     };
     calc.Keys("1 frc 4");
     run([&] { calc.Keys("key_Min"); });
-    EXPECT_EQ(calc.Vars.MemValue, 0.25);
+    EXPECT_EQ(calc.Vars.Memory.MemValue, 0.25);
     run([&] { calc.Keys("FxnButton"); });
     EXPECT_EQ(calc.Shown(), "0.25");
     run([&] { EXPECT_TRUE(Key_In_Number(calc.Form, "12")); });
     EXPECT_EQ(calc.Shown(), "12.");
     run([&] { Close(calc.Form); });
-    EXPECT_FALSE(calc.Vars.ClockRunning);
+    EXPECT_FALSE(calc.Vars.Display.ClockRunning);
     calc.Form.Host.Yield = [] { return false; }; // the program closes
     calc.Keys("key_Time");
-    EXPECT_FALSE(calc.Vars.ClockRunning);
+    EXPECT_FALSE(calc.Vars.Display.ClockRunning);
 }
 
 TEST(CalcRandom, TakesTheLastDigitsOfTheDate) {
@@ -272,7 +272,7 @@ TEST(CalcText, Snapping) {
     EXPECT_EQ(SnapWhole(2.99999999999999), 3);
     EXPECT_EQ(SnapWhole(3.00000000000001), 3);
     EXPECT_EQ(SnapWhole(-3), -3);
-    EXPECT_DOUBLE_EQ(SnapWhole(-2.5), 2.5); // loses its sign, as intended
+    EXPECT_DOUBLE_EQ(SnapWhole(-2.5), 2.5); // loses its sign
     EXPECT_TRUE(IsWhole(3.00000000000001));
     EXPECT_FALSE(IsWhole(3.000000000001));
 }

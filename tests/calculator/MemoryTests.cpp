@@ -46,7 +46,7 @@ struct DialogTest : CalcTest {
                 dialog.ExitButton();
         };
     }
-    Register& At(std::size_t row) { return Vars.Registers[row]; }
+    Register& At(std::size_t row) { return Vars.Memory.Registers[row]; }
 };
 
 class CalcFiles : public testing::Test {
@@ -158,8 +158,8 @@ TEST(CalcRegisters, TheDialogShowsItsModeAndDeletesInside) {
         return answer;
     };
     for (std::size_t i = 0; i < 5; ++i)
-        vars.Registers[i] = {static_cast<double>(i) + 1, "used"};
-    CalcMemoryFrm dialog(vars, memoryDelete, 0, ask);
+        vars.Memory.Registers[i] = {static_cast<double>(i) + 1, "used"};
+    CalcMemoryFrm dialog(vars.Memory, RegisterUse::Delete, 0, ask);
     EXPECT_EQ(dialog.Title + "|" + dialog.Prompt + "|" + dialog.OkCaption + "|" +
                   dialog.FrameCaption,
               "Memory DELETE|Choose memory address to DELETE value.|Delete|Description");
@@ -171,29 +171,29 @@ TEST(CalcRegisters, TheDialogShowsItsModeAndDeletesInside) {
     EXPECT_TRUE(dialog.OKEnabled);
     dialog.OKButton();
     EXPECT_EQ(asked, 1);
-    EXPECT_EQ(vars.Registers[3].Value, 4);
+    EXPECT_EQ(vars.Memory.Registers[3].Value, 4);
     answer = true;
     dialog.OKButton();
     EXPECT_FALSE(dialog.OKEnabled || dialog.Closed);
-    EXPECT_EQ(vars.Registers[3].Value, 0);
-    EXPECT_EQ(vars.Registers[3].Description, "");
-    EXPECT_EQ(vars.Registers[1].Value, 2);
+    EXPECT_EQ(vars.Memory.Registers[3].Value, 0);
+    EXPECT_EQ(vars.Memory.Registers[3].Description, "");
+    EXPECT_EQ(vars.Memory.Registers[1].Value, 2);
     EXPECT_EQ(dialog.ItemBox[3].Value, "=   0");
     dialog.SelectAllButton();
     dialog.CLRButton();
     EXPECT_FALSE(dialog.OKEnabled);
     dialog.SelectAllButton();
     dialog.OKButton();
-    for (const Register& each : vars.Registers)
+    for (const Register& each : vars.Memory.Registers)
         EXPECT_EQ(each.Value, 0);
 
-    CalcMemoryFrm other(vars, memoryMinus, 2, ask);
+    CalcMemoryFrm other(vars.Memory, RegisterUse::Minus, 2, ask);
     EXPECT_EQ(other.FrameCaption, "Specify Description");
     other.Select_Row(0);
     other.Select_Row(1); // the preview goes with the selection
     EXPECT_EQ(other.ItemBox[0].Value, "=   0");
     EXPECT_EQ(other.ItemBox[1].Value, "=   -2");
-    EXPECT_EQ(vars.Registers[1].Value, 0);
+    EXPECT_EQ(vars.Memory.Registers[1].Value, 0);
     other.Select_Row(100);
     other.SelectAllButton();
     EXPECT_EQ(std::count(other.Selected.begin(), other.Selected.end(), true), 1);
@@ -209,17 +209,17 @@ TEST(CalcRegisters, RowsShowFifteenDigits) {
 
 TEST(CalcData, TheDialogPrunesTheList) {
     CalcVariables vars;
-    vars.DataList = {1.5, 2, 3};
+    vars.Statistics.DataList = {1.5, 2, 3};
     bool answer = false;
-    CalcDataFrm dialog(vars, [&](const CalcQuestion&) { return answer; });
+    CalcDataFrm dialog(vars.Statistics, [&](const CalcQuestion&) { return answer; });
     EXPECT_EQ(dialog.ItemBox[0].Name + dialog.ItemBox[0].Value, "Data-01=    1.5");
     dialog.Toggle_Row(1, true);
     dialog.Toggle_Row(7, true);
     dialog.DeleteButton();
-    EXPECT_EQ(vars.DataList.size(), 3u);
+    EXPECT_EQ(vars.Statistics.DataList.size(), 3u);
     answer = true;
     dialog.DeleteButton();
-    EXPECT_EQ(vars.DataList, (std::vector<double>{1.5, 3}));
+    EXPECT_EQ(vars.Statistics.DataList, (std::vector<double>{1.5, 3}));
     EXPECT_EQ(dialog.ItemBox[1].Name + dialog.ItemBox[1].Value, "Data-02=    3");
     EXPECT_FALSE(dialog.DeleteEnabled);
     dialog.AllButton();
@@ -227,14 +227,14 @@ TEST(CalcData, TheDialogPrunesTheList) {
     dialog.DeleteButton();
     dialog.AllButton();
     dialog.DeleteButton();
-    EXPECT_TRUE(vars.DataList.empty() && dialog.ItemBox.empty());
+    EXPECT_TRUE(vars.Statistics.DataList.empty() && dialog.ItemBox.empty());
     dialog.AllButton();
     EXPECT_FALSE(dialog.DeleteEnabled);
 }
 
 TEST(CalcConstantsTable, EveryRowReadsAsItsNumber) {
     CalcVariables vars;
-    CalcConstantFrm dialog(vars);
+    CalcConstantFrm dialog(vars.Memory);
     dialog.OKButton();
     EXPECT_FALSE(dialog.Closed || dialog.OKEnabled);
     EXPECT_EQ(dialog.ConstLab, "Constant No. ***");
@@ -317,8 +317,8 @@ TEST(CalcConstantsTable, AChosenConstantIsAResult) {
 TEST_F(CalcFiles, WhatIsClosedIsThereWhenOpened) {
     CalcTest calc;
     calc.Form.Host = Host();
-    calc.Vars.Registers[0] = {-2.5, "\xC3\x98 of bolt"};
-    calc.Vars.Registers[99].Value = 1e-99;
+    calc.Vars.Memory.Registers[0] = {-2.5, "\xC3\x98 of bolt"};
+    calc.Vars.Memory.Registers[99].Value = 1e-99;
     calc.Keys("0.1 key_Min AC 3 data 4 data");
     Close(calc.Form);
     EXPECT_EQ(settings.at("Setting/MemoryIn"), "0.1");
@@ -326,12 +326,12 @@ TEST_F(CalcFiles, WhatIsClosedIsThereWhenOpened) {
     CalcVariables vars;
     CalcMainFrm form{vars, Host(), {}};
     Open(form);
-    EXPECT_EQ(vars.MemValue, 0.1);
+    EXPECT_EQ(vars.Memory.MemValue, 0.1);
     EXPECT_EQ(form.Panel.Mem_Indicator, "MEM");
-    EXPECT_EQ(vars.Registers[0].Value, -2.5);
-    EXPECT_EQ(vars.Registers[0].Description, "\xC3\x98 of bolt");
-    EXPECT_EQ(vars.Registers[99].Value, 1e-99);
-    EXPECT_EQ(vars.DataList, (std::vector<double>{3, 4}));
+    EXPECT_EQ(vars.Memory.Registers[0].Value, -2.5);
+    EXPECT_EQ(vars.Memory.Registers[0].Description, "\xC3\x98 of bolt");
+    EXPECT_EQ(vars.Memory.Registers[99].Value, 1e-99);
+    EXPECT_EQ(vars.Statistics.DataList, (std::vector<double>{3, 4}));
 }
 
 TEST_F(CalcFiles, TheBytesOfTheFiles) {
@@ -393,21 +393,21 @@ TEST_F(CalcFiles, MissingAndUnwritableFiles) {
     CalcVariables vars;
     CalcMainFrm form{vars, Host(), {}};
     Open(form);
-    EXPECT_EQ(vars.MemValue, 0);
+    EXPECT_EQ(vars.Memory.MemValue, 0);
     EXPECT_TRUE(fs::exists(folder / "CalcMem.mem"));
-    EXPECT_TRUE(vars.DataList.empty());
+    EXPECT_TRUE(vars.Statistics.DataList.empty());
 
     // A folder that takes no file: what was stored stays for the run.
     form.Host.DataFolder = folder / "none";
-    vars.Registers[0].Value = 5;
-    vars.DataList = {6};
+    vars.Memory.Registers[0].Value = 5;
+    vars.Statistics.DataList = {6};
     Close(form);
     form.Host.DataFolder = folder;
     Open(form);
-    EXPECT_EQ(vars.Registers[0].Value, 5);
-    EXPECT_EQ(vars.DataList, (std::vector<double>{6}));
+    EXPECT_EQ(vars.Memory.Registers[0].Value, 5);
+    EXPECT_EQ(vars.Statistics.DataList, (std::vector<double>{6}));
     Close(form);
     fs::remove(folder / "CalcMem.mem");
     Open(form);
-    EXPECT_EQ(vars.Registers[0].Value, 0);
+    EXPECT_EQ(vars.Memory.Registers[0].Value, 0);
 }

@@ -23,7 +23,8 @@ void Expect_Panels(std::initializer_list<PanelCase> cases) {
         EXPECT_EQ(calc.Shown(), c.Shown) << c.Keys;
         EXPECT_EQ(calc.Form.Panel.CCalc_Indicator, c.Constant) << c.Keys;
         EXPECT_EQ(calc.Form.Panel.Remark, c.Remark) << c.Keys;
-        EXPECT_EQ(calc.Vars.ErrorLatched, calc.Form.Panel.DisplayBox.front() == '*') << c.Keys;
+        EXPECT_EQ(calc.Vars.Display.ErrorLatched, calc.Form.Panel.DisplayBox.front() == '*')
+            << c.Keys;
     }
 }
 
@@ -74,7 +75,7 @@ TEST(CalcPanel, ExponentEntry) {
         {"1 exp 5 exp 3", "1. 53"},
         {"1 exp 5 PI", "1. 05"},
         {"2.5 exp 3 + 1 =", "2501."},
-        {"12 pm exp", "12. 00"}, // loses its sign, as intended
+        {"12 pm exp", "12. 00"}, // loses its sign
         {"12 pm 3 exp", "-123. 00"},
         {"12 pm 3 exp 2 =", "-12300."},
         {"12 sqr pm exp", "-144."},
@@ -154,7 +155,7 @@ TEST(CalcPanel, Operators) {
         {"5 x-y", "0."},
         {"0.1 + 0.2 =", "0.3"},
         {"1 / 3 =", "0.33333333333333"},
-        {"29 / 3 =", "9.6666666666667"}, // counts 10 as its whole part, as intended
+        {"29 / 3 =", "9.6666666666667"}, // counts 10 as its whole part
         {"28 / 3 =", "9.33333333333333"},
         {"1 / 30 =", "3.33333333333333-02"},
     });
@@ -337,7 +338,7 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"12.51 asex", "12°30'36\"."},
         {"390 asex", "30°0'0\"."},
         {"30.25 pm asex", "-30°15'0\"."},
-        {"0.5 pm asex", "0°30'0\".", "", "The angle is negative"}, // loses its sign, as intended
+        {"0.5 pm asex", "0°30'0\".", "", "The angle is negative"}, // loses its sign
         {"123.456789 pm asex", "-123.456789"},
         {"30.25 asex + 1 =", "31.25"},
         {"2 + 30.25 asex =", "32.25"},
@@ -347,7 +348,7 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"3 key_RtoP 4 =", "5."},
         {"3 key_RtoP 4 = x-y", "53.130102354156"},
         {"3 key_PtoR 900 sqrt = + 1 =", "31.", "",
-         "By operator priority: 3.59807621135332"},      // the angle still waits; intended
+         "By operator priority: 3.59807621135332"},      // the angle still waits
         {"3 pm key_RtoP 4 pm = x-y", "53.130102354156"}, // no quadrant
         {"3 pm key_RtoP 4 =", "5.", "", "The angle (x-y) is half a turn off: x is negative"},
         {"3 key_RtoP 4 = AC 6 key_RtoP 8 =", "10."},
@@ -461,7 +462,7 @@ TEST(CalcPanel, MemoryAndStatistics) {
         {"5 key_Min AC mo", "5."},
         {"5 key_Min + mo =", "10."},
         {"1 / 4 = key_Min 7 * mo =", "1.75"},
-        {"2 + 12 key_Min = + 1 =", "13.", "", "By operator priority: 15"}, // the 12 waits; intended
+        {"2 + 12 key_Min = + 1 =", "13.", "", "By operator priority: 15"}, // the 12 waits
         {"2 + 12 key_Min = mo + 1 =", "13."},
         {"12 key_Min 5", "125."},
         {"1 frc 4 key_Min AC mo", "0.25"},
@@ -491,12 +492,12 @@ TEST(CalcPanel, MemoryAndStatistics) {
 TEST(CalcPanel, IndicatorsAndPrecisionFollowTheButtons) {
     CalcTest calc;
     const CalcPanel& panel = calc.Form.Panel;
-    EXPECT_EQ(panel.DispMode_Indicator, "NORM");
-    EXPECT_EQ(panel.Mode_Indicator, "DEGREE");
+    EXPECT_EQ(Indicator_Text(panel.DispMode_Indicator), "NORM");
+    EXPECT_EQ(Indicator_Text(panel.Mode_Indicator), "DEGREE");
     EXPECT_FALSE(panel.PrecEnabled);
 
     calc.Keys("12.7 FxnButton");
-    EXPECT_EQ(panel.DispMode_Indicator, "FIX");
+    EXPECT_EQ(Indicator_Text(panel.DispMode_Indicator), "FIX");
     EXPECT_EQ(panel.PrecIndex, 2);
     PrecBox_Change(calc.Form, 0);
     EXPECT_EQ(calc.Shown(), "13.");
@@ -516,11 +517,11 @@ TEST(CalcPanel, IndicatorsAndPrecisionFollowTheButtons) {
     calc.Keys("StdButton RadButton");
     EXPECT_FALSE(panel.PrecEnabled);
     EXPECT_EQ(panel.PrecIndex, -1);
-    EXPECT_EQ(panel.DispMode_Indicator, "NORM");
-    EXPECT_EQ(panel.Mode_Indicator, "RADIAN");
+    EXPECT_EQ(Indicator_Text(panel.DispMode_Indicator), "NORM");
+    EXPECT_EQ(Indicator_Text(panel.Mode_Indicator), "RADIAN");
     calc.Keys("FxnButton GradButton");
     EXPECT_EQ(panel.PrecIndex, 0);
-    EXPECT_EQ(panel.Mode_Indicator, "GRADIAN");
+    EXPECT_EQ(Indicator_Text(panel.Mode_Indicator), "GRADIAN");
     calc.Keys("5 key_Min");
     EXPECT_EQ(panel.Mem_Indicator, "MEM");
     calc.Keys("AC key_Min");

@@ -280,11 +280,11 @@ void CalcWindow::Colour_Panel() {
 void CalcWindow::Show_Panel() {
     const CalcPanel& panel = calc_.Panel;
     showing_ = true;
-    const std::pair<QLabel*, const std::string&> texts[] = {
+    const std::pair<QLabel*, std::string_view> texts[] = {
         {ui_->DisplayBox, panel.DisplayBox},
         {ui_->ExpoBox, panel.ExpoBox},
-        {ui_->DispMode_Indicator, panel.DispMode_Indicator},
-        {ui_->Mode_Indicator, panel.Mode_Indicator},
+        {ui_->DispMode_Indicator, Indicator_Text(panel.DispMode_Indicator)},
+        {ui_->Mode_Indicator, Indicator_Text(panel.Mode_Indicator)},
         {ui_->Mem_Indicator, panel.Mem_Indicator},
         {ui_->CCalc_Indicator, panel.CCalc_Indicator},
         {ui_->DateBox, panel.DateBox},
@@ -293,12 +293,12 @@ void CalcWindow::Show_Panel() {
         label->setText(To_Qt(text));
     ui_->PanelRemark->setToolTip(ui_->PanelRemark->text());
     const std::pair<QRadioButton*, bool> options[] = {
-        {ui_->StdButton, panel.DispMode_Indicator == "NORM"},
-        {ui_->FxnButton, panel.DispMode_Indicator == "FIX"},
-        {ui_->ScnButton, panel.DispMode_Indicator == "SCI"},
-        {ui_->DegButton, panel.Mode_Indicator == "DEGREE"},
-        {ui_->RadButton, panel.Mode_Indicator == "RADIAN"},
-        {ui_->GradButton, panel.Mode_Indicator == "GRADIAN"}};
+        {ui_->StdButton, panel.DispMode_Indicator == DisplayMode::Norm},
+        {ui_->FxnButton, panel.DispMode_Indicator == DisplayMode::Fix},
+        {ui_->ScnButton, panel.DispMode_Indicator == DisplayMode::Sci},
+        {ui_->DegButton, panel.Mode_Indicator == AngleMode::DegreeMode},
+        {ui_->RadButton, panel.Mode_Indicator == AngleMode::RadianMode},
+        {ui_->GradButton, panel.Mode_Indicator == AngleMode::GradianMode}};
     for (const auto& [option, chosen] : options)
         if (chosen)
             Choose(option);

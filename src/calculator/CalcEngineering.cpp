@@ -1,4 +1,6 @@
-// The engineering shift keys and the clock.
+#include "calculator/CalcEngineering.h"
+
+#include "calculator/CalcClock.h"
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcFraction.h"
 #include "calculator/CalcText.h"
@@ -52,7 +54,7 @@ void Show_Shifted(CalcMainFrm& form, bool negative, const std::string& mantissa,
 // The display text within fifteen digits; the number itself where a text stands beside it, such as
 // an angle.
 std::string Text_To_Shift(const CalcVariables& vars) {
-    const std::string text = Replace_All(vars.DisplayText, " ", "");
+    const std::string text = Replace_All(vars.Display.DisplayText, " ", "");
     return TrimFifteen(Is_Numeric(text) ? text : Number_Text(Shown_Value(vars)));
 }
 
@@ -60,7 +62,7 @@ void Shift(CalcMainFrm& form, bool right) {
     if (!Direct_Key_Begins(form))
         return;
     Finish_Fraction_As_Operand(form);
-    if (form.Vars.ErrorLatched)
+    if (form.Vars.Display.ErrorLatched)
         return;
     const std::string text = Text_To_Shift(form.Vars);
     if (IsZero(Leading_Value(text)))
@@ -77,39 +79,6 @@ void Shift(CalcMainFrm& form, bool right) {
                  exponent);
 }
 
-constexpr std::string_view weekdays[] = {"SUNDAY",   "MONDAY", "TUESDAY", "WEDNESDAY",
-                                         "THURSDAY", "FRIDAY", "SATURDAY"};
-constexpr std::string_view months[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
-                                       "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
-
-std::string Two_Digits(double number) {
-    return Format_Number(number, "00");
-}
-
-std::string Date_Text(std::chrono::local_days day) {
-    const std::chrono::year_month_day date{day};
-    const auto weekday = std::chrono::weekday{day}.c_encoding();
-    const auto month = static_cast<unsigned>(date.month()) - 1;
-    return std::string{weekdays[weekday]} + ", " + std::string{months[month]} + " " +
-           Two_Digits(static_cast<unsigned>(date.day())) + ", " +
-           Format_Number(static_cast<int>(date.year()), "0000");
-}
-
-std::string Time_Text(std::chrono::microseconds sinceMidnight) {
-    const std::chrono::hh_mm_ss time{sinceMidnight};
-    const auto hours = static_cast<int>(time.hours().count());
-    return Two_Digits(hours % 12 == 0 ? 12 : hours % 12) + ":" +
-           Two_Digits(static_cast<double>(time.minutes().count())) + ":" +
-           Two_Digits(static_cast<double>(time.seconds().count())) + (hours < 12 ? " AM" : " PM");
-}
-
-void Show_Clock(CalcMainFrm& form) {
-    const CalcTime now = form.Host.Now();
-    const auto day = std::chrono::floor<std::chrono::days>(now);
-    form.Panel.DateBox = Date_Text(day);
-    form.Panel.DisplayBox = Time_Text(now - day);
-}
-
 } // namespace
 
 void key_EngL(CalcMainFrm& form) {
@@ -118,23 +87,6 @@ void key_EngL(CalcMainFrm& form) {
 
 void key_EngR(CalcMainFrm& form) {
     Shift(form, true);
-}
-
-void key_Time(CalcMainFrm& form) {
-    CalcVariables& vars = form.Vars;
-    if (vars.ErrorLatched || !form.Host.Now || !form.Host.Yield)
-        return;
-    const bool wasRunning = vars.ClockRunning;
-    End_Clock(form);
-    form.Panel.ExpoBox.clear();
-    if (wasRunning)
-        return Redisplay(form);
-    vars.ClockRunning = true;
-    while (vars.ClockRunning) {
-        Show_Clock(form);
-        if (!form.Host.Yield())
-            End_Clock(form);
-    }
 }
 
 } // namespace Tensarix
