@@ -35,6 +35,7 @@ void CalcConstantDialog::Show_State() {
     ui_->ConstLab->setText(QString::fromStdString(frm_.ConstLab));
     ui_->TextBox1->setText(QString::fromStdString(frm_.TextBox1));
     ui_->TextBox1->setCursorPosition(0);
+    ui_->OriginLab->setText(QString::fromStdString(frm_.Origin));
     ui_->OKButton->setEnabled(frm_.OKEnabled);
 }
 
