@@ -1,24 +1,22 @@
-// Where each key of the calculator stands on its page or pad, its group and its typeset caption.
+// How the calculator's keys look and how wide they are. They stand on their page or pad in the
+// order of the key table, row by row.
 #pragma once
 
 #include "calculator/CalcKeys.h"
 #include "window/calculator/CalcKeyButton.h"
 
-#include <span>
-
 namespace Tensarix {
 
-inline constexpr int CalcKeyColumns = 6;
+// Columns of a page or the pad; the mode page has its keys below each other.
+int Columns_Of(CalcPage page);
 
-struct CalcKeyPlace {
+struct CalcKeyLook {
     std::string_view Name; // of the key in the key table
-    int Row, Column;
-    CalcKeyRole Role;
-    std::string_view Rich; // the caption as rich text; empty: as the key table has it
-    int Span = 1;          // columns
+    CalcKeyRole Role = CalcKeyRole::Function;
+    std::string_view Rich = ""; // the caption as rich text; empty: as the key table has it
+    int Span = 1;               // columns
 };
 
-// Page by page and row by row: the order of the tab stops.
-std::span<const CalcKeyPlace> Calc_Key_Places();
+CalcKeyLook Look_Of(const CalcKey& key);
 
 } // namespace Tensarix

@@ -69,8 +69,8 @@ const CalcKey* Key_For(const QKeyEvent& event) {
     return Key_For_Character(static_cast<char32_t>(Key_Character(event)));
 }
 
-QString Rich_Caption(const CalcKeyPlace& place, const CalcKey& key) {
-    return place.Rich.empty() ? To_Qt(key.Caption).toHtmlEscaped() : To_Qt(place.Rich);
+QString Rich_Caption(const CalcKeyLook& look, const CalcKey& key) {
+    return look.Rich.empty() ? To_Qt(key.Caption).toHtmlEscaped() : To_Qt(look.Rich);
 }
 
 // "Help" and "Exit" can be reached by Alt and their letter; the rest by what they type.
@@ -118,7 +118,9 @@ CalcWindow::CalcWindow(const Desk& desk, CalcVariables& vars, QWidget* parent)
     for (int page = 0; page < ui_->MultiPage1->count(); ++page)
         ui_->MultiPage1->setTabText(page, Tab_Text(static_cast<CalcPage>(page + 1)));
     Make_Modes();
-    Make_Keys();
+    for (const CalcPage page :
+         {CalcPage::First, CalcPage::Second, CalcPage::Third, CalcPage::Mode, CalcPage::Pad})
+        Make_Keys(page);
     Colour_Panel();
     Open(calc_);
     Show_Panel();
@@ -223,25 +225,35 @@ QGridLayout& CalcWindow::Grid_Of(CalcPage page) {
         grid->setSpacing(4);
         const bool onTab = page != CalcPage::Pad && page != CalcPage::Mode;
         grid->setContentsMargins(0, onTab ? pageTop : 0, 0, 0);
-        for (int column = 0; page != CalcPage::Mode && column < CalcKeyColumns; ++column)
+        for (int column = 0; column < Columns_Of(page); ++column)
             grid->setColumnStretch(column, 1);
     }
     return *static_cast<QGridLayout*>(place->layout());
 }
 
-void CalcWindow::Make_Keys() {
-    for (const CalcKeyPlace& place : Calc_Key_Places()) {
-        const CalcKey& key = *Find_Key(place.Name);
-        QGridLayout& grid = Grid_Of(key.Page);
-        auto* button = new CalcKeyButton(place.Role, Rich_Caption(place, key), grid.parentWidget());
-        button->setObjectName(To_Qt(key.Name));
-        button->setText(Button_Text(key));
-        button->setToolTip(To_Qt(key.ToolTip));
-        button->setAccessibleName(To_Qt(key.ToolTip.empty() ? key.Caption : key.ToolTip));
-        connect(button, &QAbstractButton::clicked, this, [this, &key] { Run(key); });
-        grid.addWidget(button, place.Row, place.Column, 1, place.Span);
-        grid.setRowStretch(place.Row, place.Role == CalcKeyRole::Plain ? 2 : 3);
-        buttons_[key.Name] = button;
+CalcKeyButton* CalcWindow::Make_Button(const CalcKey& key, const CalcKeyLook& look,
+                                       QWidget* parent) {
+    auto* button = new CalcKeyButton(look.Role, Rich_Caption(look, key), parent);
+    button->setObjectName(To_Qt(key.Name));
+    button->setText(Button_Text(key));
+    button->setToolTip(To_Qt(key.ToolTip));
+    button->setAccessibleName(To_Qt(key.ToolTip.empty() ? key.Caption : key.ToolTip));
+    connect(button, &QAbstractButton::clicked, this, [this, &key] { Run(key); });
+    return buttons_[key.Name] = button;
+}
+
+// Row by row; the mode page has its options from the form.
+void CalcWindow::Make_Keys(CalcPage page) {
+    QGridLayout& grid = Grid_Of(page);
+    int place = 0;
+    for (const CalcKey& key : Calc_Keys()) {
+        if (key.Page != page || findChild<QRadioButton*>(To_Qt(key.Name)))
+            continue;
+        const CalcKeyLook look = Look_Of(key);
+        const int row = place / Columns_Of(page), column = place % Columns_Of(page);
+        grid.addWidget(Make_Button(key, look, grid.parentWidget()), row, column, 1, look.Span);
+        grid.setRowStretch(row, look.Role == CalcKeyRole::Plain ? 2 : 3);
+        place += look.Span;
     }
 }
 

@@ -3,7 +3,7 @@
 
 #include "calculator/CalcKeys.h"
 #include "desk/Desk.h"
-#include "window/calculator/CalcKeyButton.h"
+#include "window/calculator/CalcKeyLayout.h"
 
 #include <QDialog>
 
@@ -41,7 +41,8 @@ class CalcWindow final : public QDialog {
   private:
     CalcHost Make_Host();
     void Add_Dialogs(CalcHost& host);
-    void Make_Keys();
+    void Make_Keys(CalcPage page);
+    CalcKeyButton* Make_Button(const CalcKey& key, const CalcKeyLook& look, QWidget* parent);
     void Make_Modes();
     QGridLayout& Grid_Of(CalcPage page);
     void Colour_Panel();
