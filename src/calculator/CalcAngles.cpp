@@ -28,10 +28,10 @@ bool Is_One_Of(const CalcVariables& vars, double angle, double degrees, double o
            Equal_To_Decimals(angle, FromDegrees(vars, orDegrees), places);
 }
 
-// An odd multiple of 90 degrees, to the places of the cosine's own zeros.
+// An odd multiple of 90 degrees.
 bool Is_Upright(const CalcVariables& vars, double angle) {
     const double rest = std::fmod(std::abs(ToDegrees(vars, angle)), 180);
-    return Equal_To_Decimals(rest, 90, zeroPlaces);
+    return Equal_To_Decimals(rest, 90, tangentPlaces);
 }
 
 } // namespace

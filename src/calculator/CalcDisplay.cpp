@@ -6,6 +6,8 @@
 #include "common/NumberText.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace Tensarix {
 
@@ -30,6 +32,7 @@ void Write_Panel(CalcPanel& panel, std::string_view text) {
         return;
     const bool plus = text.find('+') != std::string_view::npos;
     panel.ExpoBox.assign(1, plus ? ' ' : '-').append(text.substr(text.size() - 2));
+    panel.ExponentCut = std::abs(Exponent_Of(text)) > maxExponent;
 }
 
 std::string Formatted(const CalcVariables& vars, double value) {
@@ -38,15 +41,6 @@ std::string Formatted(const CalcVariables& vars, double value) {
     if (vars.Display.SciDigits)
         return Format_Number(value, Scientific_Pattern(*vars.Display.SciDigits));
     return Number_Text(value);
-}
-
-// Above the range also if only the rounding of SCI makes a third exponent digit.
-bool Is_Above_Range(double value, std::string_view formatted) {
-    return std::max(Exponent_Of(Number_Text(value)), Exponent_Of(formatted)) > maxExponent;
-}
-
-bool Is_Below_Range(double value) {
-    return Exponent_Of(Number_Text(value)) < -maxExponent;
 }
 
 } // namespace
@@ -63,9 +57,10 @@ void ShowNumber(CalcMainFrm& form, double value) {
         vars.Display.RandomPending ? Format_Number(value, randomPattern) : Formatted(vars, value);
     vars.Display.ResultPending = true;
     vars.Display.RandomPending = false;
-    if (Is_Above_Range(value, vars.Entry.KeyToken))
+    const int exponent = Exponent_Of(Number_Text(value));
+    if (exponent > maxExponent)
         Fail_Key(form, infinityText);
-    else if (Is_Below_Range(value))
+    else if (exponent < -maxExponent)
         vars.Entry.KeyToken = '0'; // the text alone; the operand for the next operator stays
 }
 
@@ -85,18 +80,20 @@ void ShowValue(CalcMainFrm& form, std::optional<double> number, std::string_view
     std::string shown{text};
     if (text.empty()) {
         const double value = Through_Text(number.value_or(0));
-        shown = Formatted(vars, Is_Below_Range(value) ? 0 : value);
-        if (Is_Above_Range(value, shown)) {
-            vars.Display.ErrorText = infinityText;
-            return ShowError(form);
-        }
+        shown = Formatted(vars, value);
         if (!vars.Display.FixDigits && !vars.Display.SciDigits)
             shown = FitFifteen(shown);
     }
     vars.Display.DisplayValue = number ? Through_Text(*number) : Leading_Value(text);
     vars.Display.DisplayText =
         text.empty() ? Number_Text(*vars.Display.DisplayValue) : std::string{text};
+    const bool wasCut = std::exchange(form.Panel.ExponentCut, false);
     Write_Panel(form.Panel, TrimFifteen(shown));
+    if (form.Panel.ExponentCut)
+        form.Panel.Remark = "The number is " + Number_Text(*vars.Display.DisplayValue) +
+                            ": only two digits of its exponent are shown";
+    else if (wasCut)
+        form.Panel.Remark.clear();
 }
 
 void ShowText(CalcMainFrm& form, std::string_view text, std::optional<double> number) {

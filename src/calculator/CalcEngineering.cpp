@@ -51,11 +51,14 @@ void Show_Shifted(CalcMainFrm& form, bool negative, const std::string& mantissa,
              Shown_Value(form.Vars));
 }
 
-// The display text within fifteen digits; the number itself where a text stands beside it, such as
-// an angle.
+// The display text with all its digits; the number itself where a text stands beside it, such as an
+// angle, or where its decimals under FIX need an exponent anyway.
 std::string Text_To_Shift(const CalcVariables& vars) {
-    const std::string text = Replace_All(vars.Display.DisplayText, " ", "");
-    return TrimFifteen(Is_Numeric(text) ? text : Number_Text(Shown_Value(vars)));
+    std::string text = Replace_All(vars.Display.DisplayText, " ", "");
+    const bool isNumber = Is_Numeric(text);
+    const std::string plain = Number_Text(isNumber ? Leading_Value(text) : Shown_Value(vars));
+    const bool needsExponent = plain.find('E') != std::string::npos;
+    return isNumber && (text.find('E') != std::string::npos || !needsExponent) ? text : plain;
 }
 
 void Shift(CalcMainFrm& form, bool right) {

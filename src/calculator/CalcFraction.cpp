@@ -146,13 +146,13 @@ FractionParts Improper(const FractionParts& mixed) {
     return parts;
 }
 
+// A number whose improper form is beyond the divisor's range still shows as a mixed one in turn.
 void Show_Cycled(CalcMainFrm& form, const FractionParts& parts) {
     const std::string mixed = Fraction_Text_Of(parts);
-    const std::string improper = Fraction_Text_Of(Improper(parts));
     if (mixed.size() > maxFractionLength)
         return;
     form.FracCycle = form.FracCycle == 1 ? 2 : 1;
-    Show_Fraction(form, form.FracCycle == 2 ? improper : mixed);
+    Show_Fraction(form, form.FracCycle == 2 ? Fraction_Text_Of(Improper(parts)) : mixed);
 }
 
 void Show_Reduced_Entry(CalcMainFrm& form) {

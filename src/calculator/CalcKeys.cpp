@@ -71,14 +71,14 @@ constexpr CalcKey keys[] = {
     {"key_Cubt", "³√x", "Cube Root", first, "cubt", nullptr, ""},
     {"key_Xy", "xʸ", "Raise to the Power", first, "xy", nullptr, "^"},
     {"key_Root", "Root", "Root Extractor", first, "root", nullptr, ""},
-    {"key_Rcp", "1/x", "Reciprocal", first, "rcp", nullptr, "i"},
-    {"key_Fact", "n!", "Factorial", first, "fact", nullptr, "!"},
     {"key_Log", "Log", "Logarithm", first, "log", nullptr, ""},
     {"key_aLog", "aLog", "Anti-Logarithm", first, "alog", nullptr, ""},
     {"key_Ln", "Ln", "Natural Logarithm", first, "ln", nullptr, ""},
     {"key_aLn", "aLn", "Anti-Natural Logarithm", first, "aln", nullptr, ""},
-    {"key_XtoY", "x↔y", "Input Swap", first, "x-y", nullptr, ""},
+    {"key_Rcp", "1/x", "Reciprocal", first, "rcp", nullptr, "i"},
+    {"key_Fact", "n!", "Factorial", first, "fact", nullptr, "!"},
     {"key_Dc", "d/c", "Fraction Converter", first, "", key_Dc, ""},
+    {"key_XtoY", "x↔y", "Input Swap", first, "x-y", nullptr, ""},
     {"com_Random", "Rnd#", "Random number generator", first, "rand", nullptr, ""},
     {"key_Cnst", "Cnst", "Scientific Constant", first, "cnst", nullptr, ""},
 
@@ -103,15 +103,15 @@ constexpr CalcKey keys[] = {
     {"key_Mr", "MR", "Memory Recall", third, "mo", nullptr, "m"},
     {"key_Kin", "Kin", "Memory In", third, "", key_Kin, ""},
     {"key_Kout", "Kout", "Memory Recall", third, "ko", nullptr, ""},
-    {"key_XtoK", "x↔K", "Memory Swap", third, "xk", nullptr, ""},
     {"key_Mplus", "M+", "Memory Plus", third, "", key_Mplus, ""},
     {"key_Mminus", "M−", "Memory Minus", third, "", key_Mminus, ""},
-    {"key_KAC", "KAC", "Memory Delete", third, "", key_KAC, ""},
     {"key_Data", "Data", "Add data", third, "data", nullptr, ""},
     {"key_Del", "Del", "Delete data", third, "", key_Del, ""},
     {"key_Dtn", "Cnt", "Data count", third, "dtn", nullptr, ""},
-    {"key_Dts", "Sx", "Sum of data", third, "dts", nullptr, ""},
     {"key_Ave", "Mean", "Data mean", third, "ave", nullptr, ""},
+    {"key_XtoK", "x↔K", "Memory Swap", third, "xk", nullptr, ""},
+    {"key_KAC", "KAC", "Memory Delete", third, "", key_KAC, ""},
+    {"key_Dts", "Sx", "Sum of data", third, "dts", nullptr, ""},
     {"key_Sqr1", "Sx1", "Sum of data raise to the power 2", third, "sqr1", nullptr, ""},
     {"key_Sqr2", "Sx2", "Sum of square of data", third, "sqr2", nullptr, ""},
     {"key_Strd0", "Sdx", "Population standard deviaton", third, "strd0", nullptr, ""},
@@ -198,7 +198,7 @@ std::string_view Page_Caption(CalcPage page) {
     return pageCaptions[static_cast<std::size_t>(page)];
 }
 
-std::span<const CalcKey> CalcKeys() {
+std::span<const CalcKey> Calc_Keys() {
     return keys;
 }
 
@@ -230,7 +230,7 @@ std::string Display_As_Number(const CalcMainFrm& form) {
     std::string text = form.Panel.DisplayBox;
     if (text.ends_with('.'))
         text.pop_back();
-    if (form.Vars.Display.ClockRunning || !Is_Numeric(text))
+    if (form.Vars.Display.ClockRunning || form.Panel.ExponentCut || !Is_Numeric(text))
         return Number_Text(Shown_Value(form.Vars));
     if (form.Panel.ExpoBox.size() == 3)
         text += (form.Panel.ExpoBox.front() == '-' ? "E-" : "E+") + form.Panel.ExpoBox.substr(1);

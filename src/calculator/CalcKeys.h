@@ -23,7 +23,7 @@ struct CalcKey {
     std::string_view Typed;       // the characters that press it on the keyboard
 };
 
-std::span<const CalcKey> CalcKeys();
+std::span<const CalcKey> Calc_Keys();
 
 // Null if there is none.
 const CalcKey* Find_Key(std::string_view name);

@@ -134,6 +134,7 @@ void KeyPress(CalcMainFrm& form, std::string_view token) {
     if (form.Vars.Display.ClockRunning)
         return key_Time(form);
     form.Panel.Remark.clear();
+    form.Panel.ExponentCut = false;
     if (Attempt([&] { Take_Key(form, token); }))
         return;
     form.Vars.Display.ErrorText.clear();

@@ -28,6 +28,7 @@ struct CalcPanel {
     std::string CCalc_Indicator; // "K" or empty
     std::string DateBox;         // the date while the clock runs
     std::string Remark;          // where the number shown is not what one would expect
+    bool ExponentCut = false;    // ExpoBox holds the last two of three digits
     int PrecIndex = -1;          // the row of PrecBox, 0 to 14, or none
     bool PrecEnabled = false;    // PrecBox and PrecLab
 };

@@ -96,10 +96,11 @@ double Stored_Memory(const CalcHost& host) {
     return Leading_Value(text.value_or("0"));
 }
 
-// The fraction counts with its value, although it is finished only on a choice.
-double Value_In_Sight(const CalcVariables& vars) {
+// What the choice will take: of a fraction its value, although it is finished only on a choice;
+// "Kin" doesn't finish it.
+double Value_In_Sight(const CalcVariables& vars, RegisterUse use) {
     double value = Shown_Value(vars);
-    if (vars.Entry.FractionEntry)
+    if (vars.Entry.FractionEntry && use != RegisterUse::In)
         Attempt([&] { value = Fraction_Value(vars.Entry.FractionText); });
     return value;
 }
@@ -107,7 +108,7 @@ double Value_In_Sight(const CalcVariables& vars) {
 // Runs the dialog; the chosen register, or none if it was left.
 Register* Choose_Register(CalcMainFrm& form, RegisterUse mode) {
     CalcVariables& vars = form.Vars;
-    CalcMemoryFrm dialog(vars.Memory, mode, Value_In_Sight(vars), form.Host.Ask);
+    CalcMemoryFrm dialog(vars.Memory, mode, Value_In_Sight(vars, mode), form.Host.Ask);
     if (form.Host.Show_Memory)
         form.Host.Show_Memory(dialog);
     const int chosen = vars.Memory.SelectedRegister;
@@ -201,11 +202,11 @@ void key_Kin(CalcMainFrm& form) {
     if (!chosen)
         return;
     vars.Conversion.SexaCount.reset();
-    Finish_Fraction_As_Operand(form);
-    if (vars.Display.ErrorLatched)
-        return;
     chosen->Value = Shown_Value(vars);
     chosen->Description = vars.Memory.RegisterDescription;
+    if (vars.Entry.FractionEntry)
+        form.Panel.Remark =
+            "Stored " + Number_Text(chosen->Value) + ": the fraction is not finished";
 }
 
 void key_Mplus(CalcMainFrm& form) {

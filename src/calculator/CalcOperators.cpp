@@ -93,6 +93,11 @@ Total Divide(CalcVariables& vars, double total) {
     return Checked(vars, result, {});
 }
 
+// Of a power or a root: what stands before it is raised to b, or to 1 / b.
+double Exponent(const PendingState& pending) {
+    return pending.Op1 == "invexpt" ? Finite(1 / pending.LastOperand) : pending.LastOperand;
+}
+
 // u + t * a or u - t * a (or with "/") becomes u + t * a ^ e.
 double Power_In_Sum(PendingState& pending, double total, double power) {
     const double a = pending.PrevOperand, t = pending.ThirdOperand;
@@ -113,30 +118,33 @@ double Power_Behind_Power(PendingState& pending, double total, double power) {
     return times ? head * power : Finite(head / power);
 }
 
-// t * a (or "/") becomes t * a ^ e. The formulas of the root are wrong and stay so.
-double Power_In_Product(const PendingState& pending, double total, double e) {
+// t * a (or "/") becomes t * a ^ e. The formulas of the root are wrong and stay so; that of a
+// divisor does without its exponent.
+double Power_In_Product(const PendingState& pending, double total) {
     const double a = pending.PrevOperand, b = pending.LastOperand;
     const bool times = pending.Op2 == "*";
     const bool root = pending.Op1 == "invexpt";
-    const double order = root ? (times ? 1 - e : 1 - (1 - b)) : (times ? b - 1 : 1 - b);
+    const double order = root    ? (times ? 1 - Exponent(pending) : 1 - (1 - b))
+                         : times ? b - 1
+                                 : 1 - b;
     return Checked_Power(a, order) * total;
 }
 
-// A power or a root: b, or 1 / b, is the exponent of what stands before it.
 double Raised(PendingState& pending, double total) {
-    const double a = pending.PrevOperand, b = pending.LastOperand;
-    const double e = pending.Op1 == "invexpt" ? Finite(1 / b) : b;
+    const bool inProduct = pending.Op2 == "*" || pending.Op2 == "/";
+    const bool behindSum = pending.Op3 == "+" || pending.Op3 == "-";
+    const bool behindPower = pending.Op3 == "expt" || pending.Op3 == "invexpt";
+    if (inProduct && !behindSum && !behindPower)
+        return Power_In_Product(pending, total);
+    const double a = pending.PrevOperand, e = Exponent(pending);
     if (pending.Op2 == "+")
         return Checked_Power(a, e) + (total - a);
     if (pending.Op2 == "-")
         return (total + a) - Checked_Power(a, e);
-    if (pending.Op2 != "*" && pending.Op2 != "/")
+    if (!inProduct)
         return Checked_Power(total, e);
-    if (pending.Op3 == "+" || pending.Op3 == "-")
-        return Power_In_Sum(pending, total, Checked_Power(a, e));
-    if (pending.Op3 == "expt" || pending.Op3 == "invexpt")
-        return Power_Behind_Power(pending, total, Checked_Power(a, e));
-    return Power_In_Product(pending, total, e);
+    return behindSum ? Power_In_Sum(pending, total, Checked_Power(a, e))
+                     : Power_Behind_Power(pending, total, Checked_Power(a, e));
 }
 
 Total Raise(CalcVariables& vars, double total) {

@@ -1,10 +1,14 @@
 // A calculator that is driven by a line of keys.
 #pragma once
 
+#include "calculator/CalcConstants.h"
 #include "calculator/CalcKeys.h"
+#include "calculator/CalcMemoryFrm.h"
+#include "calculator/CalcStatistics.h"
 
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace Tensarix {
 
@@ -34,6 +38,49 @@ struct CalcTest {
 
     // Mantissa and exponent as they stand side by side.
     std::string Shown() const { return Form.Panel.DisplayBox + Form.Panel.ExpoBox; }
+};
+
+// A calculator whose dialogs are answered: a row, a description, and Yes or No.
+struct DialogTest : CalcTest {
+    int Row = 0;
+    const char* Description = nullptr; // typed over what the box shows
+    bool Yes = true, Leave = false;
+    std::string Opened; // the title of the last dialog
+    std::vector<std::string> Questions;
+    std::string RowSeen, BoxSeen;
+
+    DialogTest() {
+        CalcHost& host = Form.Host;
+        host.Ask = [this](const CalcQuestion& question) {
+            Questions.push_back(question.Title + ": " + question.Text);
+            return Yes;
+        };
+        host.Show_Memory = [this](CalcMemoryFrm& dialog) {
+            Opened = dialog.Title;
+            dialog.Select_Row(Row);
+            const CalcRow& row = dialog.ItemBox[static_cast<std::size_t>(Row)];
+            RowSeen = row.Name + row.Value;
+            BoxSeen = dialog.DescBox;
+            if (Description)
+                dialog.DescBox = Description;
+            Leave ? dialog.ExitButton() : dialog.OKButton();
+            if (!dialog.Closed)
+                dialog.ExitButton();
+        };
+        host.Show_Data = [this](CalcDataFrm& dialog) {
+            Opened = "Data";
+            dialog.Toggle_Row(Row, true);
+            dialog.DeleteButton();
+        };
+        host.Show_Constants = [this](CalcConstantFrm& dialog) {
+            Opened = "Scientific Constant";
+            dialog.Select_Row(Row);
+            Leave ? dialog.ExitButton() : dialog.OKButton();
+        };
+        host.Show_Help = [this] { Opened = "Help"; };
+        host.Close_Form = [this] { Opened = "Exit"; };
+    }
+    Register& At(std::size_t row) { return Vars.Memory.Registers[row]; }
 };
 
 inline std::string Shown_After(const std::string& line) {

@@ -1,76 +1,163 @@
-// The ways in besides the keys themselves: keyboard, clipboard, clock, help.
-#include "calculator/CalcDisplay.h"
-#include "calculator/CalcFunctions.h"
+// The table of all keys, and the ways in besides them: keyboard, clipboard, clock, help.
 #include "calculator/CalcHelpModule.h"
-#include "calculator/CalcMemory.h"
 #include "calculator/CalcTestSupport.h"
 #include "calculator/CalcText.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 using namespace Tensarix;
 
-TEST(CalcKeyTable, NamesAndTypedCharactersAreUnique) {
-    std::set<std::string_view> names;
-    std::set<char> typed;
-    for (const CalcKey& key : CalcKeys()) {
-        EXPECT_TRUE(names.insert(key.Name).second) << key.Name;
+namespace {
+
+CalcTime Time_Of_Day(int hours, int minutes, int seconds) {
+    using namespace std::chrono;
+    return local_days{year{2026} / January / 5} + std::chrono::hours{hours} +
+           std::chrono::minutes{minutes} + std::chrono::seconds{seconds};
+}
+
+// The keys of CalcMainFrm as the user meets them, one row a key: its name, caption, tool tip, the
+// characters that press it, and what the panel shows after a line of keys with this one by name.
+const struct KeyRow {
+    const char* Name;
+    const char* Caption;
+    const char* ToolTip;
+    const char* Typed;
+    const char* Before; // keyed before it
+    const char* After;  // keyed behind it
+    const char* Shown;  // what opened, and the panel
+} rows[] = {
+    {"key_7", "7", "Numeral 7", "7", "1", "", "17."},
+    {"key_8", "8", "Numeral 8", "8", "1", "", "18."},
+    {"key_9", "9", "Numeral 9", "9", "1", "", "19."},
+    {"key_Ers", "Back", "Erase Input", "\b", "123", "", "12."},
+    {"key_C", "C", "Cancel Input", "\x1B", "2 + 3", "4 =", "6."},
+    {"key_AC", "AC", "Clear Calculation", "\x7F", "2 + 3", "4 =", "4."},
+    {"key_4", "4", "Numeral 4", "4", "1", "", "14."},
+    {"key_5", "5", "Numeral 5", "5", "1", "", "15."},
+    {"key_6", "6", "Numeral 6", "6", "1", "", "16."},
+    {"key_multiply", "×", "Multiply", "*x", "8", "2 =", "16."},
+    {"key_divide", "÷", "Divide", "/", "8", "2 =", "4."},
+    {"key_PI", "PI", "Constant PI", "pP", "", "", "3.14159265358979"},
+    {"key_1", "1", "Numeral One", "1", "1", "", "11."},
+    {"key_2", "2", "Numeral Two", "2", "1", "", "12."},
+    {"key_3", "3", "Numeral Three", "3", "1", "", "13."},
+    {"key_plus", "+", "Plus", "+", "8", "2 =", "10."},
+    {"key_minus", "−", "Minus", "-", "8", "2 =", "6."},
+    {"key_Frc", "ab/c", "Fraction Input", "f", "1", "2", "1/2."},
+    {"key_0", "0", "Numeral Zero", "0", "1", "", "10."},
+    {"key_dot", ".", "Decimal Point", ".,", "1", "5", "1.5"},
+    {"key_PM", "±", "Toogle Number Sign", "n_", "12", "", "-12."},
+    {"key_exp", "EXP", "Exponent", "eE", "12", "3", "12. 03"},
+    {"key_equal", "=", "Equals", "=\r\n", "1 + 2", "", "3."},
+    {"HelpButton", "Help", "", "?", "5", "", "Help|5."},
+    {"ExitButton", "Exit", "", "", "5", "", "Exit|5."},
+
+    {"key_Sqr", "x²", "Square", "", "3", "", "9."},
+    {"key_Sqrt", "√x", "Square Root", "r", "9", "", "3."},
+    {"key_Cube", "x³", "Cube", "", "3", "", "27."},
+    {"key_Cubt", "³√x", "Cube Root", "", "8", "", "2."},
+    {"key_Xy", "xʸ", "Raise to the Power", "^", "2", "5 =", "32."},
+    {"key_Root", "Root", "Root Extractor", "", "32", "5 =", "2."},
+    {"key_Log", "Log", "Logarithm", "", "1000", "", "3."},
+    {"key_aLog", "aLog", "Anti-Logarithm", "", "2", "", "100."},
+    {"key_Ln", "Ln", "Natural Logarithm", "", "2", "", "0.69314718055995"},
+    {"key_aLn", "aLn", "Anti-Natural Logarithm", "", "2", "", "7.38905609893065"},
+    {"key_Rcp", "1/x", "Reciprocal", "i", "8", "", "0.125"},
+    {"key_Fact", "n!", "Factorial", "!", "5", "", "120."},
+    {"key_Dc", "d/c", "Fraction Converter", "", "0.125", "", "1/8."},
+    {"key_XtoY", "x↔y", "Input Swap", "", "2 - 3", "=", "1."},
+    {"com_Random", "Rnd#", "Random number generator", "", "", "", "0.008"},
+    {"key_Cnst", "Cnst", "Scientific Constant", "", "5", "", "Scientific Constant|29000."},
+
+    {"key_Sin", "Sin", "Sine", "s", "30", "", "0.5"},
+    {"key_Cos", "Cos", "Cosine", "c", "60", "", "0.5"},
+    {"key_Tan", "Tan", "Tangent", "t", "45", "", "1."},
+    {"key_iSin", "iSin", "Inverse Sine", "S", "0.5", "", "30."},
+    {"key_iCos", "iCos", "Inverse Cosine", "C", "1 pm", "", "180."},
+    {"key_iTan", "iTan", "Inverse Tangent", "T", "1", "", "45."},
+    {"key_Sinh", "Sinh", "Hyperbolic Sine", "", "1", "", "1.1752011936438"},
+    {"key_Cosh", "Cosh", "Hyperbolic Cosine", "", "1", "", "1.54308063481524"},
+    {"key_Tanh", "Tanh", "Hyperbolic Tangent", "", "1", "", "0.76159415595577"},
+    {"key_ArcSinh", "iSinh", "Inverse Hyperbolic Sine", "", "2", "", "1.44363547517881"},
+    {"key_ArcCosh", "iCosh", "Inverse Hyperbolic Cosine", "", "2", "", "1.31695789692482"},
+    {"key_ArcTanh", "iTanh", "Inverse Hyperbolic Tangent", "", "0.5", "", "0.54930614433406"},
+    {"key_Sexa", "Sexa", "Angle Input", "'", "12 key_Sexa 30", "", "12.5"},
+    {"key_Asex", "Asex", "Angular Display", "\"", "12.51", "", "12°30'36\"."},
+    {"key_PtoR", "P→R", "Polar to Rectangular", "", "2", "60 =", "1."},
+    {"key_RtoP", "R→P", "Rectangular to Polar", "", "3", "4 =", "5."},
+
+    {"key_Min", "Min", "Memory Inut", "", "5", "", "5. MEM"},
+    {"key_Mr", "MR", "Memory Recall", "m", "5 key_Min 7", "", "5. MEM"},
+    {"key_Kin", "Kin", "Memory In", "", "5", "", "Memory IN|5. R5"},
+    {"key_Kout", "Kout", "Memory Recall", "", "5 key_Kin 7", "", "Memory RECALL|5. R5"},
+    {"key_Mplus", "M+", "Memory Plus", "", "5", "", "Memory ADD|5. R5"},
+    {"key_Mminus", "M−", "Memory Minus", "", "5", "", "Memory MINUS|5. R-5"},
+    {"key_Data", "Data", "Add data", "", "5", "", "5. D1"},
+    {"key_Del", "Del", "Delete data", "", "5 data 6 data", "", "Data|6. D1"},
+    {"key_Dtn", "Cnt", "Data count", "", "5 data 7 data", "", "2. D2"},
+    {"key_Ave", "Mean", "Data mean", "", "5 data 7 data", "", "6. D2"},
+    {"key_XtoK", "x↔K", "Memory Swap", "", "5 key_Kin 7", "", "Memory SWAP|5. R57"},
+    {"key_KAC", "KAC", "Memory Delete", "", "5 key_Kin", "", "Memory DELETE|5."},
+    {"key_Dts", "Sx", "Sum of data", "", "5 data 7 data", "", "12. D2"},
+    {"key_Sqr1", "Sx1", "Sum of data raise to the power 2", "", "5 data 7 data", "", "144. D2"},
+    {"key_Sqr2", "Sx2", "Sum of square of data", "", "5 data 7 data", "", "74. D2"},
+    {"key_Strd0", "Sdx", "Population standard deviaton", "", "5 data 7 data", "", "1. D2"},
+    {"key_Strd1", "Sdxn", "Sample standard deviation", "", "5 data 7 data", "",
+     "1.4142135623731 D2"},
+
+    {"StdButton", "Normal Mode", "", "", "FxnButton 5", "", "5."},
+    {"FxnButton", "Fixed Mode", "", "", "5", "", "5.00 FIX"},
+    {"ScnButton", "Scientific Mode", "", "", "5", "", "5.00 00 SCI"},
+    {"DegButton", "Degree Mode", "", "", "RadButton 30", "sin", "0.5"},
+    {"RadButton", "Radian Mode", "", "", "1", "iTan", "0.78539816339745 RADIAN"},
+    {"GradButton", "Gradian Mode", "", "", "1", "iTan", "50. GRADIAN"},
+    {"key_EngL", "Eng-", "", "", "12.5 exp 7", "", "0.0125 10"},
+    {"key_EngR", "-Eng", "", "", "12.5 exp 7", "", "12500. 04"},
+    {"key_Time", "Time", "Display CLock", "", "5", "", "MONDAY, JAN 05, 2026|12:00:00 PM"},
+};
+
+struct KeyTest : DialogTest {
+    KeyTest() {
+        Form.Host.Now = [] { return Time_Of_Day(12, 0, 0); };
+        Form.Host.Yield = [this] {
+            Opened = Form.Panel.DateBox;
+            return false;
+        };
+    }
+
+    // What opened last, the panel with whatever is not at rest in it, the first register, the data.
+    std::string Seen() const {
+        const CalcPanel& panel = Form.Panel;
+        std::string text = (Opened.empty() ? "" : Opened + "|") + Shown();
+        for (const std::string_view mode :
+             {Indicator_Text(panel.DispMode_Indicator), Indicator_Text(panel.Mode_Indicator)})
+            if (mode != "NORM" && mode != "DEGREE")
+                text.append(" ").append(mode);
+        text += (panel.Mem_Indicator.empty() ? "" : " ") + panel.Mem_Indicator;
+        if (const double value = Vars.Memory.Registers[0].Value; value != 0)
+            text += " R" + Number_Text(value);
+        if (const auto& data = Vars.Statistics.DataList; !data.empty())
+            text += " D" + std::to_string(data.size());
+        return text;
+    }
+};
+
+} // namespace
+
+TEST(CalcKeyTable, EveryKeyDoesWhatItSays) {
+    ASSERT_EQ(Calc_Keys().size(), std::size(rows));
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        const KeyRow& row = rows[i];
+        const CalcKey& key = Calc_Keys()[i];
+        EXPECT_EQ(key.Name, row.Name);
+        EXPECT_EQ(key.Caption, row.Caption);
+        EXPECT_EQ(key.ToolTip, row.ToolTip);
+        EXPECT_EQ(key.Typed, row.Typed);
         for (const char c : key.Typed)
-            EXPECT_TRUE(typed.insert(c).second) << key.Name;
-        EXPECT_NE(key.Token.empty(), key.Direct == nullptr) << key.Name;
-        EXPECT_NE(key.Caption, "") << key.Name;
-    }
-    EXPECT_EQ(names.size(), 83u);
-}
-
-// Every token of the table does something on a calculator with an entry.
-TEST(CalcKeyTable, EveryTokenIsKnown) {
-    for (const CalcKey& key : CalcKeys()) {
-        if (key.Token.empty() || Find_Function(key.Token))
-            continue;
-        CalcTest calc;
-        calc.Keys("15 exp 2");
-        const std::string before = calc.Shown();
-        calc.Vars.Entry.ExponentEntry = key.Token != "PI" && key.Token != "exp";
-        calc.Keys(std::string{key.Name});
-        const bool changed = calc.Shown() != before || !calc.Vars.Pending.Op1.empty() ||
-                             calc.Vars.Entry.ExponentEntry || calc.Vars.Entry.EntryText.empty();
-        EXPECT_TRUE(changed) << key.Name;
-    }
-}
-
-TEST(CalcKeyboard, TypedCharactersPressKeys) {
-    const struct {
-        const char* Typed;
-        const char* Shown;
-    } cases[] = {
-        {"12,5+2.5\r", "15."},
-        {"2*3=", "6."},
-        {"8/4\n", "2."},
-        {"2^10=", "1024."},
-        {"125\b", "12."},
-        {"2+5\x1B"
-         "4=",
-         "6."},
-        {"2+5\x7F=", "0."},
-        {"p", "3.14159265358979"},
-        {"1e5n", "1.-05"},
-        {"5!", "120."},
-        {"4i", "0.25"},
-        {"1f4=", "0.25"},
-        {"9r", "3."},
-        {"30s", "0.5"},
-    };
-    for (const auto& c : cases) {
-        CalcTest calc;
-        for (const char* typed = c.Typed; *typed; ++typed) {
-            const CalcKey* key = Key_For_Character(static_cast<unsigned char>(*typed));
-            ASSERT_NE(key, nullptr) << c.Typed;
-            Press(calc.Form, *key);
-        }
-        EXPECT_EQ(calc.Shown(), c.Shown) << c.Typed;
+            EXPECT_EQ(Key_For_Character(static_cast<unsigned char>(c)), &key) << row.Name;
+        KeyTest calc;
+        calc.Keys(std::string{row.Before} + " " + row.Name + " " + row.After);
+        EXPECT_EQ(calc.Seen(), row.Shown) << row.Name;
     }
     for (const char32_t typed : {U'\0', U'z', U'(', U' ', U'\xD7', U'\x20AC', U'\U00010031'})
         EXPECT_EQ(Key_For_Character(typed), nullptr);
@@ -149,24 +236,14 @@ TEST(CalcClipboard, RefusesEverythingElseWithoutATrace) {
     EXPECT_EQ(latched.Shown(), "*Divide by Zero*");
 }
 
-namespace {
-
-CalcTime At(int hours, int minutes, int seconds) {
-    using namespace std::chrono;
-    return local_days{year{2026} / January / 5} + std::chrono::hours{hours} +
-           std::chrono::minutes{minutes} + std::chrono::seconds{seconds};
-}
-
-} // namespace
-
 TEST(CalcClock, RunsUntilAKeyAndTheNumberReturns) {
     const struct {
         CalcTime Now;
         const char* Time;
-    } times[] = {{At(0, 4, 9), "12:04:09 AM"},
-                 {At(11, 59, 59), "11:59:59 AM"},
-                 {At(12, 0, 0), "12:00:00 PM"},
-                 {At(23, 5, 7), "11:05:07 PM"}};
+    } times[] = {{Time_Of_Day(0, 4, 9), "12:04:09 AM"},
+                 {Time_Of_Day(11, 59, 59), "11:59:59 AM"},
+                 {Time_Of_Day(12, 0, 0), "12:00:00 PM"},
+                 {Time_Of_Day(23, 5, 7), "11:05:07 PM"}};
     for (const auto& time : times)
         for (const char* key : {"5", "key_Time", "key_Kout", "AC", "key_EngR", "key_Mplus", "sin",
                                 "key_PtoR", "key_Dc", "HelpButton", "DegButton"}) {
@@ -192,7 +269,7 @@ TEST(CalcClock, RunsUntilAKeyAndTheNumberReturns) {
 
 TEST(CalcClock, KeysThatEndItAndGoOn) {
     CalcTest calc;
-    calc.Form.Host.Now = [] { return At(1, 2, 3); };
+    calc.Form.Host.Now = [] { return Time_Of_Day(1, 2, 3); };
     const auto run = [&](const std::function<void()>& action) {
         int turns = 0;
         calc.Form.Host.Yield = [&] {
@@ -223,9 +300,9 @@ TEST(CalcRandom, TakesTheLastDigitsOfTheDate) {
         CalcTime Now;
         const char* Shown;
     } cases[] = {
-        {At(12, 0, 0), "0.008"},                                    // "46027.5": 7.5 / 1000
-        {At(12, 0, 0) + std::chrono::microseconds{8640}, "0.001"},  // 46027.5000001
-        {At(12, 0, 0) + std::chrono::microseconds{10675}, "0.236"}, // 46027.5000001236
+        {Time_Of_Day(12, 0, 0), "0.008"},                                   // "46027.5": 7.5 / 1000
+        {Time_Of_Day(12, 0, 0) + std::chrono::microseconds{8640}, "0.001"}, // 46027.5000001
+        {Time_Of_Day(12, 0, 0) + std::chrono::microseconds{10675}, "0.236"}, // 46027.5000001236
     };
     for (const auto& c : cases)
         for (const char* mode : {"StdButton", "ScnButton", "FxnButton"}) {

@@ -33,7 +33,6 @@ void Expect_Panels(std::initializer_list<PanelCase> cases) {
 TEST(CalcPanel, NumberEntry) {
     Expect_Panels({
         {"", "0."},
-        {"12", "12."},
         {"12.50", "12.50"},
         {"0007", "7."},
         {"000", "0."},
@@ -47,15 +46,12 @@ TEST(CalcPanel, NumberEntry) {
         {"1234567890.123456", "1234567890.12345"},
         {"123456789012345 dot", "123456789012345."},
         {"0.12345678901234567", "0.12345678901234"},
-        {"5 C", "0."},
         {"5 C 7", "7."},
-        {"12 pm", "-12."},
         {"12 pm pm", "12."},
         {"0 pm", "0."},
         {"0. pm", "0."},
         {"0.0 pm 5", "0.05"},
         {"2 sqr pm", "-4."},
-        {"PI", "3.14159265358979"},
         {"PI pm 2", "2."},
         {"5 xtract 6", "56."},
         {"5 nonsense 6", "56."},
@@ -65,7 +61,6 @@ TEST(CalcPanel, NumberEntry) {
 TEST(CalcPanel, ExponentEntry) {
     Expect_Panels({
         {"exp 5", "5."},
-        {"1 exp", "1. 00"},
         {"1 exp 5", "1. 05"},
         {"1 exp 1 2 3", "1. 23"},
         {"1 exp . 5", "1. 05"},
@@ -92,7 +87,6 @@ TEST(CalcPanel, ExponentEntry) {
 TEST(CalcPanel, Erasing) {
     Expect_Panels({
         {"ers", "0."},
-        {"5 ers", "0."},
         {"5 pm ers", "0."},
         {"52 pm ers", "-5."},
         {"1.5 ers", "1."},
@@ -114,8 +108,6 @@ TEST(CalcPanel, Erasing) {
 
 TEST(CalcPanel, Operators) {
     Expect_Panels({
-        {"2 + 3 * 4 =", "14."},
-        {"2 * 3 + 4 =", "10."},
         {"2 + 3 * 4 * 5 =", "62."},
         {"2 - 3 * 4 =", "-10."},
         {"2 - 3 / 4 * 5 =", "-1.75"},
@@ -147,12 +139,10 @@ TEST(CalcPanel, Operators) {
          "By operator priority: 9"}, // the number shown, not the total, goes on
         {"2 + 3 C 4 =", "6."},
         {"2 + 3 C =", "2."},
-        {"5 + AC 3 =", "3."},
         {"9 - 4 pm =", "13."},
         {"2 - 3 x-y =", "1."},
         {"2 - 3 x-y x-y =", "-1."},
         {"2 + 9 sqrt =", "5."},
-        {"5 x-y", "0."},
         {"0.1 + 0.2 =", "0.3"},
         {"1 / 3 =", "0.33333333333333"},
         {"29 / 3 =", "9.6666666666667"}, // counts 10 as its whole part
@@ -165,6 +155,7 @@ TEST(CalcPanel, Operators) {
 TEST(CalcPanel, RequiredWrongResults) {
     Expect_Panels({
         {"6 / 4 root 2 =", "24.", "", "By operator priority: 3"},
+        {"6 / 4 root 0 =", "1.5"},
         {"6 * 4 root 2 =", "48.", "", "By operator priority: 12"},
         {"3 * 6 / 4 root 2 =", "72.", "", "By operator priority: 9"},
         {"1 + 3 xy 2 * 4 =", "40.", "", "By operator priority: 37"},
@@ -228,10 +219,16 @@ TEST(CalcPanel, ErrorsLatchUntilAC) {
         {"9.4 exp 99 =", "9.4 99"},
         {"1 exp 99 pm / 10 =", "0."},
         {"1 exp 60 pm sqr", "0."},
-        {"1 exp 60 pm sqr StdButton", "0."},
+        {"1 exp 60 pm sqr StdButton", "1.-20", "",
+         "The number is 1E-120: only two digits of its exponent are shown"},
         {"1 exp 60 sqr", "*Infinity*"},
-        {"123456789012345 exp 99 FxnButton", "*Infinity*"},
-        {"9.999 exp 99 ScnButton", "*Infinity*"},
+        {"123456789012345 exp 99 FxnButton", "1.23456789012345 13", "",
+         "The number is 1.23456789012345E+113: only two digits of its exponent are shown"},
+        {"9.999 exp 99 ScnButton", "1.00 00", "",
+         "The number is 9.999E+99: only two digits of its exponent are shown"},
+        {"9.999 exp 99 ScnButton StdButton", "9.999 99"},
+        {"ScnButton 9.999 exp 99 sqrt sqr", "1.00 00", "",
+         "The number is 9.99899999999999E+99: only two digits of its exponent are shown"},
         {"1 / 0 = 5 + ers C pm exp PI sin frc mo", "*Divide by Zero*"},
         {"1 / 0 = key_Dc key_PtoR key_EngR key_Time key_Mplus key_Del", "*Divide by Zero*"},
         {"1 / 0 = FxnButton GradButton", "*Divide by Zero*"},
@@ -242,15 +239,12 @@ TEST(CalcPanel, ErrorsLatchUntilAC) {
 
 TEST(CalcPanel, Functions) {
     Expect_Panels({
-        {"3 sqr", "9."},
         {"3 pm cube", "-27."},
         {"8 pm cubt", "-2."},
         {"2 sqrt", "1.4142135623731"},
         {"1 pm sqrt", "*Error*"},
-        {"4 rcp", "0.25"},
         {"0 rcp", "*Error*"},
         {"0 fact", "1."},
-        {"5 fact", "120."},
         {"2.5 fact", "*Error*"},
         {"2.5 pm fact", "*Error*"},
         {"1 pm fact", "*Out of Range*"},
@@ -258,28 +252,19 @@ TEST(CalcPanel, Functions) {
         {"70 fact", "*Infinity*"},
         {"171 fact", "*Infinity*"},
         {"999999999999999 fact", "*Infinity*"},
-        {"1000 log", "3."},
         {"0 log", "*Out of Range*"},
         {"0 ln", "*Out of Range*"},
         {"1 pm ln", "*Out of Range*"},
-        {"3 alog", "1000."},
         {"2 pm alog", "0.01"},
         {"200 alog", "*Infinity*"},
         {"400 alog", "*Error*"},
-        {"1 aln", "2.71828182845905"},
         {"1 aln ln", "1."},
         {"800 aln", "*Undefined*"},
-        {"1 sinh", "1.1752011936438"},
-        {"1 cosh", "1.54308063481524"},
-        {"1 tanh", "0.76159415595577"},
         {"1000 sinh", "*Undefined*"},
         {"1000 cosh", "*Undefined*"},
         {"1000 tanh", "1."},
         {"1000 pm tanh", "-1."},
-        {"2 isinh", "1.44363547517881"},
-        {"2 icosh", "1.31695789692482"},
         {"0.5 icosh", "*Error*"},
-        {"0.5 itanh", "0.54930614433406"},
         {"1 itanh", "*Undefined*"},
         {"1 pm itanh", "*Undefined*"},
         {"2 + 3 sqr * 2 =", "20."},
@@ -289,27 +274,23 @@ TEST(CalcPanel, Functions) {
 
 TEST(CalcPanel, Angles) {
     Expect_Panels({
-        {"30 sin", "0.5"},
         {"180 sin", "0."},
         {"360 sin", "0."},
-        {"60 cos", "0.5"},
         {"90 cos", "0."},
         {"270 cos", "0."},
-        {"45 tan", "1."},
         {"90 tan", "*Out of Range*"},
         {"270 tan", "*Out of Range*"},
         {"450 tan", "*Out of Range*"},
         {"90 pm tan", "*Out of Range*"},
+        {"90.00000000001 tan", "-5783304834254.39"},
+        {"0 iCos tan", "-6.21843116382374 15"},
         {"180 tan", "0."},
         {"1 iSin", "90."},
         {"1 pm iSin", "-90."},
-        {"0.5 iSin", "30."},
         {"2 iSin", "*Undefined*"},
         {"1 iCos", "0."},
-        {"1 pm iCos", "180."},
         {"0 iCos", "90.0000000000001"}, // pi of 15 digits, and no snapping downward
         {"1.1 iCos", "*Undefined*"},
-        {"1 iTan", "45."},
         {"RadButton 3.14159265358979 sin", "0."},
         {"RadButton PI cos", "-1."},
         {"RadButton 1.5707963267949 tan", "*Out of Range*"},
@@ -317,15 +298,11 @@ TEST(CalcPanel, Angles) {
         {"GradButton 100 sin", "1."},
         {"GradButton 100 cos", "0."},
         {"GradButton 50 tan", "1."},
-        {"GradButton 1 iTan", "50."},
-        {"GradButton DegButton 30 sin", "0.5"},
     });
 }
 
 TEST(CalcPanel, SexagesimalAndPolar) {
     Expect_Panels({
-        {"12 sexa", "12."},
-        {"12 sexa 30 sexa", "12.5"},
         {"12 sexa 30 sexa 36 sexa", "12.51"},
         {"12 sexa 30 sexa 36 sexa 5 sexa", "5."},
         {"12 sexa + 30 sexa", "30."},
@@ -335,7 +312,6 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"12 sexa 30 sexa sin", Shown_After("12.5 sin").c_str()},
         {"1 frc 2 sexa", "0.5"},
         {"30.2528 asex", "30°15'10.08\""},
-        {"12.51 asex", "12°30'36\"."},
         {"390 asex", "30°0'0\"."},
         {"30.25 pm asex", "-30°15'0\"."},
         {"0.5 pm asex", "0°30'0\".", "", "The angle is negative"}, // loses its sign
@@ -345,7 +321,6 @@ TEST(CalcPanel, SexagesimalAndPolar) {
         {"3 key_PtoR 0 =", "3."},
         {"3 key_PtoR 0 = x-y", "0."},
         {"2 key_PtoR 30 = x-y", "1."},
-        {"3 key_RtoP 4 =", "5."},
         {"3 key_RtoP 4 = x-y", "53.130102354156"},
         {"3 key_PtoR 900 sqrt = + 1 =", "31.", "",
          "By operator priority: 3.59807621135332"},      // the angle still waits
@@ -375,7 +350,6 @@ TEST(CalcPanel, Fractions) {
         {"1 frc 2 frc 3 pm =", "-1.66666666666667"},
         {"5 pm frc 4 =", "-1.25"},
         {"1 frc 2 + 1 frc 3 =", "0.83333333333333"},
-        {"1 frc 2 sqr", "0.25"},
         {"5 frc 0 =", "*Divide by Zero*"},
         {"5 frc =", "*Divide by Zero*"},
         {"1 frc 2 frc =", "*Divide by Zero*"},
@@ -398,15 +372,15 @@ TEST(CalcPanel, Fractions) {
         {"1 frc 2 FxnButton", "1/2."},
         {"1 frc 2 mo", "0."},
         {"1 frc 3 key_Min 5", "5."},
-        {"0.125 key_Dc", "1/8."},
         {"0.333333333333333 key_Dc", "1/3."},
         {"0.142857142857142 key_Dc", "1/7."},
         {"12.3333333333333 key_Dc", "12 1/3."},
-        {"2.5 key_Dc", "2 1/2."},
         {"2.5 key_Dc key_Dc", "5/2."},
         {"2.5 key_Dc key_Dc key_Dc", "2 1/2."},
         {"2.5 pm key_Dc key_Dc", "-5/2."},
         {"2.5 key_Dc + 1 =", "3.5"},
+        {"1234567890.5 key_Dc", "1234567890 1/2."},
+        {"1234567890.5 key_Dc key_Dc", "1234567890 1/2."}, // 2469135781/2 is beyond the divisor
         {"17 key_Dc", "17."},
         {"1.0000000000001 key_Dc", "1.0000000000001"},
         {"0.1234567891 key_Dc", "0.1234567891"},
@@ -422,12 +396,10 @@ TEST(CalcPanel, Fractions) {
 
 TEST(CalcPanel, DisplayModes) {
     Expect_Panels({
-        {"FxnButton", "0.00"},
         {"FxnButton 1 / 3 =", "0.33"},
         {"FxnButton 1 / 3 = * 3 =", "1.00"},
         {"FxnButton 2 rcp + 2 rcp sqr =", "0.75"},
         {"FxnButton 12.3456", "12.3456"},
-        {"12.3456 FxnButton", "12.35"},
         {"12.3456 FxnButton 7", "12.34567"},
         {"1.005 FxnButton", "1.01"},
         {"FxnButton 1 exp 20 =", "1. 20"},
@@ -439,14 +411,13 @@ TEST(CalcPanel, DisplayModes) {
         {"0 + 0.00000000000001 =", "0.00000000000001"},
         {"1 exp 14 =", "100000000000000."},
         {"1 exp 15 =", "1. 15"},
-        {"1.5 exp 7 key_EngR", "1500. 04"},
         {"1.5 exp 7 key_EngR key_EngL", "1.5 07"},
-        {"1.5 exp 7 key_EngL", "0.0015 10"},
         {"1.5 exp 7 pm key_EngR", "1500.-10"},
-        {"12.5 pm key_EngR", "-12.5 00"},
         {"12.50 key_EngR", "12.5 00"},
         {"FxnButton 20 alog key_EngR", "1000. 17"},
-        {"1 / 3 = key_EngR key_EngR", "333.33333333333-03"},
+        {"1 / 3 = key_EngR key_EngR",
+         "333.333333333333-03"}, // every digit, where the display cut one
+        {"5 cos key_EngR key_EngR", "996.194698091746-03"},
         {"12.5 pm key_EngR key_EngR", "-12500.-03"},
         {"12.5 key_EngR key_EngR + 1 =", "13.5"},
         {"0 key_EngR", "0."},
@@ -459,7 +430,6 @@ TEST(CalcPanel, DisplayModes) {
 
 TEST(CalcPanel, MemoryAndStatistics) {
     Expect_Panels({
-        {"5 key_Min AC mo", "5."},
         {"5 key_Min + mo =", "10."},
         {"1 / 4 = key_Min 7 * mo =", "1.75"},
         {"2 + 12 key_Min = + 1 =", "13.", "", "By operator priority: 15"}, // the 12 waits
@@ -468,12 +438,7 @@ TEST(CalcPanel, MemoryAndStatistics) {
         {"1 frc 4 key_Min AC mo", "0.25"},
         {"7 + 1 / 0 = key_Min AC mo", "0."},
         {"dtn", "*Empty Data*"},
-        {"dts", "*Empty Data*"},
-        {"2 data 4 data dtn", "2."},
         {"2 data 4 data AC dts", "6."},
-        {"2 data 3 data 4 data ave", "3."},
-        {"2 data 3 data sqr1", "25."},
-        {"2 data 3 data sqr2", "13."},
         {"2 data 4 data 4 data 4 data 5 data 5 data 7 data 9 data ave", "5."},
         {"2 data 4 data 4 data 4 data 5 data 5 data 7 data 9 data strd0", "2."},
         {"2 data 4 data 4 data 4 data 5 data 5 data 7 data 9 data strd1", "2.1380899352994"},

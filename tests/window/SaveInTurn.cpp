@@ -37,10 +37,10 @@ class SavingProgram {
                 form_.Design.Bolts.cFlex.Set_Text(row, col, std::string(longText, state));
         form_.Design.Bolts.SaveButton.Click();
 
-        for (Register& each : memories_.Registers)
+        for (Register& each : memories_.Memory.Registers)
             each = {static_cast<double>(state), std::string(longText, state)};
-        memories_.DataList.assign(manyNumbers, state);
-        memories_.MemValue = state;
+        memories_.Statistics.DataList.assign(manyNumbers, state);
+        memories_.Memory.MemValue = state;
         Close(calculator_);
 
         (state == 'A' ? form_.Browse.DimOption1 : form_.Browse.DimOption2).Select();
