@@ -82,10 +82,6 @@ constexpr ColumnLook columns[columnCount] = {
     {"Value", 1500, {.Align = Alignment::Right, .Tahoma = true}},
     {"Unit", 1000, {.Align = Alignment::Centre, .Tahoma = true}},
 };
-constexpr CellStyle headStyle{.Align = Alignment::Centre,
-                              .Tahoma = true,
-                              .Fore = Colours::HeadText,
-                              .Back = Colours::HeadBack};
 constexpr double headHeight = 460;
 constexpr double rowHeight = 345;
 
@@ -98,7 +94,7 @@ void Lay_Out(FlexGrid& grid, int rows) {
         grid.Set_Row_Height(row, row == 0 ? headHeight : rowHeight);
     for (int col = 0; col < columnCount; ++col) {
         grid.Set_Col_Width(col, columns[col].Width);
-        grid.Set_Style(0, col, headStyle);
+        grid.Set_Style(0, col, HeadStyle);
         grid.Set_Text(0, col, std::string{columns[col].Head});
         for (int row = 1; row <= rows; ++row)
             grid.Set_Style(row, col, columns[col].Style);

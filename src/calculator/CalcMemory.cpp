@@ -8,6 +8,7 @@
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "common/Utf8.h"
 #include "platform/Settings.h"
 
 #include <algorithm>
@@ -60,15 +61,8 @@ std::string To_Utf8(const std::string& text) {
     if (Is_Utf8(text))
         return text;
     std::string result;
-    for (const char c : text) {
-        const auto code = static_cast<unsigned char>(c);
-        if (code < 0x80) {
-            result += c;
-        } else {
-            result += static_cast<char>(0xC0 | code >> 6);
-            result += static_cast<char>(0x80 | (code & 0x3F));
-        }
-    }
+    for (const char c : text)
+        result += Utf8(static_cast<unsigned char>(c));
     return result;
 }
 

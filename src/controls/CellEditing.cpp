@@ -60,10 +60,6 @@ void CellEditing::Add(ComboCells cells) {
             kept.Compute(true);
     };
     kept.Editor.OnKeyDown = [this, &kept](int keyCode) { Combo_Key(kept, keyCode); };
-    kept.Editor.Focus.OnLostFocus = [this, &kept] {
-        if (kept.Editor.Visible())
-            Leave();
-    };
     grid_.OnMouseDown = [this] { Open_List(); };
 }
 
@@ -81,21 +77,21 @@ bool CellEditing::Can_Edit(int row, int col) const {
     return false;
 }
 
-bool CellEditing::Is_Open() const {
-    for (const TextCells& cells : texts_)
-        if (cells.Editor.Visible())
-            return true;
-    for (const ComboCells& cells : combos_)
-        if (cells.Editor.Visible())
-            return true;
-    return false;
-}
-
 void CellEditing::Hide() {
     for (const TextCells& cells : texts_)
         cells.Editor.Show(false);
-    for (const ComboCells& cells : combos_)
+    Hide_Lists();
+}
+
+void CellEditing::Hide_Lists() {
+    for (const ComboCells& cells : combos_) {
+        if (!cells.Editor.Visible())
+            continue;
         cells.Editor.Show(false);
+        const std::string picked = Trim(cells.Editor.Text());
+        if (!picked.empty() && picked != Trim(grid_.Text(grid_.Row(), grid_.Col())))
+            Run(cells.Dropped);
+    }
 }
 
 void CellEditing::Key_Press(int keyAscii) {
@@ -114,7 +110,7 @@ void CellEditing::Key_Down(int keyCode) {
     if (keyCode == Keys::F2)
         Open_With_Old_Text();
     else if (keyCode == Keys::Delete)
-        Empty_Cell();
+        Empty_Cells();
 }
 
 // A click opens a list at once, a text box only on the second one.
@@ -135,35 +131,15 @@ void CellEditing::Open_With_Old_Text() {
     Open_List();
 }
 
-void CellEditing::Empty_Cell() {
-    const int row = grid_.Row(), col = grid_.Col();
-    for (const TextCells& cells : texts_)
-        if (cells.Editable(row, col)) {
-            const std::string before = grid_.Text(row, col);
-            grid_.Set_Text(row, col, {});
-            cells.Editor.Set_Text({});
-            cells.Committed(before);
-        }
-    for (const ComboCells& cells : combos_)
-        if (cells.Editable(row, col)) {
-            grid_.Set_Text(row, col, {});
-            cells.Editor.Select(-1);
-            cells.Compute(false);
-        }
-}
-
-// A text box follows its cell. A list does not and closes; what was picked in it stays out of the
-// cell, so the row is computed as the cell stands.
+// A text box follows its cell. A list does not and closes.
 void CellEditing::Scrolled() {
     for (const TextCells& cells : texts_)
         if (Is_Current(cells.Editable) && cells.Editor.Visible())
             Edit_Show(grid_, cells.Editor, Keys::Blank, false);
     for (const ComboCells& cells : combos_)
-        if (cells.Editor.Visible()) {
+        if (cells.Editor.Visible())
             Combo_Show(grid_, cells.Editor, false);
-            cells.Editor.Show(false);
-            cells.Compute(false);
-        }
+    Hide_Lists();
 }
 
 void CellEditing::Leave() {

@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "common/Utf8.h"
 
 #include <algorithm>
 
@@ -131,10 +132,7 @@ int Find_By_Typing(const ComboBox& list, const std::string& typed) {
 }
 
 int TextBox::Length() const {
-    // Bytes that start a character of UTF-8.
-    return static_cast<int>(std::count_if(text_.begin(), text_.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-    }));
+    return Utf8_Length(text_);
 }
 
 void TextBox::Set_Text(std::string text) {

@@ -240,12 +240,6 @@ void FlexGrid::Press(int row, int col) {
     Run(OnMouseDown);
 }
 
-void FlexGrid::Move_By(int rows, int cols, bool extend) {
-    const int row = std::clamp((extend ? rowSel_ : row_) + rows, fixedRows_, rows_ - 1);
-    const int col = std::clamp((extend ? colSel_ : col_) + cols, 0, cols_ - 1);
-    Go_To(row, col, extend);
-}
-
 void FlexGrid::Go_To(int row, int col, bool extend) {
     if (extend)
         Extend_To(row, col);

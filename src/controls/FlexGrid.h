@@ -37,6 +37,12 @@ struct CellStyle {
     bool operator==(const CellStyle&) const = default;
 };
 
+// Of the heads of all grids.
+inline constexpr CellStyle HeadStyle{.Align = Alignment::Centre,
+                                     .Tahoma = true,
+                                     .Fore = Colours::HeadText,
+                                     .Back = Colours::HeadBack};
+
 class FlexGrid {
   public:
     Handler OnLeaveCell; // before the current cell changes
@@ -122,8 +128,7 @@ class FlexGrid {
     std::string Clip() const;
 
     // What the user does, for the view and for tests.
-    void Press(int row, int col); // left button down on a cell
-    void Move_By(int rows, int cols, bool extend);
+    void Press(int row, int col);              // left button down on a cell
     void Go_To(int row, int col, bool extend); // by the keys; extend: the selection alone
 
     // Counts the changes of size, heights and widths, so that a view knows when to measure again.

@@ -1,6 +1,7 @@
 #include "controls/FlexProcedures.h"
 
 #include "common/NumberText.h"
+#include "common/Utf8.h"
 
 namespace Tensarix {
 
@@ -17,20 +18,9 @@ bool Is_Printing(int keyAscii) {
     return keyAscii < 0 || keyAscii > Keys::Blank;
 }
 
-std::string Utf8(int character) {
-    const auto code = static_cast<unsigned>(character) & 0xFFFF;
-    const auto tail = [code](int shift) {
-        return static_cast<char>(0x80 | (code >> shift & 0x3F));
-    };
-    if (code < 0x80)
-        return {static_cast<char>(code)};
-    if (code < 0x800)
-        return {static_cast<char>(0xC0 | code >> 6), tail(0)};
-    return {static_cast<char>(0xE0 | code >> 12), tail(6), tail(0)};
-}
-
 void Load_Text(const FlexGrid& grid, TextBox& editor, int keyAscii) {
-    editor.Set_Text(Is_Printing(keyAscii) ? Utf8(keyAscii) : Trim(Cell_Text(grid)));
+    editor.Set_Text(Is_Printing(keyAscii) ? Utf8(static_cast<unsigned>(keyAscii) & 0xFFFF)
+                                          : Trim(Cell_Text(grid)));
     editor.Set_SelStart(editor.Length());
 }
 

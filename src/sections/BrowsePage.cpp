@@ -50,11 +50,9 @@ void BrowsePage::Init_ShapeFlex() {
     ShapeFlex.Set_Row_Height(0, 460);
     for (int col = 0; col < ShapeFlex.Cols(); ++col) {
         ShapeFlex.Set_Col_Width(col, widths[col]);
-        ShapeFlex.Set_Style(0, col,
-                            {.Align = col == 3 ? Alignment::Left : Alignment::Centre,
-                             .Tahoma = true,
-                             .Fore = Colours::HeadText,
-                             .Back = Colours::HeadBack});
+        CellStyle style = HeadStyle;
+        style.Align = col == 3 ? Alignment::Left : Alignment::Centre;
+        ShapeFlex.Set_Style(0, col, style);
         ShapeFlex.Set_Text(0, col, heads[col]);
     }
     ShapeFlex.Select_Range(1, 3, 1, 3);

@@ -26,10 +26,6 @@ constexpr int nameColumns = 2;
 constexpr CellStyle symbolStyle{.Align = Alignment::Centre, .Fore = Colours::SymbolText};
 constexpr CellStyle rightStyle{.Align = Alignment::Right};
 constexpr CellStyle centreStyle{.Align = Alignment::Centre};
-constexpr CellStyle headStyle{.Align = Alignment::Centre,
-                              .Tahoma = true,
-                              .Fore = Colours::HeadText,
-                              .Back = Colours::HeadBack};
 constexpr CellStyle nameStyle{.Align = Alignment::Centre, .Fore = Colours::NameText};
 
 // A text that was not written now tells something of another section.
@@ -106,7 +102,7 @@ int Column_Of(std::span<const int> numbering, std::size_t entry) {
 }
 
 void Write_Head(FlexGrid& grid, int col, std::string text) {
-    grid.Set_Style(0, col, headStyle);
+    grid.Set_Style(0, col, HeadStyle);
     grid.Set_Text(0, col, std::move(text));
 }
 

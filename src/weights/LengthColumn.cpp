@@ -6,8 +6,6 @@
 #include "measures/FeetInchParsing.h"
 #include "measures/InputFilters.h"
 
-#include <algorithm>
-
 namespace Tensarix {
 
 namespace {
@@ -18,21 +16,6 @@ constexpr std::string_view warningTitle = "Warning";
 
 std::string Feet_Text(double feet) {
     return Format_FeetInch(feet, Sixteenths, 0, 0);
-}
-
-// The first cell of each line, without the blank lines at the end.
-std::vector<std::string> Pasted_Lines(std::string_view text) {
-    const std::string plain = Replace_All(Replace_All(text, "\r\n", "\n"), "\r", "\n");
-    std::vector<std::string> lines;
-    for (std::size_t at = 0; at <= plain.size();) {
-        const std::size_t end = std::min(plain.find('\n', at), plain.size());
-        const std::string line = plain.substr(at, end - at);
-        lines.push_back(Trim(line.substr(0, line.find('\t'))));
-        at = end + 1;
-    }
-    while (!lines.empty() && lines.back().empty())
-        lines.pop_back();
-    return lines;
 }
 
 } // namespace
@@ -60,10 +43,11 @@ CellEditing::TextCells LengthColumn::Cells() {
                 },
             .Changed = [this] { Remember(); },
             .Validate = [this] { Validate(); },
-            .Committed = [this](const std::string&) { Run(parts_.Compute); }};
+            .Committed = [this](const std::string&) { Run(parts_.Compute); },
+            .Accepts = [this](const std::string& text) { return Accepted(text); }};
 }
 
-// Metres are tested as feet and inches too, which every plain number passes; intended.
+// Metres are tested as feet and inches too: every plain number passes.
 void LengthColumn::Remember() const {
     const std::string text = Trim(parts_.Editor.Text());
     if (const std::optional<double> feet = Feet_Of(text))
@@ -85,59 +69,18 @@ void LengthColumn::Validate() const {
     }
 }
 
-bool LengthColumn::Is_Valid(const std::string& text) const {
-    return text.empty() ||
-           (parts_.Unit == LengthUnit::Metres ? Is_Numeric(text) : Is_FeetInch(text));
-}
-
-std::string LengthColumn::Normal(const std::string& text) const {
+// Of a pasted text, which no key filter has passed.
+std::optional<std::string> LengthColumn::Accepted(const std::string& text) const {
+    const bool metres = parts_.Unit == LengthUnit::Metres;
+    if (metres ? !Is_Numeric(text) : !Is_FeetInch(text))
+        return std::nullopt;
     TextBox scratch;
     scratch.Set_Text(text);
-    if (parts_.Unit == LengthUnit::Metres)
+    if (metres)
         Commit_Metric(scratch);
     else
         Commit_Length(scratch);
     return scratch.Text();
-}
-
-void LengthColumn::Refuse(const std::string& reason) const {
-    parts_.Host.Boxes.Show(reason + " Nothing was pasted.", warningTitle, MessageIcon::Stop);
-}
-
-bool LengthColumn::Fits(const std::vector<std::string>& lengths) const {
-    const int first = parts_.Grid.Row(), room = parts_.Grid.Rows() - first;
-    if (lengths.size() > static_cast<std::size_t>(room)) {
-        Refuse("There are " + std::to_string(lengths.size()) + " lengths to paste, but only " +
-               std::to_string(room) + " rows from row " + std::to_string(first) + " on.");
-        return false;
-    }
-    std::string invalid;
-    int row = first;
-    for (const std::string& length : lengths) {
-        if (!Is_Valid(length))
-            invalid += (invalid.empty() ? "" : ", ") + std::to_string(row);
-        ++row;
-    }
-    if (!invalid.empty())
-        Refuse("Invalid distance input for row " + invalid + ".");
-    return invalid.empty();
-}
-
-void LengthColumn::Paste() {
-    const std::vector<std::string> lengths = Pasted_Lines(parts_.Host.Clip.Text());
-    if (lengths.empty() || !Fits(lengths))
-        return;
-    FlexGrid& grid = parts_.Grid;
-    const int first = grid.Row();
-    int row = first;
-    for (const std::string& length : lengths) {
-        grid.Move_To(row, parts_.Col);
-        grid.Set_Text(row, parts_.Col, Normal(length));
-        Run(parts_.Compute);
-        ++row;
-    }
-    grid.Move_To(first, parts_.Col);
-    grid.Extend_To(row - 1, parts_.Col);
 }
 
 } // namespace Tensarix

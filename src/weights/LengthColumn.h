@@ -4,9 +4,9 @@
 #include "controls/CellEditing.h"
 #include "platform/Machine.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Tensarix {
 
@@ -25,7 +25,6 @@ class LengthColumn {
   public:
     // What the column works on.
     struct Parts {
-        FlexGrid& Grid;
         int Col;
         TextBox& Editor;
         LengthUnit Unit;
@@ -39,18 +38,10 @@ class LengthColumn {
 
     CellEditing::TextCells Cells();
 
-    // Fills the column downwards from the current row with the lengths on the clipboard, one a
-    // line; of a line with several cells the first counts. Each passes the same validation. If one
-    // fails, or there are more than rows, nothing is written and one message tells why.
-    void Paste();
-
   private:
     void Remember() const;
     void Validate() const;
-    bool Is_Valid(const std::string& text) const;
-    bool Fits(const std::vector<std::string>& lengths) const;
-    void Refuse(const std::string& reason) const;
-    std::string Normal(const std::string& text) const;
+    std::optional<std::string> Accepted(const std::string& text) const;
 
     Parts parts_;
 };

@@ -43,6 +43,10 @@ WtCalcsFrm::WtCalcsFrm(Desk& desk, SavedLengths& saved)
     ShapeSizeSI.OnChange = [this] { ShapeSizeSI_Change(); };
     SSTab1.OnChange = [this] { Show_Total(); };
     ClearButton.OnClick = [this] { ClearButton_Click(); };
+    missing_ = [this](const FlexGrid& grid, int row) {
+        const bool typed = !Trim(grid.Text(row, lengthCol)).empty();
+        return typed && ShapeSizeUS.ListIndex() < 0 ? NoSectionRemark : std::string_view{};
+    };
     Go_Back_On_Focus(ImperialFlex, imperialRow_);
     Go_Back_On_Focus(MetricFlex, metricRow_);
 }
@@ -127,7 +131,8 @@ void WtCalcsFrm::Read_Section() {
     });
 }
 
-// Both sheets, also the one that doesn't show. Their current cells end in the last row; intended.
+// Both sheets, also the one that doesn't show. Computing a row makes it the current one, so the
+// current cells end in the last row.
 void WtCalcsFrm::Compute_All() {
     if (imperialRow_ == 0)
         imperialRow_ = ImperialFlex.Row();

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int sizeCol = 1, lengthCol = 2, weightCol = 3;
 constexpr double sameLength = 1e-9; // feet
+constexpr std::string_view noLengthRemark = "Type a length first";
 constexpr std::string_view noSizeRemark =
     "Computed without a size: none was picked in the list. Pick the size of this row again";
 
@@ -41,22 +42,14 @@ double Find_Weight(const std::filesystem::path& folder, const std::string& query
     return weight;
 }
 
-// The weight is that of the leading number of the text. Tells so where that isn't the length.
-std::string Charged_Remark(const std::string& length) {
-    std::string remark;
-    Attempt([&] {
-        const double charged = Leading_Value(length);
-        const std::optional<double> feet = Feet_Of(Trim(length));
-        if (feet && std::abs(*feet - charged) > sameLength)
-            remark = "Charged for " + General_Text(charged) +
-                     " ft: this calculator uses the whole feet of the length";
-    });
-    return remark;
+// The exact length, if another one is charged: the leading number of the text counts.
+std::optional<double> Uncharged_Feet(const std::string& length, double charged) {
+    const std::optional<double> feet = Feet_Of(Trim(length));
+    return feet && std::abs(*feet - charged) > sameLength ? feet : std::nullopt;
 }
 
-void Add_Sizes(CellEditing& editing, ComboBox& sizes, std::function<void(bool)> compute) {
-    editing.Add(CellEditing::ComboCells{sizes, [](int, int col) { return col == sizeCol; },
-                                        std::move(compute)});
+Advice Weight_Remark(const FlexGrid& grid, int row) {
+    return {grid.Remark(row, weightCol), grid.Remark_Weight(row, weightCol)};
 }
 
 } // namespace
@@ -66,14 +59,45 @@ WtCalcsFrmA::WtCalcsFrmA(Desk& desk, SavedRows& saved)
           desk, lengthCol, [this] { Compute_Row_Imperial(ImperialFlex, false); },
           [this] { Compute_Row_Metric(MetricFlex, false); }),
       Saved_Rows(saved) {
-    Add_Sizes(imperialEditing_, ShapeSizeUS,
-              [this](bool useCombo) { Compute_Row_Imperial(ImperialFlex, useCombo); });
-    Add_Sizes(metricEditing_, ShapeSizeSI,
-              [this](bool useCombo) { Compute_Row_Metric(MetricFlex, useCombo); });
+    Add_Sizes(imperialEditing_, ImperialFlex, ShapeSizeUS, true);
+    Add_Sizes(metricEditing_, MetricFlex, ShapeSizeSI, false);
+    missing_ = [](const FlexGrid& grid, int row) -> std::string_view {
+        const bool sized = !Trim(grid.Text(row, sizeCol)).empty();
+        const bool typed = !Trim(grid.Text(row, lengthCol)).empty();
+        if (sized == typed)
+            return {};
+        return typed ? NoSectionRemark : noLengthRemark;
+    };
     ShapeType.OnChange = [this] { ShapeType_Change(); };
     ShapeType.Focus.OnGotFocus = [this] { Hide_Lists(); };
     SSTab1.OnChange = [this] { SSTab1_Change(); };
     ClearButton.OnClick = [this] { ClearButton_Click(); };
+}
+
+void WtCalcsFrmA::Add_Sizes(CellEditing& editing, FlexGrid& grid, ComboBox& sizes, bool imperial) {
+    editing.Add(CellEditing::ComboCells{
+        .Editor = sizes,
+        .Editable = [](int, int col) { return col == sizeCol; },
+        .Compute =
+            [this, &grid, imperial](bool useCombo) {
+                if (imperial)
+                    Compute_Row_Imperial(grid, useCombo);
+                else
+                    Compute_Row_Metric(grid, useCombo);
+            },
+        .Dropped =
+            [this, &grid, &sizes] {
+                if (!grid.Text(grid.Row(), weightCol).empty())
+                    grid.Set_Remark(grid.Row(), weightCol,
+                                    "The weight is that of " + Trim(sizes.Text()) +
+                                        ", which was not taken into the row",
+                                    RemarkWeight::Caution);
+                Show_Total();
+            },
+        .Accepts = [this, imperial](const std::string& label) -> std::optional<std::string> {
+            const double weight = imperial ? Find_Weight_US(label) : Find_Weight_SI(label);
+            return weight != 0 ? std::optional{label} : std::nullopt;
+        }});
 }
 
 void WtCalcsFrmA::Init_Head(FlexGrid& grid, bool imperial) {
@@ -98,8 +122,10 @@ void WtCalcsFrmA::Load() {
                                   Trim(saved.*column.Imperial).append(column.Padding));
             MetricFlex.Set_Text(row, column.Col, Trim(saved.*column.Metric).append(column.Padding));
         }
-        ImperialFlex.Set_Remark(row, weightCol, saved.ImperialRemark);
-        MetricFlex.Set_Remark(row, weightCol, saved.MetricRemark);
+        ImperialFlex.Set_Remark(row, weightCol, saved.ImperialRemark.Text,
+                                saved.ImperialRemark.Weight);
+        MetricFlex.Set_Remark(row, weightCol, saved.MetricRemark.Text, saved.MetricRemark.Weight);
+        exactPounds_[static_cast<std::size_t>(row)] = saved.ExactPounds;
         ++row;
     }
     Start_Family_List();
@@ -115,8 +141,9 @@ void WtCalcsFrmA::Unload() {
             saved.*column.Imperial = Trim(ImperialFlex.Text(row, column.Col));
             saved.*column.Metric = Trim(MetricFlex.Text(row, column.Col));
         }
-        saved.ImperialRemark = ImperialFlex.Remark(row, weightCol);
-        saved.MetricRemark = MetricFlex.Remark(row, weightCol);
+        saved.ImperialRemark = Weight_Remark(ImperialFlex, row);
+        saved.MetricRemark = Weight_Remark(MetricFlex, row);
+        saved.ExactPounds = exactPounds_[static_cast<std::size_t>(row)];
         ++row;
     }
 }
@@ -144,22 +171,32 @@ bool WtCalcsFrmA::Can_Compute(FlexGrid& grid, bool useCombo) {
 
 void WtCalcsFrmA::Remark_Weight(FlexGrid& grid, double weightPerLength, const std::string& label) {
     if (label.empty())
-        grid.Set_Remark(grid.Row(), weightCol, std::string{noSizeRemark});
+        grid.Set_Remark(grid.Row(), weightCol, std::string{noSizeRemark}, RemarkWeight::Caution);
     else if (weightPerLength == 0)
         Mark_Stale(grid, grid.Row());
 }
 
 // The leading number of the length's text is charged: its whole feet, and the inches of a length
-// without feet as if they were feet. Intended; the remark tells so.
+// without feet as if they were feet. The remark and the total tell what the exact length weighs.
 void WtCalcsFrmA::Compute_Row_Imperial(FlexGrid& grid, bool useCombo) {
+    const int row = grid.Row();
+    std::optional<double>& exact = exactPounds_[static_cast<std::size_t>(row)];
+    exact.reset();
     if (Can_Compute(grid, useCombo)) {
-        const int row = grid.Row();
         const std::string label = Trim(useCombo ? ShapeSizeUS.Text() : grid.Text(row, sizeCol));
-        const std::string& length = grid.Text(row, lengthCol);
+        const std::string length = grid.Text(row, lengthCol);
         WeightPerFoot = Find_Weight_US(label);
-        Attempt([&] { Write_Weight(grid, row, Leading_Value(length), WeightPerFoot); });
-        if (const std::string remark = Charged_Remark(length); !remark.empty())
-            grid.Set_Remark(row, weightCol, remark);
+        Attempt([&] {
+            const double charged = Leading_Value(length);
+            Write_Weight(grid, row, charged, WeightPerFoot);
+            if (const std::optional<double> feet = Uncharged_Feet(length, charged)) {
+                exact = *feet * WeightPerFoot;
+                grid.Set_Remark(row, weightCol,
+                                "Charged for " + General_Text(charged) +
+                                    " ft: this calculator uses the whole feet of the length",
+                                RemarkWeight::Caution);
+            }
+        });
         Remark_Weight(grid, WeightPerFoot, label);
     }
     Show_Total();
@@ -178,16 +215,9 @@ void WtCalcsFrmA::Compute_Row_Metric(FlexGrid& grid, bool useCombo) {
     Show_Total();
 }
 
-// A row whose list goes without a commit is computed as its cells stand: what was picked is not
-// in them, and no weight may stand for it.
 void WtCalcsFrmA::Hide_Lists() {
-    const bool us = ShapeSizeUS.Visible(), si = ShapeSizeSI.Visible();
-    ShapeSizeUS.Show(false);
-    ShapeSizeSI.Show(false);
-    if (us)
-        Compute_Row_Imperial(ImperialFlex, false);
-    if (si)
-        Compute_Row_Metric(MetricFlex, false);
+    imperialEditing_.Hide_Lists();
+    metricEditing_.Hide_Lists();
 }
 
 // The rows stay: a sheet may hold sizes of several families.

@@ -6,6 +6,8 @@
 #include "weights/WtCalcsSheets.h"
 
 #include <array>
+#include <optional>
+#include <string>
 
 namespace Tensarix {
 
@@ -13,7 +15,9 @@ namespace Tensarix {
 // runs.
 struct SavedRow {
     std::string ImperialSize, MetricSize, ImperialLength, MetricLength, ImperialWeight,
-        MetricWeight, ImperialRemark, MetricRemark;
+        MetricWeight;
+    Advice ImperialRemark, MetricRemark;
+    std::optional<double> ExactPounds;
 };
 using SavedRows = std::array<SavedRow, EntryRows>;
 
@@ -44,6 +48,7 @@ class WtCalcsFrmA final : public WtCalcsSheets {
     // False: the row has no weight, and the cell is empty now.
     static bool Can_Compute(FlexGrid& grid, bool useCombo);
     static void Remark_Weight(FlexGrid& grid, double weightPerLength, const std::string& label);
+    void Add_Sizes(CellEditing& editing, FlexGrid& grid, ComboBox& sizes, bool imperial);
     void Hide_Lists();
     void ShapeType_Change();
     void SSTab1_Change();

@@ -4,6 +4,8 @@
 #include "common/NumberText.h"
 #include "sections/FamilyTable.h"
 
+#include <algorithm>
+
 namespace Tensarix {
 
 namespace {
@@ -11,15 +13,19 @@ namespace {
 constexpr double rowHeightMin = 350; // twips
 constexpr std::string_view weightPattern = "##,##0.00     ";
 
-constexpr CellStyle headStyle{.Align = Alignment::Centre,
-                              .Tahoma = true,
-                              .Bold = true,
-                              .Fore = Colours::HeadText,
-                              .Back = Colours::HeadBack};
+constexpr CellStyle Bold(CellStyle style) {
+    style.Bold = true;
+    return style;
+}
+constexpr CellStyle headStyle = Bold(HeadStyle);
 constexpr CellStyle numberStyle{.Align = Alignment::Centre, .Fore = Colours::SymbolText};
 
 int Weight_Col(const FlexGrid& grid) {
     return grid.Cols() - 1;
+}
+
+std::string Weight_Text(double weight) {
+    return Trim(Format_Number(weight, weightPattern));
 }
 
 } // namespace
@@ -28,22 +34,25 @@ WtCalcsSheets::WtCalcsSheets(Desk& desk, int lengthCol, Handler computeImperial,
                              Handler computeMetric)
     : desk_(desk), imperialEditing_(ImperialFlex, [&desk] { desk.Host.Events.Turn(); }),
       metricEditing_(MetricFlex, [&desk] { desk.Host.Events.Turn(); }),
-      imperialLengths_({ImperialFlex, lengthCol, EdiTxt, LengthUnit::FeetInches, LastLength,
-                        desk.Host, std::move(computeImperial)}),
-      metricLengths_({MetricFlex, lengthCol, EdiTxtA, LengthUnit::Metres, LastLength, desk.Host,
+      imperialLengths_({lengthCol, EdiTxt, LengthUnit::FeetInches, LastLength, desk.Host,
+                        std::move(computeImperial)}),
+      metricLengths_({lengthCol, EdiTxtA, LengthUnit::Metres, LastLength, desk.Host,
                       std::move(computeMetric)}) {
     imperialEditing_.Add(imperialLengths_.Cells());
     metricEditing_.Add(metricLengths_.Cells());
-    Wire_Grid(ImperialFlex, imperialLengths_);
-    Wire_Grid(MetricFlex, metricLengths_);
+    Wire_Grid(ImperialFlex, imperialEditing_);
+    Wire_Grid(MetricFlex, metricEditing_);
     ClearButton.Set_Caption("Clear Entries");
     ExitButton.Set_Caption("Exit");
     ExitButton.OnClick = [this] { Run(Close); };
 }
 
-void WtCalcsSheets::Wire_Grid(FlexGrid& grid, LengthColumn& lengths) {
+void WtCalcsSheets::Wire_Grid(FlexGrid& grid, CellEditing& editing) {
     grid.OnSelChange = [this] { Show_Remark(); };
-    grid.OnPaste = [&lengths] { lengths.Paste(); };
+    grid.OnPaste = [this, &editing] {
+        if (const std::string refusal = editing.Paste(desk_.Host.Clip.Text()); !refusal.empty())
+            desk_.Host.Boxes.Show(refusal + " Nothing was pasted.", "Warning", MessageIcon::Stop);
+    };
     grid.OnCopy = [this, &grid] {
         desk_.Host.Clip.Clear();
         desk_.Host.Clip.Set_Text(grid.Clip());
@@ -80,7 +89,8 @@ void WtCalcsSheets::Write_Weight(FlexGrid& grid, int row, double length, double 
 
 void WtCalcsSheets::Mark_Stale(FlexGrid& grid, int row) {
     if (!Trim(grid.Text(row, Weight_Col(grid))).empty())
-        grid.Set_Remark(row, Weight_Col(grid), std::string{StaleWeightRemark});
+        grid.Set_Remark(row, Weight_Col(grid), std::string{StaleWeightRemark},
+                        RemarkWeight::Caution);
 }
 
 void WtCalcsSheets::Clear_Entries(FlexGrid& grid) {
@@ -94,26 +104,45 @@ void WtCalcsSheets::Commit_Open_Editors() {
     metricEditing_.Leave();
 }
 
+// The sum of what the rows show; where lengths were charged that are not the exact ones, the sum of
+// those too. In doubt if one of its rows is.
 void WtCalcsSheets::Show_Total() {
     const FlexGrid& grid = Shown_Grid();
+    const int col = Weight_Col(grid);
+    const char* unit = Shows_Imperial() ? " lb" : " kg";
     int count = 0;
-    double sum = 0;
+    double sum = 0, exact = 0;
+    RemarkWeight weight = RemarkWeight::Note;
     for (int row = 1; row <= EntryRows; ++row) {
-        const std::string text = Replace_All(Trim(grid.Text(row, Weight_Col(grid))), ",", "");
-        count += text.empty() ? 0 : 1;
-        Attempt([&] { sum += Leading_Value(text); });
+        const std::string text = Replace_All(Trim(grid.Text(row, col)), ",", "");
+        if (text.empty())
+            continue;
+        ++count;
+        weight = std::max(weight, grid.Remark_Weight(row, col));
+        Attempt([&] {
+            const double shown = Leading_Value(text);
+            const auto& other = exactPounds_[static_cast<std::size_t>(row)];
+            sum += shown;
+            exact += Shows_Imperial() ? other.value_or(shown) : shown;
+        });
     }
     Attempt([&] {
-        TotalLabel.Set_Caption("Rows: " + std::to_string(count) +
-                               "     Total weight: " + Trim(Format_Number(sum, weightPattern)) +
-                               (Shows_Imperial() ? " lb" : " kg"));
+        std::string total =
+            "Rows: " + std::to_string(count) + "     Total weight: " + Weight_Text(sum) + unit;
+        if (Weight_Text(exact) != Weight_Text(sum))
+            total += " (exact lengths: " + Weight_Text(exact) + unit + ")";
+        TotalLabel.Set_Caption(std::move(total), weight);
     });
     Show_Remark();
 }
 
 void WtCalcsSheets::Show_Remark() {
     const FlexGrid& grid = Shown_Grid();
-    RemarkLabel.Set_Caption(grid.Remark(grid.Row(), Weight_Col(grid)));
+    const int row = grid.Row(), col = Weight_Col(grid);
+    if (const std::string& remark = grid.Remark(row, col); !remark.empty())
+        RemarkLabel.Set_Caption(remark, grid.Remark_Weight(row, col));
+    else
+        RemarkLabel.Set_Caption(std::string{missing_(grid, row)});
 }
 
 void WtCalcsSheets::Start_Family_List() {
@@ -121,8 +150,7 @@ void WtCalcsSheets::Start_Family_List() {
     Attempt([&] { ShapeType.Select(desk_.Saved.Position(Setting::CalcWtShapeType)); });
 }
 
-// With no size chosen the position -1 is saved, and so none is chosen at the next opening;
-// intended.
+// With no size chosen the position -1 is saved, and so none is chosen at the next opening.
 void WtCalcsSheets::Save_Choice() const {
     desk_.Saved.Save(Setting::CalcWtShapeType, std::to_string(ShapeType.ListIndex()));
     if (ShapeType.ListIndex() >= 0)

@@ -7,6 +7,9 @@
 #include "desk/Desk.h"
 #include "weights/LengthColumn.h"
 
+#include <array>
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,6 +24,8 @@ inline constexpr int MetricTab = 1;
 // Of a weight that stands though it could not be computed anew.
 inline constexpr std::string_view StaleWeightRemark =
     "Not the weight of this row: its section or its length could not be read";
+// Of a row that has no weight, or none of a section.
+inline constexpr std::string_view NoSectionRemark = "Choose a section first";
 
 struct SheetColumn {
     std::string_view Head;
@@ -37,7 +42,7 @@ class WtCalcsSheets {
     TextBox EdiTxt, EdiTxtA;
     Button ClearButton, ExitButton;
     Label TotalLabel;  // count and sum of the rows with a weight on the tab that shows
-    Label RemarkLabel; // the remark of the current row there
+    Label RemarkLabel; // the remark of the current row there, or why it has no weight
     Handler Close;     // the dialog's
 
     double WeightPerFoot = 0;  // lb/ft
@@ -67,11 +72,16 @@ class WtCalcsSheets {
     void Start_Family_List();
     void Save_Choice() const;
 
+    // lb by the exact length, where another length was charged; by row.
+    std::array<std::optional<double>, EntryRows + 1> exactPounds_;
+    // Why a row of a sheet has no weight; empty: nothing is missing.
+    std::function<std::string_view(const FlexGrid& grid, int row)> missing_;
+
     Desk& desk_;
     CellEditing imperialEditing_, metricEditing_;
 
   private:
-    void Wire_Grid(FlexGrid& grid, LengthColumn& lengths);
+    void Wire_Grid(FlexGrid& grid, CellEditing& editing);
     void Show_Remark();
 
     LengthColumn imperialLengths_, metricLengths_;

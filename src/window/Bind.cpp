@@ -17,6 +17,7 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QGroupBox>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -70,18 +71,35 @@ class ItemModel final : public QAbstractListModel {
     unsigned version_ = ~0u;
 };
 
-// True if the handler has hidden the control: the key was for it alone then. Shift with an arrow
-// selects in a text and is no handler's.
+// True if the handler has hidden the control: the key was for it alone then. Shift with Left or
+// Right selects in a text and is no handler's.
 template <typename Control>
 bool Tell_Key_Down(Control& control, const QKeyEvent& event) {
     const int code = Key_Code(event);
     const bool selects =
-        (event.modifiers() & Qt::ShiftModifier) != 0 && code >= Keys::Left && code <= Keys::Down;
+        (event.modifiers() & Qt::ShiftModifier) != 0 && (code == Keys::Left || code == Keys::Right);
     if (!control.OnKeyDown || code == 0 || selects)
         return false;
     const bool shown = control.Visible();
     control.OnKeyDown(code);
     return shown && !control.Visible();
+}
+
+// Text that comes from an input method passes the filter of the keys, character by character. True
+// if it had to be changed, and the widget has got what is left of it.
+bool Filter_Input_Method(QWidget* widget, const KeyFilter& filter, QInputMethodEvent& event) {
+    if (!filter)
+        return false;
+    QString kept;
+    for (const QChar character : event.commitString())
+        if (filter(character.unicode()) != 0)
+            kept += character;
+    if (kept == event.commitString())
+        return false;
+    QInputMethodEvent rest(event.preeditString(), event.attributes());
+    rest.setCommitString(kept, event.replacementStart(), event.replacementLength());
+    QCoreApplication::sendEvent(widget, &rest);
+    return true;
 }
 
 // Keys and wheel of a list. The wheel does not change a closed one, and Page Up and Page Down move
@@ -103,6 +121,9 @@ class ComboKeys final : public QObject {
         }
         if (event->type() == QEvent::FocusIn)
             typed_.clear();
+        if (event->type() == QEvent::InputMethod && watched == widget_ && widget_->isEditable())
+            return Filter_Input_Method(widget_, control_.OnKeyPress,
+                                       *static_cast<QInputMethodEvent*>(event));
         if (event->type() != QEvent::KeyPress)
             return false;
         auto* key = static_cast<QKeyEvent*>(event);
@@ -209,6 +230,9 @@ class TextKeys final : public QObject {
 
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::InputMethod)
+            return Filter_Input_Method(widget_, control_.OnKeyPress,
+                                       *static_cast<QInputMethodEvent*>(event));
         return event->type() == QEvent::KeyPress && Key_Pressed(static_cast<QKeyEvent*>(event));
     }
 

@@ -20,7 +20,7 @@ class Sheet {
     FocusPoint Elsewhere;
     std::vector<std::string> Log;
     bool Valid = true;
-    std::function<void()> OnTurn, OnValidate;
+    std::function<void()> OnTurn, OnValidate, OnCommit;
     CellEditing Editing{Grid, [this] {
                             Log.emplace_back("turn");
                             Run(OnTurn);
@@ -46,10 +46,15 @@ class Sheet {
             [this](const std::string& before) {
                 Log.push_back("commit " + before + ">" + Grid.Text(Grid.Row(), 2) + " at " +
                               std::to_string(Grid.Row()) + (Box.Visible() ? " shown" : ""));
+                Run(OnCommit);
+            },
+            [](const std::string& text) {
+                return text == "x" ? std::nullopt : std::optional{"<" + text + ">"};
             }});
         Editing.Add(CellEditing::ComboCells{
             List, [](int, int col) { return col == 1; },
-            [this](bool useCombo) { Log.emplace_back(useCombo ? "list" : "cell"); }});
+            [this](bool useCombo) { Log.emplace_back(useCombo ? "list" : "cell"); },
+            [this] { Log.emplace_back("dropped " + List.Text()); }});
         Grid.Move_To(2, 2);
         Grid.Focus.Set();
         Log.clear();
@@ -108,7 +113,7 @@ TEST(CellEditing, WhatDoesNotOpenTheEditor) {
     sheet.Grid.OnKeyDown(Keys::F2);
     sheet.Grid.OnDblClick();
     sheet.Grid.OnKeyDown(Keys::Delete);
-    EXPECT_FALSE(sheet.Editing.Is_Open());
+    EXPECT_FALSE(sheet.Box.Visible() || sheet.List.Visible());
     EXPECT_EQ(sheet.Log, Lines{});
 }
 
@@ -280,7 +285,50 @@ TEST(CellEditing, TheBoxFollowsTheScrollAndTheListCloses) {
     sheet.Grid.Set_Top_Row(1);
     EXPECT_FALSE(sheet.List.Visible());
     EXPECT_EQ(sheet.Grid.Text(2, 1), "");
-    EXPECT_EQ(sheet.Log, Lines{"cell"});
+    EXPECT_EQ(sheet.Log, Lines{"dropped W8x13"}) << "nothing is committed, nothing computed";
+
+    sheet.Grid.OnMouseDown();
+    sheet.List.Select(2);
+    sheet.Elsewhere.Set(); // out of the grid: the list stays as it is
+    EXPECT_EQ(sheet.Grid.Text(2, 1), "");
+    sheet.Grid.Focus.Set();
+    EXPECT_EQ(sheet.Grid.Text(2, 1), "W8x13");
+}
+
+TEST(CellEditing, DeleteEmptiesTheMarkedCells) {
+    Sheet sheet;
+    for (int row = 1; row < 4; ++row)
+        for (int col = 0; col < 4; ++col)
+            sheet.Grid.Set_Text(row, col, std::to_string(10 * row + col));
+    sheet.Grid.Select_Range(2, 3, 1, 0); // marked from its lower right corner
+    sheet.Grid.OnKeyDown(Keys::Delete);
+    EXPECT_EQ(sheet.Log, (Lines{"cell", "commit 12> at 1", "cell", "commit 22> at 2"}));
+    EXPECT_EQ(sheet.Where() + "," + std::to_string(sheet.Grid.Row_Sel()), "2,3,1");
+    EXPECT_EQ(sheet.Grid.Clip(), "10\t\t\t13\r20\t\t\t23");
+    EXPECT_EQ(sheet.Grid.Text(3, 2), "32");
+}
+
+TEST(CellEditing, ABlockIsPastedAsAWholeOrNotAtAll) {
+    Sheet sheet;
+    sheet.Grid.Move_To(2, 3); // no cell to edit: the block starts with the row's first one
+    EXPECT_EQ(sheet.Editing.Paste("W8x13\t1\tmore\r\n\t 2 \n \n"), "");
+    EXPECT_EQ(sheet.Grid.Clip(), "W8x13\t<1>\r\t<2>");
+    EXPECT_EQ(sheet.Log, (Lines{"cell", "commit ><1> at 2", "cell", "commit ><2> at 3"}));
+    sheet.Grid.Move_To(1, 2);
+    EXPECT_EQ(sheet.Editing.Paste("1\nx\nx\t"), "Invalid input for row 2, 3.");
+    sheet.Grid.Move_To(2, 2);
+    EXPECT_EQ(sheet.Editing.Paste("1\n2\n3"),
+              "There are 3 rows to paste, but only 2 from row 2 on.");
+    EXPECT_EQ(sheet.Grid.Text(2, 2), "<1>");
+
+    sheet.OnCommit = [&] { // who goes on meanwhile keeps his place, and a row may have gone
+        sheet.OnCommit = nullptr;
+        sheet.Grid.Move_To(1, 3);
+        sheet.Grid.Set_Rows(3);
+    };
+    EXPECT_EQ(sheet.Editing.Paste("7\n8"), "");
+    EXPECT_EQ(sheet.Where(), "1,3");
+    EXPECT_EQ(sheet.Grid.Text(2, 2), "<7>");
 }
 
 TEST(CellEditing, TheListFindsItsItemByTheTrimmedText) {

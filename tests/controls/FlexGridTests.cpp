@@ -69,8 +69,8 @@ TEST(FlexGrid, MovesRunTheHandlersInOrder) {
     EXPECT_FALSE(grid.Move_To(2, 2));
     grid.Press(2, 2); // selects it again
     grid.Press(3, 1);
-    grid.Move_By(10, -10, false);
-    grid.Move_By(-1, 0, true);
+    grid.Go_To(4, 0, false);
+    grid.Go_To(3, 0, true);
     EXPECT_EQ(log, "leave11 sel22 sel22 mouse22 leave22 sel31 mouse31 leave31 sel40 ");
     EXPECT_EQ(grid.Row_Sel(), 3);
 }

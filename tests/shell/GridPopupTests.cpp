@@ -112,8 +112,8 @@ TEST_F(GridPopupTest, Keys) {
     machine.Clip.Held = "untouched";
     Tensarix::Run(Grid().OnCopy);
     EXPECT_EQ(machine.Clip.Held, "untouched");
-    Grid().Move_By(1, 0, false);
-    Grid().Move_By(0, 1, true);
+    Grid().Go_To(2, 1, false);
+    Grid().Go_To(2, 2, true);
     Tensarix::Run(Grid().OnCopy);
     EXPECT_EQ(machine.Clip.Held, "r2c1  \tr2c2  ");
 }

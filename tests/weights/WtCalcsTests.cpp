@@ -89,6 +89,47 @@ class Type2 : public WtCalcs {
 
 } // namespace
 
+TEST_F(WtCalcs, TheSheetsAsTheyAreLaidOut) {
+    const char *feet = "PROFILE LENGTH\n(Feet-Inches)", *metres = "PROFILE LENGTH\n(Meter)";
+    const char *pounds = "PROFILE WEIGHT\n(Lbs.)", *kilograms = "PROFILE WEIGHT\n(Kg)";
+    const char* size = "PROFILE SIZE\n";
+    WtCalcsFrm one(desk, lengths);
+    WtCalcsFrmA two(desk, rows);
+    one.Load();
+    two.Load();
+    const struct {
+        const FlexGrid& Grid;
+        std::vector<std::pair<const char*, double>> Columns; // head and width
+    } sheets[] = {
+        {one.ImperialFlex, {{"No.", 700}, {feet, 2100}, {pounds, 2500}}},
+        {one.MetricFlex, {{"No.", 700}, {metres, 2100}, {kilograms, 2500}}},
+        {two.ImperialFlex, {{"No.", 700}, {size, 2350}, {feet, 1700}, {pounds, 2000}}},
+        {two.MetricFlex, {{"No.", 700}, {size, 2350}, {metres, 1700}, {kilograms, 2000}}}};
+    const CellStyle head{Alignment::Centre, true, true, 0x0000FF, 0xFFFFC0};
+    for (const auto& sheet : sheets) {
+        const FlexGrid& grid = sheet.Grid;
+        EXPECT_EQ(grid.Rows(), 51);
+        EXPECT_EQ(grid.FixedRows() + grid.FixedCols(), 2);
+        ASSERT_EQ(grid.Cols(), static_cast<int>(sheet.Columns.size()));
+        for (int col = 0; col < grid.Cols(); ++col) {
+            EXPECT_EQ(grid.Text(0, col), sheet.Columns[static_cast<std::size_t>(col)].first);
+            EXPECT_EQ(grid.Col_Width(col), sheet.Columns[static_cast<std::size_t>(col)].second);
+            EXPECT_EQ(grid.Style(0, col), head);
+        }
+        EXPECT_EQ(grid.Row_Height(50), 350);
+        EXPECT_EQ(grid.Text(50, 0), "50");
+        EXPECT_EQ(grid.Style(50, 0).Fore, 0xFF0000u);
+        EXPECT_EQ(grid.Style(50, grid.Cols() - 1).Align, Alignment::Right);
+    }
+    EXPECT_EQ(WeightCaption, "Weight Calculator");
+    EXPECT_EQ(one.ClearButton.Caption() + two.ExitButton.Caption(), "Clear EntriesExit");
+    EXPECT_EQ(WtCalcsFrm::ImperialCaption, "  Imperial Input  ");
+    EXPECT_EQ(WtCalcsFrm::MetricCaption, "  Metric Input  ");
+    EXPECT_EQ(WtCalcsFrmA::ImperialCaption, "  Standard U.S. Profile  ");
+    EXPECT_EQ(WtCalcsFrmA::MetricCaption, "  SI Equivalent Profile  ");
+    EXPECT_EQ(one.ShapeType.Count() + two.ShapeType.Count(), 34);
+}
+
 TEST_F(Type1, LengthsComeBackInNormalFormWithTheirWeight) {
     struct Case {
         const char* Size;
@@ -239,6 +280,10 @@ TEST_F(Type1, AWeightThatIsNotOfTheSectionShownTellsSo) {
     machine.Store.Set("CalcWtShapeSize1", "9999");
     form.ShapeType.Select(1); // no size chosen
     EXPECT_EQ(form.ImperialFlex.Remark(1, 2), StaleWeightRemark);
+    EXPECT_EQ(form.TotalLabel.Caption_Weight(), RemarkWeight::Caution);
+    form.ImperialFlex.Set_Text(2, 1, "3'"); // a length that was never weighed
+    form.ImperialFlex.Move_To(2, 1);
+    EXPECT_EQ(form.RemarkLabel.Caption(), "Choose a section first");
 }
 
 TEST_F(Type1, AColumnOfLengthsIsPasted) {
@@ -263,10 +308,9 @@ TEST_F(Type1, APasteThatIsRefusedWritesNothing) {
         const char* Message;
     };
     const Case cases[] = {
-        {"1'\n2'\n5'6\"\nLength\n3'", 2,
-         "Invalid distance input for row 4, 5. Nothing was pasted."},
+        {"1'\n2'\n5'6\"\nLength\n3'", 2, "Invalid input for row 4, 5. Nothing was pasted."},
         {"1'\n2'\n3'", 49,
-         "There are 3 lengths to paste, but only 2 rows from row 49 on. Nothing was pasted."},
+         "There are 3 rows to paste, but only 2 from row 49 on. Nothing was pasted."},
     };
     for (const Case& c : cases) {
         machine.Boxes.Shown.clear();
@@ -312,8 +356,18 @@ TEST_F(Type2, TheLeadingNumberIsChargedAndARemarkTellsSo) {
     }
     form.ImperialFlex.Move_To(1, 2);
     EXPECT_EQ(form.RemarkLabel.Caption(), Remark(1));
+    EXPECT_EQ(form.RemarkLabel.Caption_Weight(), RemarkWeight::Caution);
     form.ImperialFlex.Move_To(3, 2);
     EXPECT_EQ(form.RemarkLabel.Caption(), "");
+    // 12.5, 0.5, 12, 6.5/12 and 0.5/12 ft at 10 lb/ft.
+    EXPECT_EQ(form.TotalLabel.Caption(),
+              "Rows: 5     Total weight: 920.00 lb (exact lengths: 255.83 lb)");
+    EXPECT_EQ(form.TotalLabel.Caption_Weight(), RemarkWeight::Caution);
+    form.ImperialFlex.Select_Range(1, 1, 2, 2);
+    form.ImperialFlex.OnKeyDown(Keys::Delete);
+    EXPECT_EQ(Feet(1, 1) + Feet(1, 2) + Feet(1, 3) + Feet(2, 3), "");
+    EXPECT_EQ(form.TotalLabel.Caption(),
+              "Rows: 3     Total weight: 740.00 lb (exact lengths: 125.83 lb)");
 }
 
 TEST_F(Type2, MetresAreChargedWhole) {
@@ -326,8 +380,12 @@ TEST_F(Type2, MetresAreChargedWhole) {
 TEST_F(Type2, AWeightNeedsBothASizeAndALength) {
     Pick(1, "W8x10");
     EXPECT_EQ(Feet(1, 3), "");
+    form.ImperialFlex.Move_To(1, 2);
+    EXPECT_EQ(form.RemarkLabel.Caption(), "Type a length first");
     Length(2, "3'");
     EXPECT_EQ(Feet(2, 3), "");
+    form.ImperialFlex.Move_To(2, 2);
+    EXPECT_EQ(form.RemarkLabel.Caption(), "Choose a section first");
     Pick(2, "W8x10");
     EXPECT_EQ(Feet(2, 3), "30.00     ");
     form.ImperialFlex.Move_To(2, 1);
@@ -381,7 +439,35 @@ TEST_F(Type2, NothingIsCommittedByAChangeOfTheTab) {
     form.ShapeSizeUS.Select(3);
     form.SSTab1.Select(MetricTab);
     EXPECT_FALSE(form.ShapeSizeUS.Visible());
-    EXPECT_EQ(Feet(1, 1) + Feet(1, 3), "") << "no weight of a size that is not in the row";
+    EXPECT_EQ(Feet(1, 1), "");
+    EXPECT_EQ(Remark(1), "The weight is that of " + form.ShapeSizeUS.Text() +
+                             ", which was not taken into the row");
+    EXPECT_EQ(form.ImperialFlex.Remark_Weight(1, 3), RemarkWeight::Caution);
+    Length(1, "11'");
+    EXPECT_EQ(Feet(1, 3), "");
+
+    form.ImperialFlex.Press(1, 1); // the family hides the list the same way
+    form.ShapeSizeUS.Select(3);
+    const std::string weight = Feet(1, 3);
+    form.ShapeType.Focus.Set();
+    EXPECT_FALSE(form.ShapeSizeUS.Visible());
+    EXPECT_EQ(Feet(1, 1), "");
+    EXPECT_EQ(Feet(1, 3), weight);
+}
+
+TEST_F(Type2, RowsArePastedWithTheirSizes) {
+    form.ShapeType.Select(3); // the sizes may be those of any family
+    machine.Clip.Held = "W8x10\t10'\t1.00\r\nPipe12STD\t6 1/2\r\n";
+    form.ImperialFlex.Move_To(3, 1);
+    form.ImperialFlex.OnPaste();
+    EXPECT_EQ(Feet(3, 1) + " " + Feet(3, 2) + Feet(3, 3), "W8x10 10'-0\"     100.00     ");
+    EXPECT_EQ(Feet(4, 2), "6 1/2\"     ");
+    EXPECT_NE(Remark(4), "");
+    machine.Clip.Held = "W8x10a\t10'";
+    form.ImperialFlex.OnPaste();
+    EXPECT_EQ(
+        machine.Boxes.Shown,
+        (std::vector<std::string>{"Warning|Invalid input for row 3. Nothing was pasted.|stop"}));
 }
 
 TEST_F(Type2, ClearingHidesTheEditorsOfTheTab) {
@@ -415,4 +501,7 @@ TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
     EXPECT_EQ(again.ImperialFlex.Text(2, 3), "0.00     ");
     EXPECT_EQ(again.ImperialFlex.Remark(2, 3), noSize);
     EXPECT_EQ(again.ImperialFlex.Text(3, 3), "     ");
+    EXPECT_EQ(again.TotalLabel.Caption(),
+              "Rows: 2     Total weight: 120.00 lb (exact lengths: 125.00 lb)");
+    EXPECT_EQ(again.TotalLabel.Caption_Weight(), RemarkWeight::Caution);
 }

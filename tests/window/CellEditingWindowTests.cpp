@@ -170,10 +170,22 @@ TEST_F(EditedGrid, ArrowsWalkInTheTextAndLeaveAtItsEnds) {
     Key(Qt::Key_Home);
     Key(Qt::Key_Left, Qt::ShiftModifier);
     EXPECT_TRUE(line->isVisible()) << "Shift selects";
+    Key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(Where(), "2,2");
+    Key(Qt::Key_Up);
     Key(Qt::Key_Left);
     EXPECT_EQ(Where(), "1,1");
     Key(Qt::Key_Home, Qt::ControlModifier);
     EXPECT_EQ(Where(), "1,1") << "a row's head is not to be filled in";
+}
+
+TEST_F(EditedGrid, TextOfAnInputMethodPassesTheFilter) {
+    Keys_("1");
+    QInputMethodEvent text;
+    text.setCommitString(QStringLiteral("2x3"));
+    QApplication::sendEvent(line, &text);
+    EXPECT_EQ(line->text(), QStringLiteral("123"));
+    EXPECT_EQ(box.Text(), "123");
 }
 
 TEST_F(EditedGrid, TheMouse) {
@@ -234,7 +246,7 @@ TEST_F(EditedGrid, TheListOpensOnAClickAndByTyping) {
     EXPECT_EQ(Where(), "3,2");
 }
 
-TEST_F(EditedGrid, TheWheelKeepsWhatWasPickedAndClosesTheList) {
+TEST_F(EditedGrid, TheWheelClosesTheListAndCommitsNothing) {
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Middle(2, 1));
     Key(Qt::Key_Down);
     QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
@@ -243,6 +255,6 @@ TEST_F(EditedGrid, TheWheelKeepsWhatWasPickedAndClosesTheList) {
     QCoreApplication::processEvents();
     EXPECT_GT(grid.Top_Row(), 1);
     EXPECT_FALSE(combo->isVisible());
-    EXPECT_EQ(grid.Text(2, 1), "W8x10");
+    EXPECT_EQ(grid.Text(2, 1), "");
     EXPECT_TRUE(view->hasFocus());
 }

@@ -11,7 +11,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QScrollBar>
 
 #include <cmath>
 #include <functional>
@@ -143,13 +142,6 @@ void Lay_Over(GridView* view, const FlexGrid& grid, ComboBox& editor, const QStr
     auto* widget = new QComboBox(view->viewport());
     Name(widget, name, accessibleName);
     Overlay(view, grid, widget, editor);
-    // Scrolling closes the list; the keyboard goes to the grid first, which keeps what was picked.
-    const auto leave = [view, widget] {
-        if (widget->isVisible())
-            view->setFocus();
-    };
-    for (QScrollBar* bar : {view->verticalScrollBar(), view->horizontalScrollBar()})
-        QObject::connect(bar, &QScrollBar::actionTriggered, widget, leave);
 }
 
 } // namespace Tensarix
