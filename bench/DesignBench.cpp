@@ -32,10 +32,10 @@ struct NoDisplay final : WeldDisplay {
 double Search_Alone(const Case& c, NoDisplay& display) {
     WeldState weld;
     auto turn = [] { return true; };
-    SearchYield yield{turn, WeldYieldStride};
+    SearchYield yield{turn, weldYieldStride};
     WeldSearch search{weld, display, yield};
     return Weld_Configuration_Result(c.item, std::atof(c.L), std::atof(c.kL), std::atof(c.aL),
-                                     std::atof(c.angle), WeldModeC, search);
+                                     std::atof(c.angle), weldModeC, search);
 }
 
 void Weld_Run_On_The_Screen(benchmark::State& state) {
@@ -45,7 +45,7 @@ void Weld_Run_On_The_Screen(benchmark::State& state) {
     program.Start();
     DesignPage& design = program.Form().Design;
     program.Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
-    design.DesignSSTab.Select(WeldTab);
+    design.DesignSSTab.Select(weldTab);
     design.Welds.WeldStripBox.Select(quarterStrip);
     design.Welds.WeldView.Click(c.item);
     int row = 0;

@@ -230,7 +230,7 @@ class Tour {
         DesignPage& page = program_.Form().Design;
         BoltPage& bolts = page.Bolts;
         program_.Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
-        page.DesignSSTab.Select(BoltTab);
+        page.DesignSSTab.Select(boltTab);
         Take(QStringLiteral("bolts-before") + suffix, program_.Window());
         const auto type = [&](int row, std::initializer_list<const char*> texts) {
             Type_Row(bolts.cFlex, bolts.EdiTxt, row, 1, texts, false);
@@ -256,7 +256,7 @@ class Tour {
         DesignPage& page = program_.Form().Design;
         WeldPage& welds = page.Welds;
         program_.Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
-        page.DesignSSTab.Select(WeldTab);
+        page.DesignSSTab.Select(weldTab);
         welds.WeldView.Click(5);
         Take(QStringLiteral("weld-before") + suffix, program_.Window());
         Type_Row(welds.WeldFlex, welds.EdiTxtA, 0, 1, {"100", "50", "5", "45"}, true);

@@ -8,23 +8,22 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "connections/Numbers.h"
-#include "connections/VectorMath.h"
 #include "connections/WeldConfigurations.h"
 #include "connections/WeldPass.h"
 
 namespace Tensarix {
 namespace {
 
-constexpr int MostBalancedBolts = 2000;
-constexpr int ElementsOfLongestLine = 64;
-constexpr int LeastElements = 8;
-constexpr int MostIterations = 30;
-constexpr double NearlyBalanced = 1e-4;    // good enough for a remark
-constexpr double Balanced = 1e-9;          // residual over the load
-constexpr double LeastEccentricity = 1e-6; // over the size of the group; less is concentric
-constexpr double LargestNumber = 1e9;      // of any input
-constexpr double NewtonDifference = 1e-6;
-constexpr int ConcentricParts = 50;
+constexpr int mostBalancedBolts = 2000;
+constexpr int elementsOfLongestLine = 64;
+constexpr int leastElements = 8;
+constexpr int mostIterations = 30;
+constexpr double nearlyBalanced = 1e-4;    // good enough for a remark
+constexpr double balancedResidual = 1e-9;  // residual over the load
+constexpr double leastEccentricity = 1e-6; // over the size of the group; less is concentric
+constexpr double largestNumber = 1e9;      // of any input
+constexpr double newtonDifference = 1e-6;
+constexpr int concentricParts = 50;
 
 // The instantaneous centre stands at (-a, -b) from the centroid, the load is vertical at +e.
 struct Centre {
@@ -84,7 +83,7 @@ Centre Elastic_Step(const Problem& problem, const Centre& at, const Resistance& 
 template <typename Group>
 std::optional<Centre> Newton_Step(const Problem& problem, const Group& group, const Centre& at,
                                   const Residual& here) {
-    const double h = NewtonDifference * (problem.spread + std::abs(at.a));
+    const double h = newtonDifference * (problem.spread + std::abs(at.a));
     const Centre across{at.a + h, at.b};
     const Centre up{at.a, at.b + h};
     const Residual byA = Residual_Of(problem, group.About(across));
@@ -125,13 +124,13 @@ struct Attained {
 template <typename Group>
 Attained Approach(const Problem& problem, const Group& group, Centre at) {
     Attained best;
-    for (int k = 0; k < MostIterations; ++k) {
+    for (int k = 0; k < mostIterations; ++k) {
         const Resistance forces = group.About(at);
         const Residual residual = Residual_Of(problem, forces);
         const double size = residual.Size();
         if (size < best.size && forces.vertical > 0)
             best = {size, forces.vertical, at};
-        if (!std::isfinite(size) || size <= Balanced)
+        if (!std::isfinite(size) || size <= balancedResidual)
             break;
         const Centre elastic = Elastic_Step(problem, at, forces);
         std::optional<Centre> next;
@@ -158,7 +157,7 @@ std::optional<Attained> Solve(const Problem& problem, const Group& group) {
         const Attained attained = Approach(problem, group, {elastic * part, 0});
         if (attained.size < best.size)
             best = attained;
-        if (best.size <= NearlyBalanced)
+        if (best.size <= nearlyBalanced)
             return best;
     }
     return std::nullopt;
@@ -169,20 +168,16 @@ struct Bolts {
 
     // At a part of the rotation at which the farthest bolt reaches its limit.
     Resistance About(const Centre& at, double part = 1) const {
-        std::vector<double> forces(u.size());
         double dmax = 0;
-        for (std::size_t k = 0; k < u.size(); ++k) {
-            forces[k] = std::hypot(w[k] + at.a, u[k] + at.b);
-            dmax = std::max(dmax, forces[k]);
-        }
-        for (double& force : forces)
-            force = BoltExponentFactor * UltimateBoltDeformation * part * force / dmax;
-        Saturate_Each(forces.data(), forces.size(), BoltPower);
+        for (std::size_t k = 0; k < u.size(); ++k)
+            dmax = std::max(dmax, std::hypot(w[k] + at.a, u[k] + at.b));
+        const double decay = boltExponentFactor * ultimateBoltDeformation * part / dmax;
         Resistance sum;
         for (std::size_t k = 0; k < u.size(); ++k) {
             const double d = std::hypot(w[k] + at.a, u[k] + at.b);
+            const double force = std::pow(1 - std::exp(decay * d), boltPower);
             if (d > 0)
-                sum.Add(forces[k], w[k] + at.a, u[k] + at.b, d, w[k], u[k]);
+                sum.Add(force, w[k] + at.a, u[k] + at.b, d, w[k], u[k]);
         }
         return sum;
     }
@@ -190,7 +185,7 @@ struct Bolts {
 
 bool In_Range(std::initializer_list<double> inputs) {
     return std::all_of(inputs.begin(), inputs.end(),
-                       [](double value) { return std::abs(value) <= LargestNumber; });
+                       [](double value) { return std::abs(value) <= largestNumber; });
 }
 
 Bolts Turned_Bolts(const BoltGroup& group, double theta) {
@@ -231,7 +226,7 @@ PieceState State_About(const WeldPiece& piece, const Centre& at) {
     const double r = std::hypot(X, Y);
     // The force is square to the radius, so its angle to the axis is that of radius and normal.
     const double sine = r > 0 ? std::min(1.0, std::abs(X * piece.cosine + Y * piece.sine) / r) : 0;
-    return {r, X, Y, std::asin(sine) * 180 / Pi, 1.0 + 0.5 * sine * std::sqrt(sine)};
+    return {r, X, Y, std::asin(sine) * 180 / pi, 1.0 + 0.5 * sine * std::sqrt(sine)};
 }
 
 Resistance Welds::About(const Centre& at, double part) const {
@@ -252,8 +247,8 @@ Resistance Welds::About(const Centre& at, double part) const {
         if (state.r == 0)
             continue;
         const double p = part * critical * state.r / Weld_Delta_M(state.degrees);
-        const double R = state.strength * WeldStressFactor * ElectrodeStrength * pieces[k].area *
-                         std::pow(std::max(0.0, (1.9 - 0.9 * p) * p), WeldForcePower);
+        const double R = state.strength * weldStressFactor * electrodeStrength * pieces[k].area *
+                         std::pow(std::max(0.0, (1.9 - 0.9 * p) * p), weldForcePower);
         sum.Add(R, state.X, state.Y, state.r, pieces[k].x, pieces[k].y);
     }
     return sum;
@@ -266,7 +261,7 @@ double Length_Of(const WeldLine& line) {
 void Add_Pieces(const WeldLine& line, double longest, double xc, double yc, double theta,
                 Welds& welds) {
     const double length = Length_Of(line);
-    const int count = std::max(LeastElements, int(ElementsOfLongestLine * length / longest));
+    const int count = std::max(leastElements, int(elementsOfLongestLine * length / longest));
     const double cosine = std::cos(theta);
     const double sine = std::sin(theta);
     const double dx = (line.x2 - line.x1) / length;
@@ -277,7 +272,7 @@ void Add_Pieces(const WeldLine& line, double longest, double xc, double yc, doub
         const double y = line.y1 + dy * along - yc;
         welds.pieces.push_back({x * cosine - y * sine, x * sine + y * cosine,
                                 dx * cosine - dy * sine, dx * sine + dy * cosine,
-                                length / count * WeldThroat * WeldSize});
+                                length / count * weldThroat * weldSize});
     }
 }
 
@@ -300,10 +295,10 @@ Welds Turned_Welds(std::vector<WeldLine> lines, double theta) {
 // its strongest when the first element is at its limit, so the load on the way there counts too.
 template <typename Group>
 double Concentric(const Group& group, double spread) {
-    const Centre away{spread / (LeastEccentricity * LeastEccentricity), 0};
+    const Centre away{spread / (leastEccentricity * leastEccentricity), 0};
     double most = 0;
-    for (int part = 1; part <= ConcentricParts; ++part)
-        most = std::max(most, group.About(away, double(part) / ConcentricParts).vertical);
+    for (int part = 1; part <= concentricParts; ++part)
+        most = std::max(most, group.About(away, double(part) / concentricParts).vertical);
     return most;
 }
 
@@ -318,7 +313,7 @@ std::optional<BalancedLoad> Load(const Group& group, const Fasteners& places, do
     const Resistance about = group.About({0, 0});
     const auto count = static_cast<double>(places.size());
     const double spread = std::sqrt(about.polar / count);
-    if (std::abs(e) <= LeastEccentricity * spread || e == 0)
+    if (std::abs(e) <= leastEccentricity * spread || e == 0)
         return BalancedLoad{Concentric(group, spread), std::nullopt};
     if (spread == 0)
         return BalancedLoad{}; // all in one place: no moment can be resisted
@@ -343,7 +338,7 @@ std::optional<double> Load_Along_And_Across(const Welds& welds) {
     constexpr double straight = 1e-6; // of the cosine: the angle has a truncated pi behind it
     double along = 0, across = 0;
     for (const WeldPiece& piece : welds.pieces) {
-        const double strength = WeldStressFactor * ElectrodeStrength * piece.area;
+        const double strength = weldStressFactor * electrodeStrength * piece.area;
         if (std::abs(piece.cosine) < straight)
             along += strength;
         else if (std::abs(piece.sine) < straight)
@@ -358,10 +353,10 @@ std::optional<double> Load_Along_And_Across(const Welds& welds) {
 
 std::optional<Balance> Balanced_Bolts(const BoltGroup& group, double ex, double angle) {
     const int mn = int{group.m} * group.n;
-    if (group.m <= 0 || group.n <= 0 || mn > MostBalancedBolts ||
+    if (group.m <= 0 || group.n <= 0 || mn > mostBalancedBolts ||
         !In_Range({group.sv, group.sh, ex, angle}))
         return std::nullopt;
-    const double theta = angle * Pi / 180;
+    const double theta = angle * pi / 180;
     const Bolts bolts = Turned_Bolts(group, theta);
     const double e = std::cos(theta) * ex;
     // Turned about, the group is the same: the side of the load makes no difference to C.
@@ -379,7 +374,7 @@ std::optional<Balance> Balanced_Welds(int item, double L, double kL, double aL, 
         return std::nullopt;
     const double scale = Weld_Scale(L);
     const double base = L * scale;
-    const double theta = angle * Pi / 180;
+    const double theta = angle * pi / 180;
     const double e = std::cos(theta) * std::abs(aL) * scale;
     Welds welds = Turned_Welds(Weld_Configuration_Lines(item, base, kL * scale), theta);
     // Turned past a right angle the load stands on the other side: look at it from behind.

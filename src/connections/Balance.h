@@ -36,8 +36,8 @@ std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, d
 
 // Differences of more than this part of the balanced C are worth a remark. The bolt search counts
 // the farthest bolt with 1, which alone makes 1.9 per cent.
-inline constexpr double BoltRemarkTolerance = 0.025;
-inline constexpr double WeldRemarkTolerance = 0.05;
+inline constexpr double boltRemarkTolerance = 0.025;
+inline constexpr double weldRemarkTolerance = 0.05;
 
 // What stands beside a coefficient that is off by more than the tolerance, or that there is nothing
 // to hold against; else empty.

@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "connections/Search.h"
+#include "connections/SearchYield.h"
 
 namespace Tensarix {
 
@@ -17,17 +17,17 @@ struct BoltGroup {
     double sh = 0;
 };
 
-inline constexpr double UltimateBoltForce = 74.0; // kips; cancels in C
-inline constexpr double UltimateBoltDeformation = 0.34;
-inline constexpr double BoltExponentFactor = -10;
-inline constexpr double BoltPower = 0.55;
-inline constexpr double BoltTolerance = 0.0001; // of C, inclusive
+inline constexpr double ultimateBoltForce = 74.0; // kips; cancels in C
+inline constexpr double ultimateBoltDeformation = 0.34;
+inline constexpr double boltExponentFactor = -10;
+inline constexpr double boltPower = 0.55;
+inline constexpr double boltTolerance = 0.0001; // of C, inclusive
 
 // R of one bolt at a deformation, in kips.
 double Bolt_Force(double deformation);
 
 // Above so many bolts the array of bolts can't be had, and both coefficients are 0.
-inline constexpr std::int32_t MostBolts = 1 << 21;
+inline constexpr std::int32_t mostBolts = 1 << 21;
 
 // C: the load the group carries at the eccentricity ex (length, from the centroid) and the angle
 // from the vertical (degrees), in capacities of one bolt. There is no limit on the passes; yields

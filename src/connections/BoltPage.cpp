@@ -4,7 +4,7 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "connections/Balance.h"
-#include "connections/Search.h"
+#include "connections/SearchYield.h"
 #include "measures/InputFilters.h"
 
 #include <system_error>
@@ -104,8 +104,8 @@ void BoltPage::Start() {
 void BoltPage::Take_Row_Count() {
     Attempt([this] {
         const double saved =
-            Largest_Of({LeastBoltRowCount, desk_.Saved.Number(Setting::cFlexRows)});
-        if (saved > MostBoltRows + 1)
+            Largest_Of({leastBoltRowCount, desk_.Saved.Number(Setting::cFlexRows)});
+        if (saved > mostBoltRows + 1)
             throw Failure("too many rows");
         BoltRowCount_ = static_cast<float>(saved);
     });
@@ -141,11 +141,11 @@ void BoltPage::Init_cFlex() {
                          .Back = Colours::HeadBack});
         cFlex.Set_Text(0, col, heads[col]);
     }
-    cFlex.Set_Remark(0, BoltColumn::C, std::string{FarthestBoltRemark});
+    cFlex.Set_Remark(0, BoltColumn::C, std::string{farthestBoltRemark});
     for (int row = 1; row < cFlex.Rows(); ++row)
         Lay_Out_Row(row);
     cFlex.Select_Range(1, 1, 1, 1);
-    RemRowButton.Enable(BoltRowCount_ > LeastBoltRowCount);
+    RemRowButton.Enable(BoltRowCount_ > leastBoltRowCount);
 }
 
 void BoltPage::Lay_Out_Row(int row) {
@@ -232,7 +232,7 @@ double BoltPage::Search(int row, const Inputs& inputs, unsigned search) {
     auto turn = [this, row, search] {
         return desk_.Host.Events.Yield() && newestSearch_[row] == search;
     };
-    SearchYield yield{turn, BoltYieldStride};
+    SearchYield yield{turn, boltYieldStride};
     return BoltCoefficientC(inputs.Group, inputs.ex, inputs.Angle, yield);
 }
 
@@ -248,7 +248,7 @@ void BoltPage::Remark_On(int row, double C) {
         return;
     const Inputs inputs = Row_Inputs(row);
     const auto balanced = Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle);
-    cFlex.Set_Remark(row, BoltColumn::C, Balance_Remark(C, balanced, BoltRemarkTolerance));
+    cFlex.Set_Remark(row, BoltColumn::C, Balance_Remark(C, balanced, boltRemarkTolerance));
 }
 
 void BoltPage::Empty_Results(int row) {
@@ -257,7 +257,7 @@ void BoltPage::Empty_Results(int row) {
 }
 
 void BoltPage::AddRow_Click() {
-    if (!Commit_Editor() || cFlex.Rows() > MostBoltRows)
+    if (!Commit_Editor() || cFlex.Rows() > mostBoltRows)
         return; // closing, or a further row could not be saved
     BoltRowCount_ = BoltRowCount_ + 1;
     cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
@@ -270,14 +270,14 @@ void BoltPage::AddRow_Click() {
 
 void BoltPage::RemRow_Click() {
     BoltRowCount_ =
-        static_cast<float>(Largest_Of({LeastBoltRowCount, static_cast<double>(BoltRowCount_) - 1}));
+        static_cast<float>(Largest_Of({leastBoltRowCount, static_cast<double>(BoltRowCount_) - 1}));
     const int rows = Whole_32(static_cast<double>(BoltRowCount_));
     for (int row = rows; row < cFlex.Rows(); ++row)
         ++newestSearch_[row];
     if (cFlex.Row() >= rows)
         editing_.Hide(); // what is being typed there goes with the row
     cFlex.Set_Rows(rows);
-    RemRowButton.Enable(BoltRowCount_ > LeastBoltRowCount);
+    RemRowButton.Enable(BoltRowCount_ > leastBoltRowCount);
     Show_Selected();
 }
 
@@ -341,7 +341,7 @@ void BoltPage::Clear_Rows() {
 }
 
 std::filesystem::path BoltPage::File() const {
-    return desk_.Host.Places.Data / BoltFileName;
+    return desk_.Host.Places.Data / boltFileName;
 }
 
 } // namespace Tensarix

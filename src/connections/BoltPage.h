@@ -25,9 +25,9 @@ inline constexpr int Count = 9;
 inline constexpr int FirstInput = m, LastInput = Angle;
 } // namespace BoltColumn
 
-inline constexpr int LeastBoltRowCount = 16; // the head row counts
+inline constexpr int leastBoltRowCount = 16; // the head row counts
 // On the head of C. The tables count each bolt with its own (1 - e^(-10 D))^0.55.
-inline constexpr std::string_view FarthestBoltRemark =
+inline constexpr std::string_view farthestBoltRemark =
     "The farthest bolt counts as 1 here, as 0.9815 in the Manual's tables: where a row carries no "
     "remark, C is 1.9 to 2.5 % above theirs";
 
@@ -88,7 +88,7 @@ class BoltPage {
     std::filesystem::path File() const;
 
     Desk& desk_;
-    float BoltRowCount_ = LeastBoltRowCount;
+    float BoltRowCount_ = leastBoltRowCount;
     std::vector<BoltRow> BoltEntries_;
     std::map<int, unsigned> newestSearch_; // by row
     CellEditing editing_;

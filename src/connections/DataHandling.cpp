@@ -67,7 +67,7 @@ std::optional<FileError> Parse(const Bytes& bytes, std::vector<BoltRow>& entries
     const std::int32_t first = file.Int32();
     if (dimensionCount == 0 || (file.Ended() && count == 0))
         return std::nullopt;
-    if (dimensionCount != dimensions || count < 0 || count > MostBoltRows || first != lowerBound)
+    if (dimensionCount != dimensions || count < 0 || count > mostBoltRows || first != lowerBound)
         return outOfMemory;
     for (std::int32_t i = 0; i < count; ++i) {
         BoltRow row;
@@ -97,7 +97,7 @@ void Set_Aside(const fs::path& path) {
     if (!fs::is_regular_file(path, ignored))
         return;
     fs::path aside = path;
-    aside += UnreadableSuffix;
+    aside += unreadableSuffix;
     fs::rename(path, aside, ignored);
 }
 

@@ -17,26 +17,26 @@
 
 namespace Tensarix {
 
-inline constexpr std::string_view BoltFileName = "BoltInputData.dat";
+inline constexpr std::string_view boltFileName = "BoltInputData.dat";
 // Behind the name of a file that could not be read and was taken out of the way.
-inline constexpr std::string_view UnreadableSuffix = ".unreadable";
+inline constexpr std::string_view unreadableSuffix = ".unreadable";
 
-inline constexpr std::size_t BoltTextCount = 8;
+inline constexpr std::size_t boltTextCount = 8;
 
 // One saved row of the table.
 struct BoltRow {
     std::int16_t RowNumber = 0;                   // of the grid, from 1
-    std::array<std::string, BoltTextCount> Texts; // columns 1 to 8: m, n, sv, sh, ex, angle, C, C'
+    std::array<std::string, boltTextCount> Texts; // columns 1 to 8: m, n, sv, sh, ex, angle, C, C'
 
     bool operator==(const BoltRow&) const = default;
 };
 
 // Rows have numbers of 16 bits, and each is saved once at the most.
-inline constexpr std::int32_t MostBoltRows = 32767;
+inline constexpr std::int32_t mostBoltRows = 32767;
 
 // The records of the file; where bytes are missing at its end, texts are empty. A missing file is
 // made, empty. A file that can't be read gives up its name: it goes to the same name with
-// UnreadableSuffix behind it, in the place of an older one. `failed` is then true, without a
+// unreadableSuffix behind it, in the place of an older one. `failed` is then true, without a
 // message, if its counts were impossible; any other error is shown in a message.
 void ReadBoltFile(std::vector<BoltRow>& entries, const std::filesystem::path& path, bool& failed,
                   Messages& boxes);

@@ -16,13 +16,13 @@ void DesignPage::Start() {
 
 void DesignPage::Show_Selection() {
     desk_.Show_No_Selection();
-    if (DesignSSTab.Tab() == WeldTab)
+    if (DesignSSTab.Tab() == weldTab)
         Attempt([this] { desk_.StatBar.Set_Panel1(Welds.Selection_Text()); });
 }
 
 void DesignPage::Tab_Click() {
     Show_Selection();
-    if (DesignSSTab.Tab() == BoltTab)
+    if (DesignSSTab.Tab() == boltTab)
         Welds.Stop_If_Running();
 }
 

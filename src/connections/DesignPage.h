@@ -8,7 +8,7 @@
 
 namespace Tensarix {
 
-inline constexpr int BoltTab = 0, WeldTab = 1;
+inline constexpr int boltTab = 0, weldTab = 1;
 
 class DesignPage {
   public:

@@ -3,7 +3,7 @@
 
 namespace Tensarix {
 
-inline constexpr double Pi = 3.14159265358979; // these 15 digits and no more
+inline constexpr double pi = 3.14159265358979; // these 15 digits and no more
 
 // -1, 0 or +1.
 inline double Sgn(double value) {

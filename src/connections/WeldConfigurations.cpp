@@ -9,7 +9,7 @@
 namespace Tensarix {
 namespace {
 
-constexpr double LargestScaledLength = 100;
+constexpr double largestScaledLength = 100;
 
 // An end of a line: 0, the base length or the leg length, across and up.
 enum Reach { O, L, K };
@@ -39,7 +39,7 @@ struct Configuration {
 };
 
 // The order of Figure.
-constexpr std::array<Configuration, 8> Configurations{{
+constexpr std::array<Configuration, 8> configurations{{
     {2, {{{O, O, O, L}, {K, O, K, L}}}, false},
     {2, {{{O, O, L, O}, {O, K, L, K}}}, false},
     {4, {{{O, O, K, O}, {K, O, K, L}, {O, L, K, L}, {O, O, O, L}}}, false},
@@ -50,13 +50,13 @@ constexpr std::array<Configuration, 8> Configurations{{
     {2, {{{O, L, K, L}, {K, O, K, L}}}, true, true, true},
 }};
 
-constexpr std::array<Figure, WeldConfigurationCount> FigureOfItem{
+constexpr std::array<Figure, weldConfigurationCount> figureOfItem{
     Figure::TwoVertical,  Figure::TwoVertical, Figure::TwoHorizontal,
     Figure::TallBox,      Figure::WideBox,     Figure::LeftChannel,
     Figure::RightChannel, Figure::LeftAngle,   Figure::RightAngle};
 
 const Configuration& Row_Of(Figure figure) {
-    return Configurations[static_cast<std::size_t>(figure)];
+    return configurations[static_cast<std::size_t>(figure)];
 }
 
 std::vector<WeldLine> Lines_Of(const Configuration& row, double base, double leg) {
@@ -82,24 +82,24 @@ double Result(Figure figure, const Inputs& inputs, std::int16_t mode, WeldSearch
     const double leg = Finite(s * inputs.kL);
     const double eccentricity = Finite(std::abs(inputs.aL) * s);
     const std::vector<WeldLine> lines = Lines_Of(row, base, leg);
-    if (mode == WeldModeC) {
+    if (mode == weldModeC) {
         const double scale = row.shownScaled ? 1.0 : s;
         return Weld_Coefficient(SolveWeldGroup(lines, eccentricity, inputs.angle, scale, search),
                                 base);
     }
-    if (mode == WeldModeXL) {
+    if (mode == weldModeXL) {
         const double x = WeldCentroidX(lines);
         return Finite((row.xFromLeg ? leg - x : x) / s);
     }
-    if (mode == WeldModeYL)
+    if (mode == weldModeYL)
         return Finite((row.yFromTop ? WeldCentroidFromTop(lines) : WeldCentroidY(lines)) / s);
     return 0;
 }
 
 Figure Figure_Of_Item(int item) {
-    if (item < 1 || item > WeldConfigurationCount)
+    if (item < 1 || item > weldConfigurationCount)
         throw Failure("no such weld configuration");
-    return FigureOfItem[static_cast<std::size_t>(item - 1)];
+    return figureOfItem[static_cast<std::size_t>(item - 1)];
 }
 
 // Item 1 is item 2 without a leg.
@@ -159,12 +159,12 @@ std::vector<WeldLine> Weld_Configuration_Lines(int item, double base, double leg
 }
 
 double Weld_Scale(double L) {
-    return L > LargestScaledLength ? 1 : Finite(LargestScaledLength / L);
+    return L > largestScaledLength ? 1 : Finite(largestScaledLength / L);
 }
 
 // The two divisions cancel to within rounding; both are made.
 double Weld_Coefficient(double raw, double base) {
-    return Finite(Finite((raw / base) / 16.0) / WeldSize);
+    return Finite(Finite((raw / base) / 16.0) / weldSize);
 }
 
 } // namespace Tensarix

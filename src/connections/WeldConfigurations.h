@@ -8,12 +8,12 @@
 
 namespace Tensarix {
 
-inline constexpr int WeldConfigurationCount = 9;
+inline constexpr int weldConfigurationCount = 9;
 
 // What a configuration's routine is asked for; any other mode gives 0.
-inline constexpr std::int16_t WeldModeC = 0;
-inline constexpr std::int16_t WeldModeXL = 1;
-inline constexpr std::int16_t WeldModeYL = 2;
+inline constexpr std::int16_t weldModeC = 0;
+inline constexpr std::int16_t weldModeXL = 1;
+inline constexpr std::int16_t weldModeYL = 2;
 
 // Base length L, leg length kL and eccentricity aL in one unit, the angle in degrees. The result is
 // C, or xL or yL in that unit. Fails where L is 0 or a scaled number is out of range; throws

@@ -85,8 +85,8 @@ inline void Take_Angles(const WeldCut& cut, double i, double Ro, WeldAngles& at)
     if (std::isfinite(at.X) && std::isfinite(tangent))
         at.beta = std::atan(tangent);
     if (cut.a == 0)
-        at.phi = Pi / 2 - at.beta;
-    else if (cut.a == Pi / 2)
+        at.phi = pi / 2 - at.beta;
+    else if (cut.a == pi / 2)
         at.phi = at.beta;
     else
         Attempt([&] { at.phi = Leaning_Angle(cut.a, at.beta); });
@@ -95,7 +95,7 @@ inline void Take_Angles(const WeldCut& cut, double i, double Ro, WeldAngles& at)
 
 inline WeldElement Element_At(const WeldCut& cut, const WeldAngles& at, std::size_t line) {
     WeldElement element;
-    const double degrees = std::abs((at.phi * 180.0) / Pi);
+    const double degrees = std::abs((at.phi * 180.0) / pi);
     if (std::isfinite(at.X))
         element.forceSign = static_cast<std::int16_t>(Sgn(at.X));
     element.theta = std::abs(at.phi);

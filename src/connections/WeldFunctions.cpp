@@ -12,9 +12,9 @@
 namespace Tensarix {
 namespace {
 
-constexpr double ConcentricThreshold = 0.001;
-constexpr double ToleranceFactor = 0.5; // of the scale
-constexpr double ShortestLine = 0.1;
+constexpr double concentricThreshold = 0.001;
+constexpr double toleranceFactor = 0.5; // of the scale
+constexpr double shortestLine = 0.1;
 
 double Length_Of(const WeldLine& line) {
     const double dx = std::abs(line.x2 - line.x1);
@@ -115,7 +115,7 @@ double Search(const Run& run, WeldSearch& search) {
         if (std::isfinite(resisted))
             Keep(G, pass.SR / resisted);
         Keep(Ro, Ro + (std::abs(Fm - Fv) * G) / run.Ltot);
-        done = std::abs(Fv - Fm) <= ToleranceFactor * run.scale;
+        done = std::abs(Fv - Fm) <= toleranceFactor * run.scale;
         if (!done)
             search.yield();
     }
@@ -136,13 +136,13 @@ double SolveWeldGroup(const std::vector<WeldLine>& lines, double eccentricity, d
     state.ClearCount = 0;
     Run run{lines, angle, scale, 0, 0};
     double theta = 0;
-    Keep(theta, (angle * Pi) / 180);
+    Keep(theta, (angle * pi) / 180);
     Keep(run.E, std::abs(std::cos(theta) * eccentricity));
     Attempt([&] { NormalizeWeldLines(run.lines, search.yield); });
     Attempt([&] { run.Ltot = TotalWeldLength(run.lines); });
     Move_To_Centroid(run.lines, search.yield);
     Rotate(run.lines, theta, search.yield);
-    if (run.E <= ConcentricThreshold) {
+    if (run.E <= concentricThreshold) {
         const double P = ConcentricWeldCapacity(run.lines);
         Show(run, 0, P, 0, true, search);
         return P;
@@ -157,7 +157,7 @@ void NormalizeWeldLines(std::vector<WeldLine>& lines, SearchYield& yield) {
             std::swap(line.x1, line.x2);
             std::swap(line.y1, line.y2);
         }
-        if (Finite(Length_Of(line)) > ShortestLine)
+        if (Finite(Length_Of(line)) > shortestLine)
             kept.push_back(line);
         yield();
     }
@@ -173,7 +173,7 @@ double TotalWeldLength(const std::vector<WeldLine>& lines) {
 
 double WeldLineAngle(const WeldLine& line) {
     if (line.x1 == line.x2)
-        return Pi / 2;
+        return pi / 2;
     if (line.y1 == line.y2)
         return 0;
     const double rise = Finite(line.y2 - line.y1);
@@ -184,11 +184,11 @@ double WeldLineAngle(const WeldLine& line) {
 double ConcentricWeldCapacity(const std::vector<WeldLine>& lines) {
     double A = 0, length = 0, P = 0;
     for (const WeldLine& line : lines) {
-        Keep(A, Pi / 2.0 - line.lineAngle);
+        Keep(A, pi / 2.0 - line.lineAngle);
         Keep(length, Length_Of(line));
         // The exact throat here, the nine-digit one in the iteration: intended.
-        const double strength = ((WeldStressFactor * ElectrodeStrength) * std::sqrt(2.0)) / 2.0;
-        Keep(P, (1.0 + 0.5 * std::pow(std::sin(A), 1.5)) * (strength * WeldSize * length) + P);
+        const double strength = ((weldStressFactor * electrodeStrength) * std::sqrt(2.0)) / 2.0;
+        Keep(P, (1.0 + 0.5 * std::pow(std::sin(A), 1.5)) * (strength * weldSize * length) + P);
     }
     return P;
 }

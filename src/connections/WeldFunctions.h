@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "connections/Search.h"
+#include "connections/SearchYield.h"
 
 namespace Tensarix {
 
@@ -32,7 +32,7 @@ struct WeldState {
 };
 
 // A line break in the report is these two characters: some of its texts repeat the first alone.
-inline constexpr std::string_view ReportLineBreak = "\r\n";
+inline constexpr std::string_view reportLineBreak = "\r\n";
 
 // Where a run is shown: IterationDisplayBox and ElapsedIndicator, and the clock.
 class WeldDisplay {

@@ -66,7 +66,7 @@ void WeldPage::Initialize_WeldRoutines() {
 
 void WeldPage::Initialize_WeldView() {
     WeldView.Clear();
-    for (int i = 1; i <= WeldConfigurationCount; ++i) {
+    for (int i = 1; i <= weldConfigurationCount; ++i) {
         const std::string key = "weld" + std::to_string(i);
         WeldView.Add({key, "Weld Configuration " + std::to_string(i), key});
     }
@@ -178,9 +178,9 @@ void WeldPage::UpdateWeldCentroids() {
         });
     };
     if (hasX)
-        show(WeldRow::xL, WeldModeXL);
+        show(WeldRow::xL, weldModeXL);
     if (hasY)
-        show(WeldRow::yL, WeldModeYL);
+        show(WeldRow::yL, weldModeYL);
 }
 
 void WeldPage::Show_Centroid(int row, std::string text, Alignment alignment) {

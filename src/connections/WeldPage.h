@@ -94,7 +94,7 @@ class WeldPage {
     Desk& desk_;
     int WeldConfigIndex_ = 1; // 1 to 9
     int WeldStripIndex_ = 0;
-    std::array<Parameters, WeldConfigurationCount> WeldParameters_;
+    std::array<Parameters, weldConfigurationCount> WeldParameters_;
     WeldState state_;
     unsigned newest_ = 0;  // the run whose result is wanted
     unsigned started_ = 0; // the run that the buttons speak of

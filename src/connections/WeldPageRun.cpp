@@ -18,13 +18,13 @@ constexpr Colour red = 0x0000FF;
 // The empty lines around the headings repeat the first character of a line break alone: intended.
 std::string Ending(std::string_view heading, std::string_view reference,
                    std::string_view referenceNextLine) {
-    const std::string twoReturns(2, ReportLineBreak.front());
+    const std::string twoReturns(2, reportLineBreak.front());
     std::string text = twoReturns;
     text.append(heading).append(twoReturns);
     for (const std::string_view line :
          {reference, referenceNextLine, std::string_view{" Note: Weld stress calculation is"},
           std::string_view{"       based on 1/16\" weld size."}})
-        text.append(line).append(ReportLineBreak);
+        text.append(line).append(reportLineBreak);
     return text;
 }
 
@@ -89,10 +89,10 @@ WeldPage::Outcome WeldPage::RunWeldIteration(unsigned run) {
 WeldPage::Outcome WeldPage::Search(const Inputs& inputs, unsigned run) {
     Display display(*this);
     auto turn = [this, run] { return desk_.Host.Events.Yield() && newest_ == run; };
-    SearchYield yield{turn, WeldYieldStride};
+    SearchYield yield{turn, weldYieldStride};
     WeldSearch search{state_, display, yield};
     const double C = Weld_Configuration_Result(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL,
-                                               inputs.Angle, WeldModeC, search);
+                                               inputs.Angle, weldModeC, search);
     if (state_.StopRequested) {
         Show_Aborted(inputs, C);
         return Outcome::Stopped;
@@ -125,7 +125,7 @@ void WeldPage::Show_Aborted(const Inputs& inputs, double C) {
 std::string WeldPage::Balance_Remark(const Inputs& inputs, double C) const {
     const auto balanced =
         Balanced_Welds(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
-    return Tensarix::Balance_Remark(C, balanced, WeldRemarkTolerance);
+    return Tensarix::Balance_Remark(C, balanced, weldRemarkTolerance);
 }
 
 double WeldPage::Centroid(std::int16_t mode) {

@@ -6,26 +6,24 @@
 #include <cstddef>
 #include <limits>
 
-#include "connections/VectorMath.h"
+#include "connections/ArrayMath.h"
 #include "connections/WeldElements.h"
 
 namespace Tensarix {
 namespace {
 
-constexpr double StrengthOfThroat = WeldStressFactor * ElectrodeStrength;
+constexpr double strengthOfThroat = weldStressFactor * electrodeStrength;
 
 // Deformations over the weld size: 0.209 (angle + 2)^-0.32, and 1.087 (angle + 6)^-0.65 up to 0.17.
-constexpr double DeltaMAngle = 2.0;
-constexpr double DeltaMPower = -0.32;
-constexpr double DeltaMFactor = 0.209;
-constexpr double DeltaUAngle = 6.0;
-constexpr double DeltaUPower = -0.65;
-constexpr double DeltaUFactor = 1.087;
-constexpr double MostDeltaU = 0.17;
+constexpr double deltaMAngle = 2.0;
+constexpr double deltaMPower = -0.32;
+constexpr double deltaMFactor = 0.209;
+constexpr double deltaUAngle = 6.0;
+constexpr double deltaUPower = -0.65;
+constexpr double deltaUFactor = 1.087;
+constexpr double mostDeltaU = 0.17;
 
-// Coordinates and tangents below this leave no step of a pass that can fail.
-constexpr double Ordinary = 1e60;
-constexpr std::size_t Block = 64;
+constexpr std::size_t blockSize = 64;
 
 enum class Lie { Flat, Upright, Leaning };
 
@@ -33,7 +31,7 @@ enum class Lie { Flat, Upright, Leaning };
 // complement on a flat line.
 struct ElementBlock { // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
     std::size_t count = 0;
-    std::array<double, Block> X, r, tangent; // as far as `count`
+    std::array<double, blockSize> X, r, tangent; // as far as `count`
 };
 
 // One line of a pass, with what is constant on it.
@@ -45,40 +43,30 @@ struct LineSweep {
 };
 
 Lie Lie_Of(double a) {
-    return a == 0 ? Lie::Flat : a == Pi / 2 ? Lie::Upright : Lie::Leaning;
+    return a == 0 ? Lie::Flat : a == pi / 2 ? Lie::Upright : Lie::Leaning;
 }
 
 double Leaning_Tangent(double t, double u) {
     return (t + 1 / (-u)) / (1.0 - t / (-u));
 }
 
-// False if a step of an element might fail.
-bool Fill(const LineSweep& line, double first, ElementBlock& block) {
-    bool ordinary = true;
+void Fill(const LineSweep& line, double first, ElementBlock& block) {
     for (std::size_t k = 0; k < block.count; ++k) {
         const double i = first + static_cast<double>(k);
         const double y = line.cut.Middle_Y(i);
         const double X = line.cut.Middle_X(i) + line.Ro;
-        const double u = y / X;
         block.X[k] = X;
         block.r[k] = std::sqrt(y * y + X * X);
-        block.tangent[k] = u;
-        ordinary &= std::abs(u) < Ordinary;
+        block.tangent[k] = y / X;
     }
-    if (line.lie == Lie::Leaning) {
-        for (std::size_t k = 0; k < block.count; ++k) {
-            const double u = block.tangent[k];
-            block.tangent[k] = Leaning_Tangent(line.t, u);
-            ordinary &= std::abs(u) > 1 / Ordinary;
-            ordinary &= std::abs(block.tangent[k]) < Ordinary;
-        }
-    }
-    return ordinary;
+    if (line.lie == Lie::Leaning)
+        for (std::size_t k = 0; k < block.count; ++k)
+            block.tangent[k] = Leaning_Tangent(line.t, block.tangent[k]);
 }
 
-// Goes through all elements in blocks: use(sweep, block). False as soon as one might fail.
+// Goes through all elements in blocks: use(sweep, block).
 template <typename Use>
-bool For_Blocks(const std::vector<WeldLine>& lines, double Ro, const WeldState& state, Use&& use) {
+void For_Blocks(const std::vector<WeldLine>& lines, double Ro, const WeldState& state, Use&& use) {
     LineSweep line;
     ElementBlock block;
     line.Ro = Ro;
@@ -86,14 +74,13 @@ bool For_Blocks(const std::vector<WeldLine>& lines, double Ro, const WeldState& 
         line.cut.Take(each, state.StripsPerUnit);
         line.lie = Lie_Of(line.cut.a);
         line.t = std::tan(line.cut.a);
-        for (double first = 0; first < line.cut.count; first += Block) {
+        for (double first = 0; first < line.cut.count; first += blockSize) {
             block.count = static_cast<std::size_t>(
-                std::min(static_cast<double>(Block), line.cut.count - first));
-            if (!Fill(line, first, block) || !use(line, block))
-                return false;
+                std::min(static_cast<double>(blockSize), line.cut.count - first));
+            Fill(line, first, block);
+            use(line, block);
         }
     }
-    return true;
 }
 
 void Degrees(const LineSweep& line, const ElementBlock& block, double* degrees) {
@@ -101,40 +88,38 @@ void Degrees(const LineSweep& line, const ElementBlock& block, double* degrees) 
     Arctangent_Each(degrees, block.count);
     if (line.lie == Lie::Flat)
         for (std::size_t k = 0; k < block.count; ++k)
-            degrees[k] = Pi / 2 - degrees[k];
+            degrees[k] = pi / 2 - degrees[k];
     for (std::size_t k = 0; k < block.count; ++k)
-        degrees[k] = std::abs((degrees[k] * 180.0) / Pi);
+        degrees[k] = std::abs((degrees[k] * 180.0) / pi);
 }
 
 // Finds the critical element, which needs every deltaU, and the largest deltaM, which is that of
 // the smallest angle.
-bool Find_Critical(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
+void Find_Critical(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
                    WeldPass& pass, SearchYield& yield) {
     double leastDegrees = std::numeric_limits<double>::infinity();
     double leastRatio = leastDegrees;
-    std::array<double, Block> powers; // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
+    std::array<double, blockSize>
+        powers; // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
     const auto use = [&](const LineSweep& line, const ElementBlock& block) {
         Degrees(line, block, powers.data());
         for (std::size_t k = 0; k < block.count; ++k) {
             leastDegrees = std::min(leastDegrees, powers[k]);
-            powers[k] += DeltaUAngle;
+            powers[k] += deltaUAngle;
         }
-        Raise_Each(powers.data(), block.count, DeltaUPower);
+        Raise_Each(powers.data(), block.count, deltaUPower);
         for (std::size_t k = 0; k < block.count; ++k) {
-            const double deltaU = std::min(powers[k] * DeltaUFactor, MostDeltaU) * WeldSize;
+            const double deltaU = std::min(powers[k] * deltaUFactor, mostDeltaU) * weldSize;
             leastRatio = std::min(leastRatio, deltaU / block.r[k]);
             yield();
             yield();
         }
-        return true;
     };
-    if (!For_Blocks(lines, Ro, state, use))
-        return false;
+    For_Blocks(lines, Ro, state, use);
     if (std::isfinite(leastRatio)) {
         pass.dRatio = leastRatio;
         pass.dMax = Weld_Delta_M(leastDegrees);
     }
-    return true;
 }
 
 // 1 + 0.5 sin^1.5 of the angle between force and axis.
@@ -144,42 +129,38 @@ double Direction_Factor(const LineSweep& line, double tangent) {
     return 1.0 + 0.5 * (sine * std::sqrt(sine));
 }
 
+// False where a sum is not finite: then a step has failed. The tangents are summed for this alone,
+// as that of an element straight above the centre goes into no other sum on a flat line.
 bool Add_Forces(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
                 WeldPass& pass, SearchYield& yield) {
     pass.SM = pass.SV = pass.SR = 0;
-    std::array<double, Block> f; // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
+    double tangents = 0;
+    std::array<double, blockSize> f; // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
     const auto use = [&](const LineSweep& line, const ElementBlock& block) {
-        const double area = line.cut.elementLength * WeldThroat * WeldSize;
+        const double area = line.cut.elementLength * weldThroat * weldSize;
         for (std::size_t k = 0; k < block.count; ++k) {
             const double rho = (pass.dRatio * block.r[k]) / pass.dMax;
             f[k] = (1.9 - 0.9 * rho) * rho;
         }
-        Raise_Each(f.data(), block.count, WeldForcePower);
+        Raise_Each(f.data(), block.count, weldForcePower);
         for (std::size_t k = 0; k < block.count; ++k) {
             const double r = block.r[k];
             const double R =
-                Direction_Factor(line, block.tangent[k]) * StrengthOfThroat * f[k] * area;
+                Direction_Factor(line, block.tangent[k]) * strengthOfThroat * f[k] * area;
             pass.SR += r * r;
             pass.SM += R * r;
             pass.SV += R * (block.X[k] / r);
+            tangents += block.tangent[k];
             yield();
         }
         pass.f = f[block.count - 1];
-        return true;
     };
-    // A power that fails anywhere has made SM not a number.
-    return For_Blocks(lines, Ro, state, use) && std::isfinite(pass.SM);
+    For_Blocks(lines, Ro, state, use);
+    return std::isfinite(pass.SR + pass.SM + pass.SV + tangents);
 }
 
-bool Is_Ordinary(const std::vector<WeldLine>& lines, double Ro) {
-    const auto inside = [](double value) { return std::abs(value) < Ordinary; };
-    return inside(Ro) && std::all_of(lines.begin(), lines.end(), [&](const WeldLine& line) {
-               return inside(line.x1) && inside(line.y1) && inside(line.x2) && inside(line.y2);
-           });
-}
-
-void Find_Careful_Critical(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
-                           WeldPass& pass, SearchYield& yield) {
+void Find_Critical_Step_By_Step(const std::vector<WeldLine>& lines, double Ro,
+                                const WeldState& state, WeldPass& pass, SearchYield& yield) {
     bool first = true;
     const auto take = [&](const WeldElement& element) {
         pass.dRatio = first ? element.deltaURatio : std::min(pass.dRatio, element.deltaURatio);
@@ -190,12 +171,12 @@ void Find_Careful_Critical(const std::vector<WeldLine>& lines, double Ro, const 
     BuildWeldElements(lines, Ro, state.StripsPerUnit, take, yield);
 }
 
-void Add_Careful_Force(const WeldElement& element, WeldPass& pass) {
+void Add_Force_Step_By_Step(const WeldElement& element, WeldPass& pass) {
     Keep(pass.Delta, pass.dRatio * element.r);
     Keep(pass.rho, pass.Delta / pass.dMax);
-    Keep(pass.f, std::pow((1.9 - 0.9 * pass.rho) * pass.rho, WeldForcePower));
-    Keep(pass.R, (1.0 + 0.5 * std::pow(std::sin(element.theta), 1.5)) * StrengthOfThroat * pass.f *
-                     (element.elementLength * WeldThroat * WeldSize));
+    Keep(pass.f, std::pow((1.9 - 0.9 * pass.rho) * pass.rho, weldForcePower));
+    Keep(pass.R, (1.0 + 0.5 * std::pow(std::sin(element.theta), 1.5)) * strengthOfThroat * pass.f *
+                     (element.elementLength * weldThroat * weldSize));
     Keep(pass.V, std::abs(std::cos(element.radiusAngle)) * pass.R * element.forceSign);
     Keep(pass.SR, pass.SR + element.r * element.r);
     Keep(pass.SM, pass.SM + pass.R * element.r);
@@ -205,20 +186,20 @@ void Add_Careful_Force(const WeldElement& element, WeldPass& pass) {
 } // namespace
 
 double Weld_Delta_M(double degrees) {
-    return std::pow(degrees + DeltaMAngle, DeltaMPower) * (DeltaMFactor * WeldSize);
+    return std::pow(degrees + deltaMAngle, deltaMPower) * (deltaMFactor * weldSize);
 }
 
 double Weld_Delta_U(double degrees) {
-    return std::min(std::pow(degrees + DeltaUAngle, DeltaUPower) * DeltaUFactor, MostDeltaU) *
-           WeldSize;
+    return std::min(std::pow(degrees + deltaUAngle, deltaUPower) * deltaUFactor, mostDeltaU) *
+           weldSize;
 }
 
-void Take_Careful_Weld_Pass(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
-                            WeldPass& pass, SearchYield& yield) {
-    Find_Careful_Critical(lines, Ro, state, pass, yield);
+void Take_Weld_Pass_Step_By_Step(const std::vector<WeldLine>& lines, double Ro,
+                                 const WeldState& state, WeldPass& pass, SearchYield& yield) {
+    Find_Critical_Step_By_Step(lines, Ro, state, pass, yield);
     pass.SM = pass.SV = pass.SR = 0;
     const auto take = [&](const WeldElement& element) {
-        Add_Careful_Force(element, pass);
+        Add_Force_Step_By_Step(element, pass);
         yield();
     };
     BuildWeldElements(lines, Ro, state.StripsPerUnit, take, [] {});
@@ -227,11 +208,11 @@ void Take_Careful_Weld_Pass(const std::vector<WeldLine>& lines, double Ro, const
 void Take_Weld_Pass(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
                     WeldPass& pass, SearchYield& yield) {
     const WeldPass before = pass;
-    if (Is_Ordinary(lines, Ro) && Find_Critical(lines, Ro, state, pass, yield) &&
-        Add_Forces(lines, Ro, state, pass, yield))
+    Find_Critical(lines, Ro, state, pass, yield);
+    if (Add_Forces(lines, Ro, state, pass, yield))
         return;
     pass = before;
-    Take_Careful_Weld_Pass(lines, Ro, state, pass, yield);
+    Take_Weld_Pass_Step_By_Step(lines, Ro, state, pass, yield);
 }
 
 } // namespace Tensarix

@@ -8,11 +8,11 @@
 namespace Tensarix {
 
 // All weld forces are those of a 1/16 weld.
-inline constexpr double WeldSize = 0.0625;
-inline constexpr double WeldThroat = 0.707106781;
-inline constexpr double ElectrodeStrength = 70.0;
-inline constexpr double WeldStressFactor = 0.6;
-inline constexpr double WeldForcePower = 0.3; // of (1.9 - 0.9 p) p
+inline constexpr double weldSize = 0.0625;
+inline constexpr double weldThroat = 0.707106781;
+inline constexpr double electrodeStrength = 70.0;
+inline constexpr double weldStressFactor = 0.6;
+inline constexpr double weldForcePower = 0.3; // of (1.9 - 0.9 p) p
 
 // Deformation at maximum stress and ultimate deformation at the angle between force and axis.
 double Weld_Delta_M(double degrees);
@@ -32,7 +32,7 @@ void Take_Weld_Pass(const std::vector<WeldLine>& lines, double Ro, const WeldSta
                     WeldPass& pass, SearchYield& yield);
 
 // The same with every step on its own, for numbers at which steps fail.
-void Take_Careful_Weld_Pass(const std::vector<WeldLine>& lines, double Ro, const WeldState& state,
-                            WeldPass& pass, SearchYield& yield);
+void Take_Weld_Pass_Step_By_Step(const std::vector<WeldLine>& lines, double Ro,
+                                 const WeldState& state, WeldPass& pass, SearchYield& yield);
 
 } // namespace Tensarix

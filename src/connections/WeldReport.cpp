@@ -9,22 +9,22 @@
 namespace Tensarix {
 namespace {
 
-constexpr std::int64_t SecondsBetweenClearings = 15;
+constexpr std::int64_t secondsBetweenClearings = 15;
 
 std::int64_t Seconds_Between(std::int64_t from, std::int64_t to) {
     return to > from ? to - from : from - to;
 }
 
 void Clear_Display_In_Time(WeldState& state, WeldDisplay& display, std::int64_t now) {
-    if (Seconds_Between(state.LastClearTime, now) <= SecondsBetweenClearings)
+    if (Seconds_Between(state.LastClearTime, now) <= secondsBetweenClearings)
         return;
     if (state.ClearCount == std::numeric_limits<std::int16_t>::max())
         throw Failure("too many clearings");
     ++state.ClearCount;
     state.LastClearTime = now;
     std::string text = "**Previous Iteration DELETED...[";
-    text.append(std::to_string(state.ClearCount)).append("]").append(ReportLineBreak);
-    text.append("[Iteration Display is cleared every").append(ReportLineBreak);
+    text.append(std::to_string(state.ClearCount)).append("]").append(reportLineBreak);
+    text.append("[Iteration Display is cleared every").append(reportLineBreak);
     text.append("15 sec. to maintain iteration speed]");
     display.Replace_Text(text);
 }
@@ -44,12 +44,12 @@ void ShowIterationStep(double angle, double Ro, double Fv, double Fm, double sca
     state.ElapsedSeconds = static_cast<double>(Seconds_Between(state.IterationStart, now));
     Clear_Display_In_Time(state, display, now);
     if (display.Has_Text())
-        display.Append_Text(std::string(ReportLineBreak).append(ReportLineBreak));
+        display.Append_Text(std::string(reportLineBreak).append(reportLineBreak));
     std::string text = " -> Ro    = ";
     text.append(Format_Number(Finite(Ro / scale), "0.00000"));
-    text.append(" [Rotated ").append(General_Text(angle)).append("°]").append(ReportLineBreak);
+    text.append(" [Rotated ").append(General_Text(angle)).append("°]").append(reportLineBreak);
     display.Append_Text(text);
-    Append_Force("    Fy[v] = ", Fv / scale, ReportLineBreak, display);
+    Append_Force("    Fy[v] = ", Fv / scale, reportLineBreak, display);
     if (noMoment)
         display.Append_Text("    Fy[m] = N.A.");
     else

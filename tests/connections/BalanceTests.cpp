@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <random>
 #include <string>
 #include <vector>
@@ -32,7 +33,7 @@ TEST(BalancedBolts, TwoBoltsInClosedForm) {
 // point moved so far, it takes that of least energy, and the load is full when the farthest spring
 // is at its limit. The energy is convex: its derivatives are bisected.
 double Least_Energy_C(const BoltGroup& group, double ex, double degrees) {
-    const double theta = degrees * Pi / 180, px = std::sin(theta), py = std::cos(theta);
+    const double theta = degrees * pi / 180, px = std::sin(theta), py = std::cos(theta);
     double across = 0, turning = 0, along = 0, farthest = 0;
     const auto move = [&](double reach, double turn, double aside) {
         const double s = reach - turn * ex * py;
@@ -140,7 +141,7 @@ TEST(BalancedBolts, TheForcesAboutTheCentreBalanceTheLoad) {
           Case{{2, 4, 3, 3}, 7, -60}, Case{{5, 2, 3, 3}, 6, 140}, Case{{5, 2, 3, 3}, -6, 200}}) {
         const Balance balance = Balanced_Bolts(c.group, c.ex, c.angle).value_or(Balance{});
         ASSERT_TRUE(balance.Turns);
-        const double theta = c.angle * Pi / 180;
+        const double theta = c.angle * pi / 180;
         double across = -balance.C * std::sin(theta), up = -balance.C * std::cos(theta);
         double moment = c.ex * up;
         const double turn = moment > 0 ? -1 : 1; // the forces turn the other way
@@ -239,7 +240,7 @@ Felt Felt_Weld_C(int item, double L, double kL, double aL, double degrees) {
         piece.y -= yc / total;
         polar += (piece.x * piece.x + piece.y * piece.y) * piece.length / total;
     }
-    const double theta = degrees * Pi / 180, px = std::sin(theta), py = std::cos(theta);
+    const double theta = degrees * pi / 180, px = std::sin(theta), py = std::cos(theta);
     const double e = aL * py, size = e + std::sqrt(polar);
     const auto about = [&](double cx, double cy) {
         const auto angle = [&](const Piece& p) {
@@ -248,11 +249,11 @@ Felt Felt_Weld_C(int item, double L, double kL, double aL, double degrees) {
         };
         double turn = 1e9, fx = 0, fy = 0, moment = 0, sum = 0;
         for (const Piece& p : pieces)
-            turn = std::min(turn, std::min(1.087 * std::pow(angle(p) * 180 / Pi + 6, -0.65), 0.17) /
+            turn = std::min(turn, std::min(1.087 * std::pow(angle(p) * 180 / pi + 6, -0.65), 0.17) /
                                       std::hypot(p.x - cx, p.y - cy));
         for (const Piece& p : pieces) {
             const double r = std::hypot(p.x - cx, p.y - cy), a = angle(p);
-            const double d = turn * r / (0.209 * std::pow(a * 180 / Pi + 2, -0.32));
+            const double d = turn * r / (0.209 * std::pow(a * 180 / pi + 2, -0.32));
             const double R = 0.6 * 70 * 0.707106781 / 16 * p.length *
                              (1 + 0.5 * std::pow(std::sin(a), 1.5)) *
                              std::pow(d * (1.9 - 0.9 * d), 0.3);
@@ -269,7 +270,7 @@ Felt Felt_Weld_C(int item, double L, double kL, double aL, double degrees) {
     for (double step = size, lean = 0; step > 1e-8 * size;) {
         bool nearer = false;
         for (int k = 0; k < 6; ++k) {
-            const double to = lean + k * Pi / 3;
+            const double to = lean + k * pi / 3;
             const double tx = x + step * std::cos(to), ty = y + step * std::sin(to);
             if (const Felt felt = about(tx, ty); felt.missed < best.missed && felt.C > 0) {
                 best = felt;
@@ -339,13 +340,13 @@ TEST(BalanceRemark, TheBoltSearchIsNeverBelowTheBalancedLoad) {
                 for (const double ex : {2.0, 4.0, 8.0, 16.0}) {
                     const BoltGroup group{std::int16_t(m), std::int16_t(n), 3, 3};
                     CountingTurn turn;
-                    SearchYield yield(turn);
+                    SearchYield yield(std::ref(turn));
                     const double C = BoltCoefficientC(group, ex, angle, yield);
                     const auto balanced = Balanced_Bolts(group, ex, angle);
                     EXPECT_GT(C / balanced.value_or(Balance{1e9}).C, 1.018)
                         << m << " x " << n << " at " << ex;
                     above.Take(C / balanced->C - 1, std::to_string(m) + " x " + std::to_string(n));
-                    remarks += !Balance_Remark(C, balanced, BoltRemarkTolerance).empty();
+                    remarks += !Balance_Remark(C, balanced, boltRemarkTolerance).empty();
                 }
         EXPECT_TRUE(angle > 0 || remarks < 5);
         above.Record(std::to_string(int(angle)) + " degrees, " + std::to_string(remarks) +
@@ -364,14 +365,14 @@ TEST(BalanceRemark, TheWeldSearchIsBelowTheBalancedLoadUnderAnUprightLoad) {
                     bench.state.StopRequested |= bench.display.steps > 999;
                 };
                 const double C =
-                    Weld_Configuration_Result(item, 10, 5, aL, angle, WeldModeC, bench.search);
+                    Weld_Configuration_Result(item, 10, 5, aL, angle, weldModeC, bench.search);
                 const auto balanced = Balanced_Welds(item, 10, 5, aL, angle);
                 if (bench.state.StopRequested || !balanced)
                     continue;
                 const std::string at = "item " + std::to_string(item);
                 above.Take(C / balanced->C - 1, at);
                 below.Take(1 - C / balanced->C, at);
-                remarks += !Balance_Remark(C, balanced, WeldRemarkTolerance).empty();
+                remarks += !Balance_Remark(C, balanced, weldRemarkTolerance).empty();
                 EXPECT_TRUE(angle > 0 || C < balanced->C) << at;
             }
         const std::string run =
@@ -383,10 +384,10 @@ TEST(BalanceRemark, TheWeldSearchIsBelowTheBalancedLoadUnderAnUprightLoad) {
 
 TEST(BalanceRemark, StandsBeyondTheTolerance) {
     CountingTurn turn;
-    SearchYield yield(turn);
+    SearchYield yield(std::ref(turn));
     const BoltGroup group{3, 1, 3, 3};
     const double C = BoltCoefficientC(group, 8, 0, yield);
-    EXPECT_EQ(Balance_Remark(C, Balanced_Bolts(group, 8, 0), BoltRemarkTolerance),
+    EXPECT_EQ(Balance_Remark(C, Balanced_Bolts(group, 8, 0), boltRemarkTolerance),
               "The centre that satisfies all equilibrium conditions gives C = 0.732 (this value is "
               "310 % higher)");
     EXPECT_EQ(Balance_Remark(0.9, Balance{1.0}, 0.05),

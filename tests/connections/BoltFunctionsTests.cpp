@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <vector>
 
-#include "../../bench/PlainSearches.h"
 #include "connections/BoltFunctions.h"
 #include "connections/SearchStandIns.h"
 
@@ -17,7 +17,7 @@ struct Searched {
 
 Searched Search(const BoltGroup& group, double ex, double angle) {
     CountingTurn turn;
-    SearchYield yield(turn);
+    SearchYield yield(std::ref(turn));
     const double C = BoltCoefficientC(group, ex, angle, yield);
     return {C, turn.asked};
 }
@@ -49,15 +49,44 @@ TEST(BoltCoefficientC, KnownSearches) {
     }
 }
 
-TEST(BoltCoefficientC, AnOvershootingSearchEndsNearAllBolts) {
-    const Searched found = Search({6, 2, 3, 3}, 6, 75);
-    EXPECT_NEAR(found.C, 12, 1e-3);
-    EXPECT_NEAR(double(found.passes), 240'000, 12'000);
+// As the search walks with every step on its own, C to the last digits and every pass.
+TEST(BoltCoefficientC, SearchesThatConvergeTakeTheirPasses) {
+    struct Row {
+        BoltGroup group;
+        double ex, angle, C;
+        long passes;
+    };
+    const Row rows[] = {
+        {{2, 1, 3, 5.5}, 12, 45, 0.337883366, 22}, {{4, 1, 3, 3}, 12, 0, 0.935997554, 10},
+        {{7, 3, 3, 5.5}, 3, 15, 18.186483548, 83}, {{12, 2, 3, 5.5}, -30, 45, 8.945116323, 19},
+        {{5, 3, 75, 75}, 200, 0, 6.903109952, 15}, {{3, 2, 3, 5.5}, 0.5, 135, 5.862754904, 510},
+        {{9, 1, 3, 3}, 24, 60, 3.907851807, 21}};
+    for (const Row& row : rows) {
+        const Searched found = Search(row.group, row.ex, row.angle);
+        EXPECT_NEAR(found.C, row.C, 1e-9) << row.group.m << " x " << row.group.n;
+        EXPECT_EQ(found.passes, row.passes) << row.group.m << " x " << row.group.n;
+    }
+}
+
+// Walked to their ends these take 60,035, 240,072 and 1,920,511 passes.
+TEST(BoltCoefficientC, ASearchPastItsCentreFindsTheEndOfTheWalk) {
+    struct Row {
+        BoltGroup group;
+        double ex, angle, C;
+    };
+    for (const Row& row :
+         {Row{{3, 1, 3, 3}, 8, 0, 2.999950000}, Row{{6, 2, 3, 3}, 6, 75, 11.999918264},
+          Row{{12, 8, 3, 3}, 6, 75, 95.999872436}}) {
+        const Searched found = Search(row.group, row.ex, row.angle);
+        EXPECT_NEAR(found.C, row.C, 1e-8) << row.group.m << " x " << row.group.n;
+        EXPECT_LT(found.passes, 1000) << row.group.m << " x " << row.group.n;
+    }
 }
 
 // Vertical and moment equilibrium about a centre on the horizontal, bracketed.
 double Bracketed_C(const BoltGroup& group, double e) {
     double load = 0;
+    const auto force = [](double slip) { return std::pow(1 - std::exp(-10 * slip), 0.55); };
     const auto excess = [&](double Ro) {
         std::vector<double> distances;
         double dmax = 0, SM = 0, SV = 0;
@@ -70,7 +99,7 @@ double Bracketed_C(const BoltGroup& group, double e) {
             const double y = (std::floor(k / double(group.n)) - (group.m - 1) / 2.0) * group.sv;
             const double X = Ro + (k % group.n - (group.n - 1) / 2.0) * group.sh;
             const double d = std::hypot(X, y);
-            const double share = d > 0 ? Plain::Force(0.34 * d / dmax) / Plain::Force(0.34) : 0;
+            const double share = d > 0 ? force(0.34 * d / dmax) / force(0.34) : 0;
             SM += share * d;
             SV += d > 0 ? share * X / d : 0;
         }
@@ -98,78 +127,37 @@ TEST(BoltCoefficientC, AgreesWithABracketedCentreWhereItConverges) {
             << row.group.m << " x " << row.group.n << " at " << row.ex;
 }
 
-TEST(BoltCoefficientC, AgreesWithThePlainLoopPassByPass) {
-    int longSearches = 0;
-    for (const int m : {1, 2, 3, 4, 7, 12}) {
-        for (const int n : {1, 2, 3}) {
-            for (const double angle : {0.0, 15.0, 45.0, 75.0, 90.0, 135.0}) {
-                for (const double ex : {0.5, 3.0, 12.0, -30.0}) {
-                    const BoltGroup group{std::int16_t(m), std::int16_t(n), 3, 5.5};
-                    const Plain::Outcome plain = Plain::BoltC(group, ex, angle, 3000);
-                    CountingTurn turn{0, 3000};
-                    SearchYield yield(turn);
-                    if (plain.passes == 3000) {
-                        ++longSearches;
-                        EXPECT_THROW(BoltCoefficientC(group, ex, angle, yield), SearchAbandoned);
-                        continue;
-                    }
-                    EXPECT_NEAR(BoltCoefficientC(group, ex, angle, yield), plain.value, 1e-9);
-                    EXPECT_EQ(turn.asked, plain.passes);
-                }
-            }
-        }
-    }
-    EXPECT_GT(longSearches, 20);
-}
-
-TEST(BoltCoefficientC, ALongSearchTakesThePlainLoopsPasses) {
-    const BoltGroup group{3, 1, 3, 3};
-    const Plain::Outcome plain = Plain::BoltC(group, 8, 0);
-    const Searched found = Search(group, 8, 0);
-    EXPECT_GT(plain.passes, 20'000);
-    EXPECT_NEAR(found.C, plain.value, 1e-9);
-    EXPECT_EQ(found.passes, plain.passes);
-}
-
-// Steps fail one by one: the result is what the others leave.
+// Steps fail one by one: the result is what the others leave. Some never end.
 TEST(BoltCoefficientC, AbsurdNumbersEndOrCanBeGivenUp) {
     struct Row {
         BoltGroup group;
         double ex, angle;
+        bool ends;
     };
-    const Row rows[] = {{{0, 5, 3, 3}, 4, 0},        {{-2, -3, 3, 3}, 4, 0},
-                        {{4, 2, 0, 0}, 4, 0},        {{4, 2, 1e300, 1e300}, 4, 30},
-                        {{4, 2, 3, 3}, 1e300, 0},    {{4, 2, 3, 3}, 1e-300, 0},
-                        {{4, 2, 3, 3}, 4, 1e308},    {{3, 1, 1e308, 1e308}, 1e308, 45},
-                        {{4, 2, 1e100, 3}, 4, 0},    {{4, 2, 1e-200, 1e-200}, 4, 0},
-                        {{32767, 32767, 3, 3}, 4, 0}};
+    const Row rows[] = {
+        {{0, 5, 3, 3}, 4, 0, true},           {{-2, -3, 3, 3}, 4, 0, true},
+        {{4, 2, 0, 0}, 4, 0, true},           {{4, 2, 1e300, 1e300}, 4, 30, true},
+        {{4, 2, 3, 3}, 1e300, 0, true},       {{4, 2, 3, 3}, 1e-300, 0, false},
+        {{4, 2, 1e100, 3}, 4, 0, false},      {{3, 1, 1e308, 1e308}, 1e308, 45, true},
+        {{4, 2, 1e-200, 1e-200}, 4, 0, true}, {{32767, 32767, 3, 3}, 4, 0, true}};
     for (const Row& row : rows) {
         CountingTurn turn{0, 500};
-        SearchYield yield(turn);
-        const bool counted = row.group.m * row.group.n < 1'000;
+        SearchYield yield(std::ref(turn));
         try {
-            const double C = BoltCoefficientC(row.group, row.ex, row.angle, yield);
-            EXPECT_TRUE(std::isfinite(C));
-            if (counted && row.group.m > 0) {
-                EXPECT_NEAR(C, Plain::BoltC(row.group, row.ex, row.angle, 500).value, 1e-9)
-                    << row.ex << " " << row.group.sv;
-            } else {
-                EXPECT_EQ(C, 0);
-            }
+            EXPECT_NEAR(BoltCoefficientC(row.group, row.ex, row.angle, yield), 0, 1e-9);
+            EXPECT_TRUE(row.ends) << row.ex << " " << row.group.sv;
         } catch (const SearchAbandoned&) {
-            EXPECT_EQ(Plain::BoltC(row.group, row.ex, row.angle, 500).passes, 500);
+            EXPECT_FALSE(row.ends) << row.ex << " " << row.group.sv;
         }
         EXPECT_TRUE(std::isfinite(BoltCoefficientCPrime(row.group)));
     }
-    CountingTurn turn;
-    SearchYield yield(turn);
-    EXPECT_EQ(BoltCoefficientC({-2, 3, 3, 3}, 0, 0, yield), -6);
-    EXPECT_EQ(BoltCoefficientC({32767, 32767, 3, 3}, 0, 0, yield), 32767.0 * 32767.0);
+    EXPECT_EQ(Search({-2, 3, 3, 3}, 0, 0).C, -6);
+    EXPECT_EQ(Search({32767, 32767, 3, 3}, 0, 0).C, 32767.0 * 32767.0);
 }
 
 TEST(BoltCoefficientC, ALargeGroupYieldsWithinAPass) {
     CountingTurn turn{0, 3};
-    SearchYield yield(turn);
+    SearchYield yield(std::ref(turn));
     EXPECT_THROW(BoltCoefficientC({200, 200, 3, 3}, 4, 0, yield), SearchAbandoned);
     EXPECT_EQ(turn.asked, 3);
 }
@@ -189,7 +177,7 @@ TEST(BoltCoefficientCPrime, CountsTheFarthestBoltBelowOne) {
 
 TEST(SearchYield, AsksOnceAStride) {
     CountingTurn turn;
-    SearchYield yield(turn, 16);
+    SearchYield yield(std::ref(turn), 16);
     for (int k = 0; k < 160; ++k)
         yield();
     EXPECT_EQ(turn.asked, 10);

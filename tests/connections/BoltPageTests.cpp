@@ -34,7 +34,7 @@ class BoltPageTest : public testing::Test {
     }
     const std::string& Cell(int row, int col) { return page->cFlex.Text(row, col); }
     const std::string& Remark(int row) { return page->cFlex.Remark(row, BoltColumn::C); }
-    std::filesystem::path File() { return machine.Data.Path / BoltFileName; }
+    std::filesystem::path File() { return machine.Data.Path / boltFileName; }
 };
 
 const std::vector<std::string> sixInLine{"6", "1", "3", "3", "4", "0"};
@@ -106,7 +106,7 @@ TEST_F(BoltPageTest, AnUnbalancedResultCarriesARemark) {
     BoltPage& p = Start();
     Type_Row(1, {"3", "1", "3", "3", "8", "0"});
     EXPECT_EQ(Cell(1, 7), "3.000  ");
-    EXPECT_EQ(p.cFlex.Remark(0, BoltColumn::C), FarthestBoltRemark);
+    EXPECT_EQ(p.cFlex.Remark(0, BoltColumn::C), farthestBoltRemark);
     EXPECT_TRUE(Remark(1).starts_with("The centre that satisfies all equilibrium conditions"));
     p.cFlex.Move_To(1, 1);
     EXPECT_EQ(p.RowRemark.Caption(), Remark(1));

@@ -16,7 +16,7 @@ class BoltFileTest : public testing::Test {
   protected:
     FreshFolder folder;
     ScriptedMessages boxes;
-    std::filesystem::path path = folder.Path / BoltFileName;
+    std::filesystem::path path = folder.Path / boltFileName;
     std::filesystem::path aside = folder.Path / "BoltInputData.dat.unreadable";
     std::vector<BoltRow> entries;
 
@@ -73,7 +73,7 @@ TEST_F(BoltFileTest, CutShortAnywhereItsTextsAreEmptyFromThere) {
         bool missing = false;
         for (std::size_t i = 0; i < entries.size(); ++i) {
             EXPECT_EQ(entries[i].RowNumber, Two_Rows()[i].RowNumber) << length;
-            for (std::size_t k = 0; k < BoltTextCount; ++k) {
+            for (std::size_t k = 0; k < boltTextCount; ++k) {
                 missing = missing || entries[i].Texts[k] != Two_Rows()[i].Texts[k];
                 EXPECT_EQ(entries[i].Texts[k], missing ? "" : Two_Rows()[i].Texts[k]) << length;
             }

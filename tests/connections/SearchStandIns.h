@@ -36,7 +36,7 @@ struct RecordingDisplay final : WeldDisplay {
 // A weld search with all that it needs.
 struct WeldBench {
     CountingTurn turn;
-    SearchYield yield{turn};
+    SearchYield yield{std::ref(turn)};
     WeldState state;
     RecordingDisplay display;
     WeldSearch search{state, display, yield};

@@ -369,19 +369,19 @@ TEST_F(WeldPageTest, EachConfigurationKeepsItsInputs) {
 
 TEST_F(WeldPageTest, LeavingThePageStopsTheSearch) {
     WeldPage& p = Start();
-    design->DesignSSTab.Select(WeldTab);
+    design->DesignSSTab.Select(weldTab);
     EXPECT_EQ(desk.StatBar.Panel1(), " SELECTION:   Weld Configuration 1");
     Type_All(usual);
     for (const bool byTab : {true, false}) {
         yields = 0;
         onYield = [&](long yield) {
             if (yield == 30)
-                byTab ? design->DesignSSTab.Select(BoltTab) : design->Leave();
+                byTab ? design->DesignSSTab.Select(boltTab) : design->Leave();
         };
         p.StartIterationButton.Click();
         EXPECT_EQ(Buttons(), stopped);
         EXPECT_TRUE(Report().ends_with(aborted));
-        design->DesignSSTab.Select(WeldTab);
+        design->DesignSSTab.Select(weldTab);
         EXPECT_EQ(Buttons(), stopped);
     }
     design->Leave(); // nothing runs: nothing is stopped, or resumed

@@ -146,7 +146,7 @@ TEST_F(MainFrmTest, ConnectionDesignAndTheModes) {
     OptionButton& connection = f.OptButton[static_cast<std::size_t>(Mode::Connection)];
     connection.Select();
     EXPECT_EQ(f.Shared.StatBar.Panel1(), " SELECTION:   None");
-    f.Design.DesignSSTab.Select(WeldTab);
+    f.Design.DesignSSTab.Select(weldTab);
     f.Design.Welds.WeldView.Click(3);
     f.OptButton[0].Select();
     connection.Select();

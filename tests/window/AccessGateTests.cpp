@@ -341,7 +341,7 @@ TEST_F(AccessGate, KeysForWhatTheMouseDoes) {
     EXPECT_TRUE(QToolTip::text().endsWith(QStringLiteral("\ndoubtful")));
 
     form.OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
-    form.Design.DesignSSTab.Select(WeldTab);
+    form.Design.DesignSSTab.Select(weldTab);
     int chosen = 0;
     form.Design.Welds.WeldView.OnItemClick = [&chosen] { ++chosen; };
     Settle();

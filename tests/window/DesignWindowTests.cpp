@@ -50,7 +50,7 @@ class DesignWindowTest : public WindowTest {
         }
     }
     void To_Welds() {
-        Design().DesignSSTab.Select(WeldTab);
+        Design().DesignSSTab.Select(weldTab);
         Settle();
         Find<GridView>("WeldFlex").setFocus();
         Design().Welds.WeldFlex.Move_To(0, 1);
@@ -65,7 +65,7 @@ class DesignWindowTest : public WindowTest {
     // A search of several seconds.
     void Start_Long_Weld() {
         WeldPage& welds = Design().Welds;
-        Design().DesignSSTab.Select(WeldTab);
+        Design().DesignSSTab.Select(weldTab);
         welds.WeldView.Click(5);
         welds.WeldStripBox.Select(3);
         int row = 0;
@@ -177,11 +177,11 @@ TEST_F(DesignWindowTest, StopResumeAndLeavingThePage) {
     EXPECT_TRUE(Find<QLineEdit>("CBox").text().startsWith("** "));
     Later(150, [this] {
         auto* bar = Find<QTabWidget>("DesignSSTab").tabBar();
-        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(BoltTab).center());
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(boltTab).center());
     });
     Click("StopIterationButton"); // resumes
     Settle();
-    EXPECT_EQ(Design().DesignSSTab.Tab(), BoltTab);
+    EXPECT_EQ(Design().DesignSSTab.Tab(), boltTab);
     EXPECT_EQ(Design().Welds.StopIterationButton.Caption(), "Resume Iteration");
     EXPECT_TRUE(Find<QLineEdit>("CBox").text().startsWith("** "));
 }

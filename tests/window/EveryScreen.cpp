@@ -200,7 +200,7 @@ class Walk {
         DesignPage& design = program_.Form().Design;
         BoltPage& page = design.Bolts;
         To(Mode::Connection);
-        design.DesignSSTab.Select(BoltTab);
+        design.DesignSSTab.Select(boltTab);
         Show("bolts");
         Type(page.cFlex, page.EdiTxt, {"6", "2", "3", "3", "6", "75"}, 1, 1, false);
         page.cFlex.Move_To(1, 7);
@@ -216,7 +216,7 @@ class Walk {
     void Welds() {
         DesignPage& design = program_.Form().Design;
         WeldPage& page = design.Welds;
-        design.DesignSSTab.Select(WeldTab);
+        design.DesignSSTab.Select(weldTab);
         Settle();
         In_Dialog([&page] { page.StartIterationButton.Click(); }, Visited("weld, message"));
         for (int configuration = 1; configuration <= page.WeldView.Count(); configuration += 4) {

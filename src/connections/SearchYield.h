@@ -2,7 +2,8 @@
 #pragma once
 
 #include <exception>
-#include <type_traits>
+#include <functional>
+#include <utility>
 
 namespace Tensarix {
 
@@ -15,16 +16,11 @@ class SearchAbandoned final : public std::exception {
 
 // The yield of one search. The engines call it at every element and pass; every stride-th call asks
 // the caller's `turn`, which lets pending events run (it may look at the clock first) and returns
-// false to abandon the search. `turn` must outlive the search.
+// false to abandon the search.
 class SearchYield {
   public:
-    template <typename Turn>
-    requires(!std::is_same_v<std::remove_const_t<Turn>, SearchYield>) explicit SearchYield(
-        Turn& turn, int stride = 1)
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): ask_ gives the const back
-        : turn_(const_cast<std::remove_const_t<Turn>*>(&turn)),
-          ask_([](void* asked) { return bool((*static_cast<Turn*>(asked))()); }),
-          stride_(stride > 0 ? stride : 1), left_(stride_) {}
+    explicit SearchYield(std::function<bool()> turn, int stride = 1)
+        : turn_(std::move(turn)), stride_(stride > 0 ? stride : 1), left_(stride_) {}
 
     void operator()() {
         if (--left_ <= 0)
@@ -34,19 +30,18 @@ class SearchYield {
   private:
     void Ask() {
         left_ = stride_;
-        if (!ask_(turn_))
+        if (!turn_())
             throw SearchAbandoned();
     }
 
-    void* turn_;
-    bool (*ask_)(void*);
+    std::function<bool()> turn_;
     int stride_;
     int left_;
 };
 
 // Strides that keep the yield under a few per cent of the search and the event loop within a
 // millisecond: a bolt search yields once a pass, a weld search three times an element.
-inline constexpr int BoltYieldStride = 16;
-inline constexpr int WeldYieldStride = 256;
+inline constexpr int boltYieldStride = 16;
+inline constexpr int weldYieldStride = 256;
 
 } // namespace Tensarix
