@@ -6,16 +6,16 @@ set -euo pipefail
 
 # name in docs/pictures, name in the tour
 pictures="
-browse       browse-00
-find         find-zx
-view         view-04
+browse       browse-W-Shape
+find         find-found
+view         view-all-C-Shape
 beam         beam-13th
-bolts        bolts-after
-weld         weld-after
+bolts        bolts-result
+weld         weld-result
 weights-1    weights-1
-weights-2    weights-2-editing
+weights-2    weights-2
 calculator   calculator-1
-registers    calculator-memory-0
+registers    calculator-memory-in
 popup        popup
 "
 

@@ -29,9 +29,9 @@ void Program::Prepare_Application() {
     QLocale::setDefault(QLocale::c());
 }
 
-Program::Program(const Folders& folders)
-    : machine_{settings_, clipboard_,  voice_,    messages_, clock_,
-               events_,   mainWindow_, instance_, folders},
+Program::Program(const Folders& folders, std::unique_ptr<Clock> clock)
+    : clock_(std::move(clock)), machine_{settings_, clipboard_,  voice_,    messages_, *clock_,
+                                         events_,   mainWindow_, instance_, folders},
       form_(machine_, *this) {}
 
 Program::~Program() = default;

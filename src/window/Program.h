@@ -15,7 +15,8 @@ namespace Tensarix {
 
 class Program final : public Dialogs {
   public:
-    explicit Program(const Folders& folders = Program_Folders());
+    explicit Program(const Folders& folders = Program_Folders(),
+                     std::unique_ptr<Clock> clock = std::make_unique<SteadyClock>());
     ~Program() override;
 
     // Application-wide ways: names, icon, how long a typed search goes on.
@@ -38,7 +39,7 @@ class Program final : public Dialogs {
     DesktopClipboard clipboard_;
     DesktopVoice voice_;
     MessageBoxes messages_;
-    SteadyClock clock_;
+    std::unique_ptr<Clock> clock_;
     DesktopEvents events_;
     DesktopWindow mainWindow_;
     Machine machine_;

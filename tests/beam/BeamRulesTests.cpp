@@ -1,6 +1,6 @@
 #include "Largest.h"
+#include "SectionFigures.h"
 #include "beam/BeamRules.h"
-#include "sections/SectionFiguresRows.h"
 
 #include <gtest/gtest.h>
 
@@ -75,8 +75,9 @@ Strength Strength_Of(Edition edition, const BeamSection& s, double Fy) {
 // and all of it where the span was raised to the boundary.
 TEST(BeamRules, EveryLoadIsInEquilibriumWithTheStrengthOfItsSection) {
     Tests::Largest moment, reaction, shear;
+    const FigureRows figures = Read_Figure_Rows(TENSARIX_PROGRAM_DIR);
     for (const char* family : {"W", "M", "HP", "S", "C", "MC"})
-        for (const FigureRow& row : All_Rows().at(family))
+        for (const FigureRow& row : figures.at(family))
             for (const double Fy : {36.0, 50.0})
                 for (const Edition edition : {Ninth, ASD, LRFD})
                     for (const double typed : {0.0, 2.0, 7.0, 25.0, 60.0}) {
@@ -124,8 +125,9 @@ TEST(BeamRules, TabulatedStrengths) {
         EXPECT_LE(std::abs(value - printed), 0.501 * unit) << name;
         deviation.Take(std::abs(value / printed - 1), name);
     };
+    const FigureRows figures = Read_Figure_Rows(TENSARIX_PROGRAM_DIR);
     for (const Row& row : rows)
-        for (const FigureRow& section : All_Rows().at("W"))
+        for (const FigureRow& section : figures.at("W"))
             if (section.Us == row.Name)
                 for (const Edition edition : {ASD, LRFD}) {
                     const BeamLoad far = Load_Of(edition, {Section_Of(section), 50, 60}),

@@ -272,7 +272,7 @@ class AccessGate : public WindowTest {
 
 TEST_F(AccessGate, EveryScreen) {
     program->Window().resize(1240, 700);
-    For_Each_Screen(*program, [this](const std::string& name, QWidget& top) {
+    const auto faults = For_Each_Screen(*program, [this](const std::string& name, QWidget& top) {
         screen = QString::fromStdString(name);
         Check_Names(top);
         Check_Mnemonics(top);
@@ -283,6 +283,8 @@ TEST_F(AccessGate, EveryScreen) {
         Check_Lists(top);
         Check_Tab(top);
     });
+    for (const std::string& fault : faults)
+        ADD_FAILURE() << fault;
     offences.removeDuplicates();
     EXPECT_TRUE(offences.isEmpty()) << offences.join(QLatin1Char('\n')).toStdString();
 }

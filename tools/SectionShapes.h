@@ -2,7 +2,7 @@
 // the figures of the tables.
 #pragma once
 
-#include "SectionFiguresRows.h"
+#include "SectionFigures.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,18 +1,16 @@
 // The figures of a section have to agree with each other: what can be computed from its dimensions,
 // its parent or its single angle is computed here and compared. The tolerances are a little above
 // the largest difference that the printed three digits, fillets and sloping flanges leave.
-#include "Largest.h"
-#include "SectionFiguresShapes.h"
+#include "SectionFigures.h"
+#include "SectionShapes.h"
 #include "common/NumberText.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+#include <iostream>
 #include <sstream>
 
-using namespace Tensarix;
+namespace Tensarix {
 
 namespace {
 
@@ -73,15 +71,11 @@ double Longest_Leg(const Row& r) {
     return std::max(r("D"), r("B")) / r("T");
 }
 
-const Row& Row_Of(const std::string& label) {
-    static const auto byLabel = [] {
-        std::map<std::string, const Row*> rows;
-        for (const auto& [family, list] : All_Rows())
-            for (const Row& row : list)
-                rows[row.Us] = &row;
-        return rows;
-    }();
-    return *byLabel.at(label);
+// All rows by their US designation, for those that are held against another section.
+std::map<std::string, const Row*> byName;
+
+const Row& Row_Of(const std::string& name) {
+    return *byName.at(name);
 }
 
 // WT22x167.5 is cut from W44x335.
@@ -329,23 +323,54 @@ const Check checks[] = {
      }},
 };
 
+class Largest {
+  public:
+    void Take(double deviation, const std::string& at) {
+        ++cases_;
+        if (deviation > value_) {
+            value_ = deviation;
+            at_ = at;
+        }
+    }
+    void Print(const std::string& check) const {
+        std::cout << check << ": " << cases_ << " cases, largest " << value_ << " at " << at_
+                  << '\n';
+    }
+
+  private:
+    double value_ = 0;
+    int cases_ = 0;
+    std::string at_;
+};
+
+Largest Deviations(const Check& check, const std::vector<Row>& rows, Faults& faults) {
+    Largest deviation;
+    for (const Row& row : rows) {
+        const double figure = row(check.Column), computed = check.Computed(row);
+        deviation.Take(std::abs(figure / computed - 1), row.Us);
+        faults.Expect(std::abs(figure - computed) <= check.Tolerance * computed,
+                      row.Us + ": " + check.Column + " " + General_Text(figure) + ", computed " +
+                          General_Text(computed));
+    }
+    return deviation;
+}
+
 } // namespace
 
-TEST(SectionFiguresGeometry, FiguresAgreeWithEachOther) {
+void Check_Figures_With_Each_Other(const FigureRows& rows, Faults& faults, bool printDeviations) {
+    for (const auto& [family, list] : rows)
+        for (const Row& row : list)
+            byName[row.Us] = &row;
+    std::cout.precision(2);
     for (const Check& check : checks) {
         std::istringstream families{check.Families};
         for (std::string family; families >> family;) {
-            ASSERT_FALSE(All_Rows().at(family).empty());
-            Tests::Largest deviation;
-            for (const Row& row : All_Rows().at(family)) {
-                const double computed = check.Computed(row);
-                deviation.Take(std::abs(row(check.Column) / computed - 1), row.Us);
-                EXPECT_LE(std::abs(row(check.Column) - computed), check.Tolerance * computed)
-                    << row.Us << ' ' << check.Column << ' ' << row(check.Column) << ", computed "
-                    << computed;
-            }
-            deviation.Record(std::string{check.Column} + " of " + family + ", check " +
-                             std::to_string(&check - checks + 1));
+            const Largest deviation = Deviations(check, rows.at(family), faults);
+            if (printDeviations)
+                deviation.Print(std::string{check.Column} + " of " + family + ", check " +
+                                std::to_string(&check - checks + 1));
         }
     }
 }
+
+} // namespace Tensarix
