@@ -70,10 +70,11 @@ double From_Circle(const CalcVariables& vars, double radians) {
     return FromDegrees(vars, Degrees_Per_Radian() * radians);
 }
 
-std::string Turns_Remark(const CalcVariables& vars, double angle) {
+Advice Turns_Remark(const CalcVariables& vars, double angle) {
     if (vars.Conversion.Angle == AngleMode::DegreeMode || std::abs(angle) < 360)
         return {};
-    return "Taken at " + Number_Text(Without_Turns(angle)) + ": turns of 360 go off in any unit";
+    return {"Taken at " + Number_Text(Without_Turns(angle)) + ": turns of 360 go off in any unit",
+            RemarkWeight::Caution};
 }
 
 double Sine(const CalcVariables& vars, double angle) {

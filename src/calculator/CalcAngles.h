@@ -13,7 +13,7 @@ double FromDegrees(const CalcVariables& vars, double degrees);
 double ToDegrees(const CalcVariables& vars, double angle);
 
 // Where that makes it another angle, what it is taken at; else empty.
-std::string Turns_Remark(const CalcVariables& vars, double angle);
+Advice Turns_Remark(const CalcVariables& vars, double angle);
 
 // An angle of the calculator in radians for the library's functions, and back.
 double To_Circle(const CalcVariables& vars, double angle);

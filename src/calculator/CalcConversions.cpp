@@ -74,7 +74,8 @@ void Complete_Conversions(CalcMainFrm& form) {
         const bool quadrantLost = !vars.Pending.Running && IsNegative(x);
         Complete_Rectangular(vars);
         if (quadrantLost)
-            form.Panel.Remark = "The angle (x-y) is half a turn off: x is negative";
+            form.Panel.Remark = {"The angle (x-y) is half a turn off: x is negative",
+                                 RemarkWeight::Caution};
     }
 }
 

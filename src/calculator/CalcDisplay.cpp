@@ -90,10 +90,11 @@ void ShowValue(CalcMainFrm& form, std::optional<double> number, std::string_view
     const bool wasCut = std::exchange(form.Panel.ExponentCut, false);
     Write_Panel(form.Panel, TrimFifteen(shown));
     if (form.Panel.ExponentCut)
-        form.Panel.Remark = "The number is " + Number_Text(*vars.Display.DisplayValue) +
-                            ": only two digits of its exponent are shown";
+        form.Panel.Remark = {"The number is " + Number_Text(*vars.Display.DisplayValue) +
+                                 ": only two digits of its exponent are shown",
+                             RemarkWeight::Caution};
     else if (wasCut)
-        form.Panel.Remark.clear();
+        form.Panel.Remark = {};
 }
 
 void ShowText(CalcMainFrm& form, std::string_view text, std::optional<double> number) {

@@ -57,7 +57,7 @@ void Angle_Key(CalcMainFrm& form) {
 
 template <double (*function)(const CalcVariables&, double)>
 void Turned_Key(CalcMainFrm& form) {
-    const std::string remark = Turns_Remark(form.Vars, Shown_Value(form.Vars));
+    const Advice remark = Turns_Remark(form.Vars, Shown_Value(form.Vars));
     Angle_Key<function>(form);
     form.Panel.Remark = remark;
 }
@@ -139,7 +139,7 @@ void Key_Asex(CalcMainFrm& form) {
         return;
     ShowValue(form, x, text);
     if (IsNegative(x) && !text.starts_with('-'))
-        form.Panel.Remark = "The angle is negative";
+        form.Panel.Remark = {"The angle is negative"};
 }
 
 // Days since 1899-12-30, the day part with the time of the day.

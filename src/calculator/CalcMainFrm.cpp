@@ -133,8 +133,8 @@ void Take_Key(CalcMainFrm& form, std::string_view token) {
 void KeyPress(CalcMainFrm& form, std::string_view token) {
     if (form.Vars.Display.ClockRunning)
         return key_Time(form);
-    form.Panel.Remark.clear();
-    form.Panel.ExponentCut = false;
+    form.Panel.Remark = {};
+    form.Panel.ExponentCut = form.Panel.DataTaken = false;
     if (Attempt([&] { Take_Key(form, token); }))
         return;
     form.Vars.Display.ErrorText.clear();

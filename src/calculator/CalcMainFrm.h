@@ -4,6 +4,7 @@
 #pragma once
 
 #include "calculator/CalcVariables.h"
+#include "controls/Remark.h"
 
 #include <chrono>
 #include <filesystem>
@@ -27,7 +28,8 @@ struct CalcPanel {
     std::string Mem_Indicator;   // "MEM" or empty
     std::string CCalc_Indicator; // "K" or empty
     std::string DateBox;         // the date while the clock runs
-    std::string Remark;          // where the number shown is not what one would expect
+    Advice Remark;               // where the number shown is not what one would expect
+    bool DataTaken = false;      // by the last key
     bool ExponentCut = false;    // ExpoBox holds the last two of three digits
     int PrecIndex = -1;          // the row of PrecBox, 0 to 14, or none
     bool PrecEnabled = false;    // PrecBox and PrecLab

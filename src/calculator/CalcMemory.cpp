@@ -199,8 +199,9 @@ void key_Kin(CalcMainFrm& form) {
     chosen->Value = Shown_Value(vars);
     chosen->Description = vars.Memory.RegisterDescription;
     if (vars.Entry.FractionEntry)
-        form.Panel.Remark =
-            "Stored " + Number_Text(chosen->Value) + ": the fraction is not finished";
+        form.Panel.Remark = {"Stored " + Number_Text(chosen->Value) +
+                                 ": the fraction is not finished",
+                             RemarkWeight::Caution};
 }
 
 void key_Mplus(CalcMainFrm& form) {

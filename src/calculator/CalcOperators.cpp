@@ -208,7 +208,7 @@ void Remark_On_Priority(CalcMainFrm& form) {
         return;
     if (std::string remark = Priority_Remark(vars.Pending.Chain, *vars.Pending.Running);
         !remark.empty())
-        form.Panel.Remark = std::move(remark);
+        form.Panel.Remark = {std::move(remark), RemarkWeight::Caution};
 }
 
 void Evaluation_Step(CalcMainFrm& form) {

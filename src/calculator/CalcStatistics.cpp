@@ -125,6 +125,7 @@ void Close_Data(CalcMainFrm& form) {
 void Key_Data(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
     vars.Statistics.DataList.push_back(Shown_Value(vars));
+    form.Panel.DataTaken = true;
     Entry_To_Operand(vars);
     vars.Entry.ExponentText.clear();
 }

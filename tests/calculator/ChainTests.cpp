@@ -109,7 +109,7 @@ TEST(CalcChains, FollowThePriorityOfTheOperators) {
         ASSERT_NEAR(calc.Vars.Pending.Running.value_or(NAN), expected,
                     1e-9 * std::max(1.0, std::abs(expected)))
             << keys;
-        ASSERT_EQ(calc.Form.Panel.Remark, "") << keys;
+        ASSERT_EQ(calc.Form.Panel.Remark.Text, "") << keys;
         const double off = std::abs(*calc.Vars.Pending.Running - expected);
         deviation.Take(off / std::max(1.0, std::abs(expected)), keys);
     }
@@ -136,7 +136,7 @@ TEST(CalcChains, ATotalAgainstThePriorityHasARemark) {
         const double part = off / std::max(1.0, std::abs(expected));
         if (part > 1e-11 && part < 1e-6) // digits that the undo has lost
             continue;
-        ASSERT_EQ(calc.Form.Panel.Remark,
+        ASSERT_EQ(calc.Form.Panel.Remark.Text,
                   part < 1e-6 ? "" : "By operator priority: " + Number_Text(expected))
             << chain.Keys();
         against += part < 1e-6 ? 0 : 1;

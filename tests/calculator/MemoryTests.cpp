@@ -97,7 +97,7 @@ TEST(CalcRegisters, EveryModeDoesItsWork) {
     EXPECT_TRUE(calc.Questions.empty()); // a value of 0 counts as empty
     EXPECT_EQ(calc.RowSeen, "Reg-100=   7");
     EXPECT_EQ(calc.At(99).Value, 7);
-    EXPECT_EQ(calc.Form.Panel.Remark, "Stored 7: the fraction is not finished");
+    EXPECT_EQ(calc.Form.Panel.Remark.Text, "Stored 7: the fraction is not finished");
     EXPECT_EQ(calc.Keys("4 =").Shown(), "1.75");
 }
 

@@ -2,6 +2,7 @@
 // a blank or "-".
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcTestSupport.h"
+#include "calculator/CalcWaiting.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,7 @@ void Expect_Panels(std::initializer_list<PanelCase> cases) {
         calc.Keys(c.Keys);
         EXPECT_EQ(calc.Shown(), c.Shown) << c.Keys;
         EXPECT_EQ(calc.Form.Panel.CCalc_Indicator, c.Constant) << c.Keys;
-        EXPECT_EQ(calc.Form.Panel.Remark, c.Remark) << c.Keys;
+        EXPECT_EQ(calc.Form.Panel.Remark.Text, c.Remark) << c.Keys;
         EXPECT_EQ(calc.Vars.Display.ErrorLatched, calc.Form.Panel.DisplayBox.front() == '*')
             << c.Keys;
     }
@@ -452,6 +453,33 @@ TEST(CalcPanel, MemoryAndStatistics) {
         {"1 frc 4 data dts", "0.25"},
         {"5 frc 0 data AC dtn", "*Empty Data*"},
     });
+}
+
+TEST(CalcPanel, WhatWaits) {
+    const struct {
+        const char* Keys;
+        const char* Waiting;
+    } cases[] = {
+        {"5", ""},
+        {"5 + 3 * 7", "5 + 3 ×"},
+        {"5 + 3 * 7 =", ""},
+        {"5 + 3 * -", "5 + 3 −"},
+        {"1 / 4 xy 2 root", "1 ÷ 4 ^ 2 root"},
+        {"1 + 2 + 3 + 4 + 5 + 6 +", "… 2 + 3 + 4 + 5 + 6 +"},
+        {"4 * *", "K × 4"},
+        {"4 * * 3 =", "K × 4"},
+        {"8 data 9 data", "n = 2"},
+        {"8 data 9", ""},
+        {"2 key_PtoR 3", "r = 2, angle?"},
+        {"3 key_RtoP", "x = 3, y?"},
+        {"3 key_RtoP 4 =", ""},
+        {"12 sexa", "12°0'0\", minutes?"},
+        {"12 sexa 30 sexa", "12°30'0\", seconds?"},
+        {"12 sexa 30 sexa 36 sexa", ""},
+        {"2 + 1 / 0 =", ""},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Waiting_Text(CalcTest().Keys(c.Keys).Form), c.Waiting) << c.Keys;
 }
 
 TEST(CalcPanel, IndicatorsAndPrecisionFollowTheButtons) {

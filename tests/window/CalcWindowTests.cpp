@@ -95,11 +95,15 @@ TEST_F(CalcWindowTest, ARemarkStandsUnderTheNumberUntilTheNextKey) {
         EXPECT_EQ(Display(calculator), "40.");
         EXPECT_EQ(remark.text(), "By operator priority: 37");
         EXPECT_EQ(remark.toolTip(), remark.text());
+        EXPECT_TRUE(remark.autoFillBackground());
+        EXPECT_EQ(remark.accessibleDescription(), "Caution on the number shown");
         Settle();
         EXPECT_GE(remark.height(), remark.fontMetrics().height());
         EXPECT_EQ(calculator.size(), size);
-        Type(calculator, "5");
+        Type(calculator, "5+7");
         EXPECT_EQ(remark.text(), "");
+        EXPECT_FALSE(remark.autoFillBackground());
+        EXPECT_EQ(Of<QLabel>(calculator, "WaitingLab").text(), "5 +");
     });
 }
 
@@ -220,6 +224,22 @@ TEST_F(CalcWindowTest, ATypedFunctionBringsItsPageToTheFront) {
         EXPECT_EQ(Display(calculator), "0.5");
         EXPECT_EQ(Of<QTabWidget>(calculator, "MultiPage1").currentIndex(), 1);
         EXPECT_TRUE(Of<CalcKeyButton>(calculator, "key_Sin").Is_Lit());
+    });
+}
+
+// A hidden list that changed would be told to a screen reader.
+TEST_F(CalcWindowTest, TheListOfDecimalsChangesOnlyInSight) {
+    Calculate([](QWidget& calculator) {
+        auto& decimals = Of<QComboBox>(calculator, "PrecBox");
+        int changes = 0;
+        QObject::connect(&decimals, &QComboBox::currentIndexChanged, [&changes] { ++changes; });
+        EXPECT_EQ(decimals.currentIndex(), -1);
+        dynamic_cast<CalcWindow&>(calculator).Press_Key("FxnButton");
+        EXPECT_EQ(Display(calculator), "0.00");
+        EXPECT_EQ(changes, 0);
+        Of<QTabWidget>(calculator, "MultiPage1").setCurrentIndex(3);
+        EXPECT_EQ(decimals.currentIndex(), 2);
+        EXPECT_TRUE(decimals.isEnabled());
     });
 }
 

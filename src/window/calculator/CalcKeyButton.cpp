@@ -145,7 +145,9 @@ void CalcKeyButton::Paint_Caption(QPainter& painter, const QRectF& body) const {
     QFont sized = font();
     sized.setPixelSize(std::max(1, static_cast<int>(Fitting_Size())));
     QStaticText caption(richCaption_);
+    caption.setTextOption(QTextOption(Qt::AlignHCenter));
     caption.prepare({}, sized);
+    caption.setTextWidth(caption.size().width()); // which centres the lines
     painter.setFont(sized);
     painter.setPen(Colours_Of(role_, palette()).Text);
     const QPointF middle = body.center();

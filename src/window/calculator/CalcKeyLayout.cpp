@@ -53,6 +53,10 @@ constexpr CalcKeyLook looks[] = {
     {"key_Data", accent, ""},
     {"key_Del", accent, ""},
     {"key_XtoK", function, "<i>x</i>↔K"},
+    {"key_Dts", function, "Sx<br><small>Σ<i>x</i></small>"},
+    {"key_Sqr2", function, "Sx2<br><small>Σ<i>x</i><sup>2</sup></small>"},
+    {"key_Strd0", function, "Sdx<br><small>σ</small>"},
+    {"key_Strd1", function, "Sdxn<br><small>s</small>"},
 };
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "calculator/CalcHelpModule.h"
 #include "calculator/CalcMemoryFrm.h"
 #include "calculator/CalcStatistics.h"
+#include "calculator/CalcWaiting.h"
 #include "shell/Version.h"
 #include "ui_CalcWindow.h"
 #include "window/Bind.h"
@@ -81,6 +82,18 @@ QString Button_Text(const CalcKey& key) {
     if (key.Name == "ExitButton")
         return QString(caption).insert(1, QLatin1Char('&'));
     return QString(caption).replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+// A caution stands on a tinted ground, and says so to who can't see that.
+void Show_Weight(QLabel& label, const Advice& remark) {
+    const bool caution = !remark.Text.empty() && remark.Weight != RemarkWeight::Note;
+    QPalette colours = label.parentWidget()->palette();
+    if (caution)
+        colours.setColor(QPalette::Window, Tint_Colour(Drawn::Ink::Alert, colours));
+    label.setPalette(colours);
+    label.setAutoFillBackground(caution);
+    label.setAccessibleDescription(To_Qt(Weight_Word(remark.Weight)) +
+                                   QStringLiteral(" on the number shown"));
 }
 
 // These settings are filed under the program's folder as application name.
@@ -268,11 +281,13 @@ void CalcWindow::Make_Modes() {
                 Run(key);
         });
     }
+    ui_->PrecBox->setPlaceholderText(QStringLiteral(" ")); // so that no item is chosen by itself
     for (int digits = 0; digits < precisions; ++digits)
         ui_->PrecBox->addItem(QString::number(digits));
     Name_List(ui_->PrecBox);
     ui_->PrecBox->installEventFilter(this);
     ui_->MultiPage1->tabBar()->installEventFilter(this);
+    connect(ui_->MultiPage1, &QTabWidget::currentChanged, this, &CalcWindow::Show_Panel);
     connect(ui_->PrecBox, &QComboBox::currentIndexChanged, this, [this](int index) {
         if (!showing_)
             Do([&] { PrecBox_Change(calc_, index); });
@@ -287,10 +302,12 @@ void CalcWindow::Colour_Panel() {
     colours.setColor(QPalette::Window, QColor(dark ? panelDark : panelLight));
     colours.setColor(QPalette::WindowText, QColor(dark ? inkDark : inkLight));
     ui_->PanelFrame->setPalette(colours);
+    Show_Weight(*ui_->PanelRemark, calc_.Panel.Remark);
 }
 
 void CalcWindow::Show_Panel() {
     const CalcPanel& panel = calc_.Panel;
+    const std::string waiting = Waiting_Text(calc_);
     showing_ = true;
     const std::pair<QLabel*, std::string_view> texts[] = {
         {ui_->DisplayBox, panel.DisplayBox},
@@ -300,10 +317,13 @@ void CalcWindow::Show_Panel() {
         {ui_->Mem_Indicator, panel.Mem_Indicator},
         {ui_->CCalc_Indicator, panel.CCalc_Indicator},
         {ui_->DateBox, panel.DateBox},
-        {ui_->PanelRemark, panel.Remark}};
+        {ui_->PanelRemark, panel.Remark.Text},
+        {ui_->WaitingLab, waiting}};
     for (const auto& [label, text] : texts)
         label->setText(To_Qt(text));
-    ui_->PanelRemark->setToolTip(ui_->PanelRemark->text());
+    for (QLabel* cut : {ui_->PanelRemark, ui_->WaitingLab})
+        cut->setToolTip(cut->text());
+    Show_Weight(*ui_->PanelRemark, panel.Remark);
     const std::pair<QRadioButton*, bool> options[] = {
         {ui_->StdButton, panel.DispMode_Indicator == DisplayMode::Norm},
         {ui_->FxnButton, panel.DispMode_Indicator == DisplayMode::Fix},
@@ -314,9 +334,11 @@ void CalcWindow::Show_Panel() {
     for (const auto& [option, chosen] : options)
         if (chosen)
             Choose(option);
-    ui_->PrecBox->setCurrentIndex(panel.PrecIndex);
-    ui_->PrecBox->setEnabled(panel.PrecEnabled);
-    ui_->PrecLab->setEnabled(panel.PrecEnabled);
+    if (ui_->PrecBox->isVisible()) { // hidden, it would tell a screen reader of each change
+        ui_->PrecBox->setCurrentIndex(panel.PrecIndex);
+        ui_->PrecBox->setEnabled(panel.PrecEnabled);
+        ui_->PrecLab->setEnabled(panel.PrecEnabled);
+    }
     showing_ = false;
 }
 
