@@ -6,7 +6,7 @@
 #include "common/NumberText.h"
 #include "measures/FeetInchFormatting.h"
 #include "measures/FeetInchParsing.h"
-#include "measures/InputFilters.h"
+#include "measures/InputFunction.h"
 #include "sections/FamilyTable.h"
 #include "speech/Normalisers.h"
 
@@ -261,7 +261,7 @@ void BeamPage::zShapeFlex_SelChange() {
     const std::string symbol = Trim(zShapeFlex.Text(row, 0));
     const std::string value = Trim(zShapeFlex.Text(row, 1));
     const std::string unit = Trim(zShapeFlex.Text(row, 2));
-    desk_.StatBar.Set_Remark(zShapeFlex.Remark(row, 1));
+    desk_.StatBar.Set_Remark(zShapeFlex.Remark(row, 1), zShapeFlex.Remark_Weight(row, 1));
     if (symbol.empty()) {
         desk_.StatBar.Set_Panel1(" SELECTION:");
         return;

@@ -2,6 +2,7 @@
 
 #include "common/Extremes.h"
 #include "common/Failure.h"
+#include "measures/FeetInchParsing.h"
 
 #include <cmath>
 
@@ -10,7 +11,6 @@ namespace Tensarix {
 namespace {
 
 constexpr double elasticKsi = 29000.0;
-constexpr double inchesPerFoot = 12.0;
 
 // 9th Edition.
 constexpr double bendingShare9th = 0.66; // of Fy
@@ -50,13 +50,13 @@ double Nominal_Moment(const BeamSection& section, double yield) {
     const double limit = Slenderness_Limit(compactFlange, yield);
     double moment = 0;
     if (section.bf_2tf <= limit) {
-        Keep(moment, (yield * section.Zx) / inchesPerFoot);
+        Keep(moment, (yield * section.Zx) / InchesPerFoot);
         return moment;
     }
     const double plastic = yield * section.Zx;
     const double share = (section.bf_2tf - limit) / ((limit / compactFlange) - limit);
     Keep(moment,
-         (plastic - (plastic - (yield * residualShare) * section.Sx) * share) / inchesPerFoot);
+         (plastic - (plastic - (yield * residualShare) * section.Sx) * share) / InchesPerFoot);
     return moment;
 }
 

@@ -36,12 +36,13 @@ struct BeamLoad {
 enum class DesignMethod { ASD = 0, LRFD = 1 };
 
 // AISC Manual of Steel Construction, 9th Edition, chapter F: Fb = 0.66 Fy (F1-1) and Fv = 0.4 Fy
-// (F4-1) for every section. Compactness is not checked; that is intended.
+// (F4-1) for every section. Compactness is not checked: the page tells it beside the
+// results, and docs/validation.md lists it.
 BeamLoad Beam_Load_9th(const BeamInput& input);
 
 // AISC 360-05 (Manual, 13th Edition): F2.1 and F3.2(a) for flexure, G2.1 for shear with Cv = 1.0.
 // The web's slenderness chooses the shear factor alone: web buckling isn't followed further, and
-// channels get the factors of I-shapes. That is intended.
+// channels get the factors of I-shapes. The page tells both beside the results.
 BeamLoad Beam_Load_13th(const BeamInput& input, DesignMethod method);
 
 // AISC 360-05 table B4.1 case 1: bf/2tf up to 0.38 sqrt(E/Fy).

@@ -6,69 +6,16 @@ namespace Tensarix {
 
 namespace {
 
-using enum PropertyKind;
-
-constexpr Property In_US(std::string_view symbol, std::string_view column,
-                         std::string_view unit = {}) {
-    return {symbol, "", column, "", unit.empty() ? Ratio : Number, unit};
+// The rows are those of Browse, in US units and without feet and inches; k is the design value, as
+// in the tables of View All.
+Property Row_Of(const LayoutEntry& entry, bool rxInSI) {
+    Property row = entry.Browse->Symbol == "k" ? *entry.ViewAll : *entry.Browse;
+    if (row.Kind == PropertyKind::Length)
+        row.USUnit = "in";
+    if (rxInSI && row.Symbol == "rx")
+        row.USColumn = row.SIColumn;
+    return row;
 }
-
-constexpr Property T{"T", "", "D", "", Length, "in", "", "KDET"};
-// The channels read the SI column under a US unit. That is intended.
-constexpr std::string_view siColumn = "xRX";
-
-constexpr Property rowsW[] = {In_US("W", "W", "lb/ft"),    In_US("A", "A", "in^2"),
-                              In_US("d", "D", "in"),       In_US("bf", "BF", "in"),
-                              In_US("tw", "TW", "in"),     In_US("tf", "TF", "in"),
-                              In_US("kdes", "KDES", "in"), In_US("kdet", "KDET", "in"),
-                              In_US("k1", "K1", "in"),     T,
-                              In_US("bf / 2tf", "BF_2TF"), In_US("h / tw", "H_TW"),
-                              In_US("Ix", "IX", "in^4"),   In_US("Zx", "ZX", "in^3"),
-                              In_US("Sx", "SX", "in^3"),   In_US("rx", "RX", "in"),
-                              In_US("Iy", "IY", "in^4"),   In_US("Zy", "ZY", "in^3"),
-                              In_US("Sy", "SY", "in^3"),   In_US("ry", "RY", "in"),
-                              In_US("J", "J", "in^4"),     In_US("Cw", "CW", "in^6"),
-                              In_US("Wno", "WNO", "in^2"), In_US("Sw", "SW", "in^4"),
-                              In_US("Qf", "QF", "in^3"),   In_US("Qw", "QW", "in^3")};
-
-constexpr Property rowsS[] = {In_US("W", "W", "lb/ft"),    In_US("A", "A", "in^2"),
-                              In_US("d", "D", "in"),       In_US("bf", "BF", "in"),
-                              In_US("tw", "TW", "in"),     In_US("tf", "TF", "in"),
-                              In_US("k", "KDES", "in"),    T,
-                              In_US("bf / 2tf", "BF_2TF"), In_US("h / tw", "H_TW"),
-                              In_US("Ix", "IX", "in^4"),   In_US("Zx", "ZX", "in^3"),
-                              In_US("Sx", "SX", "in^3"),   In_US("rx", "RX", "in"),
-                              In_US("Iy", "IY", "in^4"),   In_US("Zy", "ZY", "in^3"),
-                              In_US("Sy", "SY", "in^3"),   In_US("ry", "RY", "in"),
-                              In_US("J", "J", "in^4"),     In_US("Cw", "CW", "in^6"),
-                              In_US("Wno", "WNO", "in^2"), In_US("Sw", "SW", "in^4"),
-                              In_US("Qf", "QF", "in^3"),   In_US("Qw", "QW", "in^3")};
-
-constexpr Property rowsC[] = {In_US("W", "W", "lb/ft"),
-                              In_US("A", "A", "in^2"),
-                              In_US("d", "D", "in"),
-                              In_US("bf", "BF", "in"),
-                              In_US("tw", "TW", "in"),
-                              In_US("tf", "TF", "in"),
-                              In_US("kdes", "KDES", "in"),
-                              In_US("kdet", "KDET", "in"),
-                              In_US("k1", "K1", "in"),
-                              T,
-                              In_US("x", "X", "in"),
-                              In_US("e0", "EO", "in"),
-                              In_US("xp", "XP", "in"),
-                              In_US("Ix", "IX", "in^4"),
-                              In_US("Zx", "ZX", "in^3"),
-                              In_US("Sx", "SX", "in^3"),
-                              In_US("rx", siColumn, "in"),
-                              In_US("Iy", "IY", "in^4"),
-                              In_US("Zy", "ZY", "in^3"),
-                              In_US("Sy", "SY", "in^3"),
-                              In_US("ry", "RY", "in"),
-                              In_US("J", "J", "in^4"),
-                              In_US("Cw", "CW", "in^6"),
-                              In_US("ro", "RO", "in"),
-                              In_US("H", "H")};
 
 enum Column { symbolColumn, valueColumn, unitColumn, columnCount };
 
@@ -106,17 +53,17 @@ void Write_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Pr
     Attempt([&] {
         grid.Set_Text(row, valueColumn,
                       Value_Text(record, property, Profile::US, DimensionStyle::Decimal));
-        if (property.USColumn == siColumn)
-            grid.Set_Remark(row, valueColumn, std::string{SIColumnRemark});
+        if (property.USColumn == property.SIColumn && property.Kind == PropertyKind::Length)
+            grid.Set_Remark(row, valueColumn, std::string{SIColumnRemark}, RemarkWeight::Caution);
     });
     grid.Set_Text(row, unitColumn, std::string{property.USUnit});
 }
 
 } // namespace
 
-const BeamRows WShape_For_AllowableLoad{rowsW};
-const BeamRows SShape_For_AllowableLoad{rowsS};
-const BeamRows CShape_For_AllowableLoad{rowsC};
+const BeamRows WShape_For_AllowableLoad{Layouts::W};
+const BeamRows SShape_For_AllowableLoad{Layouts::S};
+const BeamRows CShape_For_AllowableLoad{Layouts::C, true};
 
 void BeamRows::operator()(FlexGrid& grid, std::string_view size,
                           const std::filesystem::path& programFolder) const {
@@ -125,10 +72,10 @@ void BeamRows::operator()(FlexGrid& grid, std::string_view size,
         record = SectionRead(programFolder, Query_By_US_Label(size)).Records;
         record.MoveFirst();
     });
-    Lay_Out(grid, static_cast<int>(Rows.size()));
+    Lay_Out(grid, static_cast<int>(Rows.Entries.size()));
     int row = 0;
-    for (const Property& property : Rows)
-        Write_Row(grid, ++row, record, property);
+    for (const LayoutEntry& entry : Rows.Entries)
+        Write_Row(grid, ++row, record, Row_Of(entry, RxInSI));
 }
 
 } // namespace Tensarix

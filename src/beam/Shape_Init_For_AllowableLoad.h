@@ -7,13 +7,13 @@
 #include "sections/PropertyTable.h"
 
 #include <filesystem>
-#include <span>
 #include <string_view>
 
 namespace Tensarix {
 
 struct BeamRows {
-    std::span<const Property> Rows;
+    const Layout& Rows;
+    bool RxInSI = false; // the row rx reads the SI column, under the unit in.
 
     // size: the US designation. Never fails.
     void operator()(FlexGrid& grid, std::string_view size,

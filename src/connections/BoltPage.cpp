@@ -5,7 +5,7 @@
 #include "common/NumberText.h"
 #include "connections/Balance.h"
 #include "connections/SearchYield.h"
-#include "measures/InputFilters.h"
+#include "measures/InputFunction.h"
 
 #include <system_error>
 

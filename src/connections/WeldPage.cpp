@@ -2,7 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
-#include "measures/InputFilters.h"
+#include "measures/InputFunction.h"
 
 namespace Tensarix {
 

@@ -11,7 +11,6 @@ namespace Tensarix {
 
 namespace {
 
-constexpr int inchesPerFoot = 12;
 constexpr std::int16_t fold = 1; // the value of inchesOnly that folds feet into inches
 
 struct Length {
@@ -30,7 +29,7 @@ Length Split_Length(double value, std::int16_t denominator) {
     const double size = std::abs(Finite(value));
     length.Sign = (value > 0 ? 1 : 0) - (value < 0 ? 1 : 0);
     length.Feet = std::trunc(size);
-    const double rest = (size - length.Feet) * inchesPerFoot;
+    const double rest = (size - length.Feet) * InchesPerFoot;
     length.Inches = Whole_16(std::trunc(rest));
     length.Numerator = Whole_16((rest - length.Inches) * denominator);
     if (length.Numerator == denominator) {
@@ -100,9 +99,9 @@ std::int16_t Number_From(std::string_view text, int from) {
     return Piece_Number(text.substr(static_cast<std::size_t>(from - 1)));
 }
 
-// All but the last character, a mark; anything behind the number is dropped.
+// All but the last character, which should be the mark, as a number: 5'x has no reading.
 std::int16_t Number_Ahead_Of_Mark(std::string_view text) {
-    return Piece_Number(text.substr(0, text.size() - 1));
+    return Whole_16(Text_Number(text.substr(0, text.size() - 1)));
 }
 
 std::string Marked_Inches_To_Words(std::string_view text) {
@@ -172,7 +171,7 @@ std::string FeetInch_Digits(std::int16_t inchesOnly, double feet, double inches,
     const double divisor = g;
     const double n = Finite(numerator / divisor), d = Finite(denominator / divisor);
     const bool folded = inchesOnly == fold || feet == 0;
-    const double whole = folded ? feet * inchesPerFoot + inches : inches;
+    const double whole = folded ? feet * InchesPerFoot + inches : inches;
     std::string text;
     if (!folded)
         text = Whole_Text(feet) + FootMark + DashMark;
@@ -190,7 +189,7 @@ std::string FeetInch_Words(std::int16_t inchesOnly, std::int16_t feet, std::int1
     const double divisor = g;
     const std::int16_t n = Whole_16(numerator / divisor), d = Whole_16(denominator / divisor);
     const bool folded = inchesOnly == fold || feet == 0;
-    const int whole = folded ? feet * inchesPerFoot + inches : inches;
+    const int whole = folded ? feet * InchesPerFoot + inches : inches;
     std::string words = folded ? "" : Feet_Words(feet);
     if (whole != 0)
         Join(words, Words(whole));

@@ -15,7 +15,8 @@ inline constexpr int Sixteenths = 16;
 // rounded, ties to the even numerator. inchesOnly 1: feet are folded into the inches. inWords other
 // than 0: the long form, where a negative length stands in parentheses.
 // A fraction that rounds up is carried into the inches and no further, so that 5.9999 feet reads
-// 5'-12"; a tiny negative length keeps its dash, -0". Both are intended.
+// 5'-12"; a tiny negative length keeps its dash, -0". Both read back as the same length, and
+// docs/validation.md lists them.
 // Never fails. The text is empty where a step does: a value that isn't finite, more than 32767
 // feet in words, a denominator of 0 or beyond 16 bits.
 std::string Format_FeetInch(double value, int denominator, int inchesOnly, int inWords);
@@ -26,14 +27,14 @@ std::string FeetInch_Digits(std::int16_t inchesOnly, double feet, double inches,
                             std::int16_t g, std::int16_t denominator);
 
 // The same in words. Beside a fraction "Inch" is singular whatever the amount, unless both feet and
-// inches stand before it; that wording is intended.
+// inches stand before it, as the voice has always read it.
 std::string FeetInch_Words(std::int16_t inchesOnly, std::int16_t feet, std::int16_t inches,
                            std::int16_t numerator, std::int16_t g, std::int16_t denominator);
 
 // A text that carries its marks, as FeetInch_Digits writes it, in words. LengthError where it has
 // no reading: no inch or foot mark, a blank without a fraction. Feet and inches are rounded to
 // whole numbers, ties to even, and zero has no word: 12'-0" reads "Twelve Feet and  Inch"
-// (intended). Never fails.
+// in the read-out. Never fails.
 std::string FeetInch_Text_To_Words(std::string_view text);
 
 // Euclid's algorithm; 0 if b is 0, b if a is 0. Fails beyond 32 bits.

@@ -7,8 +7,6 @@ namespace Tensarix {
 
 namespace {
 
-constexpr double inchesPerFoot = 12;
-
 // Which of blank and slash an inch part holds, added up: 1 blank, 2 slash.
 enum class InchForm : std::uint8_t { Plain = 0, Tail = 1, Fraction = 2, Mixed = 3 };
 
@@ -30,7 +28,8 @@ std::string_view Behind(std::string_view text, std::int16_t position) {
 }
 
 // As many characters are taken behind the slash as the trimmed text has there: a blank right
-// behind the slash therefore costs the last digit, and the text is rejected. That is intended.
+// behind the slash therefore costs the last digit, and the text is rejected
+// rather than read as another length.
 void Split_Fraction(InchPieces& pieces, std::string_view text, std::int16_t blank,
                     std::int16_t slash) {
     const std::string_view tail = Behind(text, slash);
@@ -179,7 +178,7 @@ double Read_Feet(std::string_view text) {
 }
 
 double Read_Inches_As_Feet(std::string_view text) {
-    return Finite(Inches_Value(text)) / inchesPerFoot;
+    return Finite(Inches_Value(text)) / InchesPerFoot;
 }
 
 double Read_FeetInch(std::string_view text) {
@@ -208,7 +207,7 @@ LengthValue Parse_FeetInch(std::string_view text, std::string_view unit) {
     const std::optional<double> feet = Feet_Of(text);
     LengthValue result{std::string{LengthError}};
     if (feet)
-        Attempt([&] { result = Finite(*feet * inchesPerFoot); });
+        Attempt([&] { result = Finite(*feet * InchesPerFoot); });
     return result;
 }
 

@@ -3,7 +3,7 @@
 // Three marks carry the grammar: ' behind the feet, - between feet and inches, " behind the inches.
 // Only the first of each counts. A text without marks is inches. The readers take a text as it
 // stands, while the classifier trims its copy; so callers trim first: ' 5' reads as 0, ' 6 1/2'
-// as 61/2 inches, and '1/2 ' as no length. All of that is intended.
+// as 61/2 inches, and '1/2 ' as no length. Pages trim (docs/validation.md, lengths).
 #pragma once
 
 #include <cstdint>
@@ -19,6 +19,8 @@ inline constexpr char InchMark = '"';
 inline constexpr char DashMark = '-';
 inline constexpr char BlankMark = ' ';
 inline constexpr char SlashMark = '/';
+
+inline constexpr int InchesPerFoot = 12;
 
 // Stands in place of a number where the text is no length.
 inline constexpr std::string_view LengthError = "*ERROR*";
@@ -39,7 +41,7 @@ using LengthValue = std::variant<std::monostate, double, std::string>;
 LengthValue Parse_FeetInch(std::string_view text, std::string_view unit);
 
 // The number of feet, or LengthError. Never fails. A leading dash turns the sign of all that
-// follows; a second one stays in the number, so that "--5" is plus 5 inches (intended).
+// follows; a second one stays in the number, so that "--5" is plus 5 inches.
 LengthValue Parse_ToFeet(std::string_view text);
 
 // The number of feet; none where the text is no length.
@@ -53,11 +55,12 @@ std::int16_t Classify_FeetInch(std::string_view text);
 bool Is_Form_Accepted(std::int16_t code);
 
 // The code, or FormRejected where what stands ahead of the foot mark (at footPos, from 1) is no
-// number. What stands behind the mark isn't looked at, so "5'6" and "5''''" are 5 feet (intended).
+// number. What stands behind the mark isn't looked at, so "5'6" and "5''''" are 5 feet; the box
+// then shows the length it took.
 std::int16_t Check_Feet_Piece(std::int16_t code, std::string_view text, std::int16_t footPos);
 
 // The code, or FormRejected where the text is no inch part: 6, 1/2, or 6 1/2, the inch mark
-// allowed behind it. What follows a blank without a slash isn't looked at (intended).
+// allowed behind it. What follows a blank without a slash isn't looked at and drops out.
 std::int16_t Check_Inch_Piece(std::int16_t code, std::string_view text);
 
 // The readers give feet. They expect what the classifier has passed; what they can't read fails.

@@ -1,6 +1,6 @@
 // Numbers in English words, for the voice: capitalised, without hyphens or commas. There is no word
 // for zero. Decimals are read as one number of two digits: 1.05 is "One Point Five" and 1.5 "One
-// Point Fifty" (intended).
+// Point Fifty": lengths, all that is spoken of them, have no decimals.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ namespace Tensarix {
 std::string Number_To_Words(double value, std::string_view unit1 = {}, std::string_view unit2 = {});
 
 // The denominator of a fraction, plural where the numerator is above 1: "Sixteenth", "Halves".
-// 8 reads "Eight" without a closing h (intended).
+// 8 reads "Eight" without a closing h: said in a plural, "Eights", nobody hears it.
 std::string Ordinal_Words(std::int16_t denominator, std::int16_t numerator);
 
 // Three digits and the scale word of their group (1: the rightmost, 2: thousands, ...; beyond 7

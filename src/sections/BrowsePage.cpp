@@ -144,8 +144,8 @@ std::string BrowsePage::Spoken_Text(int row) const {
 void BrowsePage::ShapeFlex_SelChange() {
     const int row = ShapeFlex.Row();
     desk_.StatBar.Set_Panel1(Selection_Text(row));
-    const std::string& own = ShapeFlex.Remark(row, ShapeFlex.Col());
-    desk_.StatBar.Set_Remark(own.empty() ? ShapeFlex.Remark(row, 1) : own);
+    const int told = ShapeFlex.Remark(row, ShapeFlex.Col()).empty() ? 1 : ShapeFlex.Col();
+    desk_.StatBar.Set_Remark(ShapeFlex.Remark(row, told), ShapeFlex.Remark_Weight(row, told));
     if (desk_.ReadOut && !Trim(ShapeFlex.Text(row, 0)).empty())
         desk_.Say(Spoken_Text(row));
 }

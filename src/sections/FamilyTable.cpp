@@ -3,6 +3,8 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 
+#include <algorithm>
+
 namespace Tensarix {
 
 namespace {
@@ -24,6 +26,15 @@ const Family& Family_At(int position) {
     if (position < 0 || position >= static_cast<int>(Families.size()))
         throw Failure("no such family");
     return Families[static_cast<std::size_t>(position)];
+}
+
+const Family& Family_Of_Type(std::string_view type) {
+    const std::string code = Trim(type);
+    const auto* found = std::find_if(Families.begin(), Families.end(),
+                                     [&](const Family& family) { return family.Type == code; });
+    if (found == Families.end())
+        throw Failure("no such family");
+    return *found;
 }
 
 void FillFamilyList(ComboBox& combo) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "controls/Controls.h"
-#include "sections/SectionGrids.h"
+#include "sections/Initializers.h"
 
 #include <array>
 #include <filesystem>
@@ -58,6 +58,8 @@ inline constexpr int BeamFamilies = 6; // the first ones carry beam load
 
 // The family at a list position; fails where there is none.
 const Family& Family_At(int position);
+// The family of a code; fails where there is none.
+const Family& Family_Of_Type(std::string_view type);
 
 // Clears the list and adds the 17 names.
 void FillFamilyList(ComboBox& combo);

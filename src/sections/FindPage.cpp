@@ -2,8 +2,11 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
-#include "measures/InputFilters.h"
-#include "sections/FindSearch.h"
+#include "measures/InputFunction.h"
+#include "sections/Assoc_Property.h"
+#include "sections/FindNotes.h"
+#include "sections/Find_Fill_Property.h"
+#include "sections/Find_Populate_Value.h"
 #include "sections/TableSelection.h"
 
 #include <algorithm>
@@ -53,7 +56,7 @@ std::string FindPage::Family_Key() const {
 }
 
 void FindPage::fShapeType_Change() {
-    resultsShown_ = false;
+    ResultsShown = false;
     if (desk_.ReadOut) {
         desk_.Say("");
         desk_.Say(Spoken_Family(fShapeType.Text()));
@@ -106,7 +109,7 @@ void FindPage::Save_Value() const {
 }
 
 void FindPage::fPoperty_Change() {
-    resultsShown_ = false;
+    ResultsShown = false;
     Save_Property();
     Fill_Values();
     desk_.Show_No_Selection();
@@ -115,13 +118,13 @@ void FindPage::fPoperty_Change() {
 }
 
 void FindPage::fCriterion_Change() {
-    resultsShown_ = false;
+    ResultsShown = false;
     Save_Criterion();
     Show_Note();
 }
 
 void FindPage::fValue_Change() {
-    resultsShown_ = false;
+    ResultsShown = false;
     Save_Value();
 }
 
@@ -143,24 +146,26 @@ void FindPage::FindButton_Click() {
 }
 
 void FindPage::RunFind() {
-    resultsShown_ = true;
+    ResultsShown = true;
     Fill_Grid(true);
 }
 
 void FindPage::Fill_Grid(bool searching) {
     FindCondition condition{fPoperty.Text(), fCriterion.Text()};
     Attempt([&] { condition.Value = Leading_Value(fValue.Text()); });
+    const CurrentCell before = Current_Cell(fShapeFlex);
     Attempt([&] {
         const Family& family = Family_At(fShapeType.ListIndex());
         count_ = family.Find(fShapeFlex, family.Type, {desk_.Host.Places.Program, profile_, style_},
                              searching, condition);
         searched_ = searching;
     });
+    Follow_Current_Cell(desk_, fShapeFlex, before);
     Run(OnCount);
 }
 
 void FindPage::Fill_Values() {
-    propertyNote_.clear();
+    propertyNote_ = {};
     Attempt([&] {
         const std::string_view type = Family_At(fShapeType.ListIndex()).Type;
         const std::filesystem::path& folder = desk_.Host.Places.Program;
@@ -172,9 +177,9 @@ void FindPage::Fill_Values() {
 
 void FindPage::Show_Note() {
     std::string note{Find_Criterion_Note(fCriterion.Text())};
-    if (!note.empty() && !propertyNote_.empty())
+    if (!note.empty() && !propertyNote_.Text.empty())
         note += "  ";
-    SearchNote.Set_Caption(note + propertyNote_);
+    SearchNote.Set_Caption(note + propertyNote_.Text, propertyNote_.Weight);
 }
 
 void FindPage::Choose_Profile(Profile profile) {
@@ -183,7 +188,7 @@ void FindPage::Choose_Profile(Profile profile) {
     fDimOption2.Enable(profile == Profile::US);
     UnitLabel.Set_Caption(std::string{FindUnitLabel(fPoperty.Text(), profile)});
     Fill_Values();
-    if (resultsShown_)
+    if (ResultsShown)
         RunFind();
     else
         desk_.Quietly([this] { fShapeType_Change(); });
@@ -191,7 +196,7 @@ void FindPage::Choose_Profile(Profile profile) {
 
 void FindPage::Choose_Style(DimensionStyle style) {
     style_ = style;
-    if (resultsShown_)
+    if (ResultsShown)
         RunFind();
     desk_.Show_No_Selection();
 }

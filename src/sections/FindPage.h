@@ -60,10 +60,10 @@ class FindPage {
     Desk& desk_;
     Profile profile_ = Profile::US;
     DimensionStyle style_ = DimensionStyle::Decimal;
-    bool resultsShown_ = false; // the grid shows what the condition finds
-    bool searched_ = false;     // the grid shows a result, maybe of a condition since changed
+    bool ResultsShown = false; // the grid shows what the condition finds
+    bool searched_ = false;    // the grid shows a result, maybe of a condition since changed
     FindCount count_;
-    std::string propertyNote_;
+    Advice propertyNote_;
 };
 
 } // namespace Tensarix

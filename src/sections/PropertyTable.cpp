@@ -3,7 +3,10 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "measures/FeetInchFormatting.h"
+#include "measures/FeetInchParsing.h"
+#include "sections/Assoc_Property.h"
 
+#include <cmath>
 #include <variant>
 
 namespace Tensarix {
@@ -13,8 +16,10 @@ namespace {
 using enum PropertyKind;
 
 constexpr std::string_view valuePattern = "0.00##  ";
+constexpr std::string_view wholePattern = "#,##0";
+constexpr std::string_view storedPattern = "#,##0.###############";
+constexpr double littleLost = 0.01; // of the stored number
 constexpr std::string_view cellEnd = "  ";
-constexpr int sixteenths = 16;
 
 // The catalogue. Names tell the symbol; a suffix tells the layout where a symbol has several forms.
 // clang-format off
@@ -46,7 +51,7 @@ constexpr Property Sw{"Sw", "Warping Statical Moment", "SW", "xSW", SecondMoment
 constexpr Property Qf{"Qf", "Statical Moment at point in Flange", "QF", "xQF", SecondMoment, "in^3", "mm^3"};
 constexpr Property Qw{"Qw", "Statical Moment at mid-depth of the Section", "QW", "xQW", SecondMoment, "in^3", "mm^3"};
 constexpr std::string_view kMeaning = "Design distance from outer face of flange to web toe of fillet";
-// The two profiles read different design values here. That is intended.
+// The two profiles read different values here; the US one carries a remark.
 constexpr Property k_S{"k", kMeaning, "KDET", "xKDES", Length, "in.", "mm"};
 constexpr Property k{"k", kMeaning, "KDES", "xKDES", Length, "in.", "mm"};
 constexpr Property k_K{"k", kMeaning, "K", "xK", Length, "in.", "mm"};
@@ -56,7 +61,7 @@ constexpr std::string_view eMeaning = "Horizontal distance from designated membe
 constexpr Property e0{"e0", eMeaning, "EO", "xEO", Length, "in.", "mm"};
 constexpr Property eo{"eo", eMeaning, "EO", "xEO", Length, "in.", "mm"};
 constexpr std::string_view xpMeaning = "Horizontal distance from designated member edge to plastic neutral";
-// Without units, and on Browse the unit cell is not written at all: it keeps what it held. That is intended.
+// Without units, and on Browse the unit cell is not written at all: it keeps what it held, with a remark.
 constexpr Property xp_C{"xp", xpMeaning, "XP", "xXP", Length, "", "", "", "", false};
 constexpr Property xp{"xp", xpMeaning, "XP", "xXP", Length, "in.", "mm"};
 constexpr Property ro_C{"ro", "Polar radius of gyration about the shear center", "RO", "xRO", Length, "in.", "mm"};
@@ -67,7 +72,7 @@ constexpr Property yp{"yp", "Vertical distance from designated member edge to pl
 constexpr Property d_tw{"d / tw", "Slenderness Ratio", "H_TW", "H_TW", Ratio};
 constexpr Property Ht{"Ht", "Overall Depth of HSS", "HT", "xHT", Length, "in.", "mm"};
 constexpr Property b{"b", "Overall width of member", "B", "xB", Length, "in.", "mm"};
-// Repeats the depth. That is intended.
+// The width of a square is its depth.
 constexpr Property b_Sqr{"b", "Overall width of member", "HT", "xHT", Length, "in.", "mm"};
 constexpr Property tnom{"tnom", "HSS nominal wall thickness", "TNOM", "xTNOM", Length, "in.", "mm"};
 constexpr Property tdes{"tdes", "HSS design wall thickness", "TDES", "xTDES", Length, "in.", "mm"};
@@ -136,7 +141,8 @@ constexpr LayoutEntry entriesC[] = {
     Same(c::ry), Same(c::J),        Same(c::Cw),   Same(c::ro_C), Same(c::H)};
 
 // The tables of the channels number their columns wrongly: the heads fall back by two behind Zx,
-// the values behind EO, and what comes later is written over what stood there. That is intended.
+// the values behind EO, and what comes later is written over what stood there. The system's users
+// know these tables so; a remark on each head tells whose values stand under it.
 constexpr int headColumnsC[] = {2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14,
                                 15, 16, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
 constexpr int valueColumnsC[] = {2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 12,
@@ -239,15 +245,6 @@ std::string Formatted(const FieldValue& value) {
     return Format_Number(std::get<double>(value), valuePattern);
 }
 
-std::string With_Thousands(double value) {
-    const std::string text = General_Text(value);
-    const std::size_t point = text.find_first_of(".E");
-    std::string whole = text.substr(0, point);
-    for (int at = static_cast<int>(whole.size()) - 3; at > 0; at -= 3)
-        whole.insert(static_cast<std::size_t>(at), 1, ',');
-    return point == std::string::npos ? whole : whole + text.substr(point);
-}
-
 } // namespace
 
 const Layout Layouts::W{entriesW, 27, 0, 28};
@@ -277,7 +274,7 @@ std::string Value_Text(const SectionRecordset& record, const Property& property,
     if (property.Kind == PropertyKind::Length) {
         const double value = Value_Number(record, property, profile);
         if (us && style == DimensionStyle::Imperial)
-            return Format_FeetInch(value / 12, sixteenths, 0, 0).append(cellEnd);
+            return Format_FeetInch(value / InchesPerFoot, Sixteenths, 0, 0).append(cellEnd);
         return Format_Number(value, valuePattern);
     }
     if (property.Kind == PropertyKind::SecondMoment && !us)
@@ -285,34 +282,26 @@ std::string Value_Text(const SectionRecordset& record, const Property& property,
     return Formatted(record.Field(column));
 }
 
-std::string Lost_Digits_Remark(const SectionRecordset& record, const Property& property,
-                               Profile profile, std::string_view text) {
-    if (property.Kind != PropertyKind::SecondMoment)
+Advice Lost_Digits_Remark(const SectionRecordset& record, const Property& property, Profile profile,
+                          std::string_view text) {
+    const std::string_view column = profile == Profile::US ? property.USColumn : property.SIColumn;
+    if (property.Kind != PropertyKind::SecondMoment ||
+        std::holds_alternative<std::string>(record.Field(column)))
         return {};
-    const double stored =
-        record.Number(profile == Profile::US ? property.USColumn : property.SIColumn);
+    const double stored = record.Number(column);
     const double shown = Leading_Value(Replace_All(text, "x10^", "E"));
     if (General_Text(shown) == General_Text(stored))
         return {};
-    return "Stored value: " +
-           With_Thousands(stored).append(" ").append(Unit_Text(property, profile));
+    const bool much = std::abs(shown - stored) > littleLost * std::abs(stored);
+    const bool whole = stored == std::trunc(stored);
+    return {"Stored value: " + Format_Number(stored, whole ? wholePattern : storedPattern)
+                                   .append(" ")
+                                   .append(Unit_Text(property, profile)),
+            much ? RemarkWeight::Caution : RemarkWeight::Note};
 }
 
 std::string_view Unit_Text(const Property& property, Profile profile) {
     return profile == Profile::US ? property.USUnit : property.SIUnit;
-}
-
-std::string FormatSiProperty(double value) {
-    const std::string digits = Format_Number(value, "####################");
-    const std::size_t zero = digits.find('0');
-    if (zero == std::string::npos)
-        return "0.00";
-    const std::size_t length = digits.size();
-    const std::size_t triples = (length - zero) / 3;
-    if (triples == 0)
-        return Format_Number(value, valuePattern);
-    const std::string pattern = std::string(length - 3 * triples, '#') + "e+#";
-    return Replace_All(Format_Number(value, pattern), "e+", "x10^");
 }
 
 } // namespace Tensarix

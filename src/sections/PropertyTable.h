@@ -1,10 +1,12 @@
 // The properties of the section families: which there are, from which columns of the store they
 // come, and how a value becomes the text of a cell. One table of data (PropertyTable.cpp), walked
-// by the initializers of SectionGrids.h.
+// by the initializers (Initializers.h).
 #pragma once
 
+#include "controls/Remark.h"
 #include "sections/SectionStore.h"
 
+#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,6 +15,13 @@ namespace Tensarix {
 
 enum class Profile { US = 0, SI = 1 };
 enum class DimensionStyle { Decimal = 0, Imperial = 1 };
+
+// How a screen shows sections.
+struct SectionView {
+    std::filesystem::path ProgramFolder;
+    Profile Units = Profile::US;
+    DimensionStyle Style = DimensionStyle::Decimal; // taken as Decimal under SI
+};
 
 // How a value becomes text. Ratio and Pair have no unit.
 enum class PropertyKind {
@@ -65,15 +74,11 @@ double Value_Number(const SectionRecordset& record, const Property& property, Pr
 
 // What the cell's text no longer tells: "Stored value: 12,900,000,000 mm^4" where a power of ten
 // or the fourth decimal of a small figure lost digits of the number in the store, otherwise empty.
-std::string Lost_Digits_Remark(const SectionRecordset& record, const Property& property,
-                               Profile profile, std::string_view text);
+// It weighs more where more than 1 % was lost.
+Advice Lost_Digits_Remark(const SectionRecordset& record, const Property& property, Profile profile,
+                          std::string_view text);
 
 // The unit under the profile; empty for Pair and Ratio.
 std::string_view Unit_Text(const Property& property, Profile profile);
-
-// A large whole number as a power-of-ten text: 416000000 gives 416x10^6. The exponent is a multiple
-// of the number of digits before it, and digits that do not fit are rounded away; a number without
-// a digit 0 gives "0.00". All this is intended.
-std::string FormatSiProperty(double value);
 
 } // namespace Tensarix

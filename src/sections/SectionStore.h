@@ -78,7 +78,7 @@ void OpenSectionRecordset(SectionRecordset& records, SectionConnection& connecti
                           const std::string& sql);
 
 // The queries. Keys are trimmed and stand between apostrophes as they are, so that one with an
-// apostrophe makes a query that fails; that is intended.
+// apostrophe makes a query that fails, as no designation has one.
 std::string Query_By_Family(std::string_view familyCode);
 std::string Query_By_US_Label(std::string_view label);
 std::string Query_By_SI_Name(std::string_view name);

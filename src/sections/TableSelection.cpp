@@ -50,10 +50,21 @@ void Show_Table_Selection(Desk& desk, const FlexGrid& grid) {
     const std::string text = Table_Selection_Text(grid, row, col);
     desk.StatBar.Set_Panel1(text);
     const bool selected = text != Desk::NoSelection;
-    const std::string& own = grid.Remark(row, col);
-    desk.StatBar.Set_Remark(!own.empty() ? own : selected ? grid.Remark(0, col) : std::string{});
+    const int told = selected && grid.Remark(row, col).empty() ? 0 : row; // the head's, or its own
+    desk.StatBar.Set_Remark(grid.Remark(told, col), grid.Remark_Weight(told, col));
     if (desk.ReadOut && selected)
         desk.Say(Spoken_Table_Selection(grid, row, col));
+}
+
+CurrentCell Current_Cell(const FlexGrid& grid) {
+    return {grid.Row(), grid.Col()};
+}
+
+void Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& before) {
+    if (Current_Cell(grid) == before)
+        desk.StatBar.Set_Remark({}); // of the text that stood there
+    else
+        Show_Table_Selection(desk, grid);
 }
 
 } // namespace Tensarix

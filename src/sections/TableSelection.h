@@ -10,7 +10,7 @@ namespace Tensarix {
 
 // " SELECTION:   W18x50  [W460x74]    -->   Zx = 101.00 in^3", without the unit where the head has
 // none; a row without a section reads as no selection. A second line of a head counts as its unit,
-// also that of the designations ("Standard US = W18x50 Profile"); that is intended.
+// also that of the designations ("Standard US = W18x50 Profile").
 std::string Table_Selection_Text(const FlexGrid& grid, int row, int col);
 
 // The same for the voice, without the designations; empty for a row without a section.
@@ -18,5 +18,15 @@ std::string Spoken_Table_Selection(const FlexGrid& grid, int row, int col);
 
 // Shows the current cell, with its remark or that of its head, and speaks it.
 void Show_Table_Selection(Desk& desk, const FlexGrid& grid);
+
+// A fill that makes the grid smaller moves the current cell, and what is shown of it follows as
+// after any move.
+struct CurrentCell {
+    int Row, Col;
+
+    bool operator==(const CurrentCell&) const = default;
+};
+CurrentCell Current_Cell(const FlexGrid& grid);
+void Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& before);
 
 } // namespace Tensarix

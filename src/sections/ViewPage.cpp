@@ -32,11 +32,13 @@ void ViewPage::xShapeType_Change() {
         desk_.Say(Spoken_Family(xShapeType.Text()));
     }
     desk_.Show_No_Selection();
+    const CurrentCell before = Current_Cell(xShapeFlex);
     Attempt([&] {
         const Family& family = Family_At(xShapeType.ListIndex());
         count_ =
             family.ViewAll(xShapeFlex, family.Type, {desk_.Host.Places.Program, profile_, style_});
     });
+    Follow_Current_Cell(desk_, xShapeFlex, before);
     xShapeFlex.Set_Top_Row(1);
     Run(OnCount);
 }

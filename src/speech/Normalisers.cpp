@@ -52,7 +52,8 @@ struct SpokenUnit {
     std::string_view Unit, Singular, Plural, Behind;
 };
 
-// The divisor comes first, whatever the order in which the unit is written (intended).
+// The divisor comes first, whatever the order in which the unit is written: listeners know
+// the units so.
 constexpr std::string_view thirdOver3 = "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 3";
 constexpr std::string_view fourthOver3 = "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 4";
 constexpr std::string_view fourthOver6 = "DIVIDED BY 10 TO THE POWER 6 MM TO THE POWER 4";

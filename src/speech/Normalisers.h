@@ -18,7 +18,7 @@ std::string Speak_Value(std::string_view text);
 std::string Speak_Unit(std::string_view unit, std::string_view value);
 
 // A description, word by word: each word that happens to be a symbol is read as one, so "a" reads
-// "AREA" (intended). Foot marks become blanks.
+// "AREA" there too. Foot marks become blanks.
 std::string Speak_Phrase(std::string_view text);
 
 } // namespace Tensarix

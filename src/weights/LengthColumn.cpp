@@ -4,7 +4,7 @@
 #include "common/NumberText.h"
 #include "measures/FeetInchFormatting.h"
 #include "measures/FeetInchParsing.h"
-#include "measures/InputFilters.h"
+#include "measures/InputFunction.h"
 
 namespace Tensarix {
 

@@ -130,7 +130,10 @@ TEST(FeetInchFormatting, TextsInWords) {
         {"5'", "Five Feet"},
         {"1'", "One Foot"},
         {"-5'", "(Five Feet)"},
-        {"5''''", "Five Feet"},
+        {"5''''", "*ERROR*"}, // all but the last mark should be a number
+        {"5'x", "*ERROR*"},
+        {"6\"x", "*ERROR*"},
+        {"6.5\"", "Six Inches"},
         {"1\"", "One Inch"},
         {"6\"", "Six Inches"},
         {"3/8\"", "Three-Eights Inch"},

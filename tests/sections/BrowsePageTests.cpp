@@ -1,3 +1,4 @@
+#include "PlainStore.h"
 #include "StandIns.h"
 #include "sections/BrowsePage.h"
 
@@ -58,21 +59,6 @@ TEST_F(BrowseTest, AFamilyBringsBackItsOwnSection) {
     page.ShapeType.Select(0);
     EXPECT_EQ(page.ShapeSizeUS.ListIndex(), 7);
     EXPECT_EQ(desk.StatBar.Panel1(), " SELECTION:   None");
-}
-
-TEST_F(BrowseTest, EveryFamilyShowsItsFirstSectionWithAValueInEachTabulatedRow) {
-    for (int family = 0; family < page.ShapeType.Count(); ++family) {
-        page.ShapeType.Select(family);
-        EXPECT_EQ(page.ShapeFlex.Rows(),
-                  Families[static_cast<std::size_t>(family)].Browse.Rows.BrowseRows);
-        for (int row = 1; row < page.ShapeFlex.Rows(); ++row) {
-            const std::string& symbol = page.ShapeFlex.Text(row, 0);
-            if (symbol.empty() || !page.ShapeFlex.Remark(row, 1).empty())
-                continue; // a spare row, or one that isn't tabulated
-            EXPECT_FALSE(page.ShapeFlex.Text(row, 1).empty()) << page.ShapeType.Text() << symbol;
-            EXPECT_TRUE(page.ShapeFlex.Text(row, 1).ends_with("  "));
-        }
-    }
 }
 
 TEST_F(BrowseTest, ProfileAndStyle) {
@@ -202,6 +188,18 @@ TEST_F(BrowseTest, TheFamilyAndTheSelectionAreSpoken) {
                   "Inertia about the x-axis"}));
 }
 
+// A text in a figure's place is shown as it stands, and is no lost digit; in SI it is no number.
+TEST_F(BrowseTest, ATextInstead) {
+    const ChangedStore store("UPDATE ShapeTable SET IX = 'n/a', xIX = 'n/a' "
+                             "WHERE AISC_Manual_Label = 'W18x50'");
+    machine.Host.Places.Program = store.Folder;
+    Choose("W-Shape", "W18x50");
+    EXPECT_EQ(Value("Ix"), "n/a");
+    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("Ix"), 1), "");
+    page.ProfileOption2.Select();
+    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("Ix"), 1), StaleValueRemark);
+}
+
 // The store goes away while the program runs: the screen keeps what it shows, and tells that it is
 // of another section.
 TEST_F(BrowseTest, WithoutTheStore) {
@@ -211,6 +209,8 @@ TEST_F(BrowseTest, WithoutTheStore) {
     EXPECT_EQ(page.ShapeLabel.Caption(), "W44 x 335");
     EXPECT_EQ(Value("d"), "18.00  ");
     EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("d"), 1), StaleValueRemark);
+    page.ProfileOption2.Select();
+    EXPECT_EQ(Unit("d"), "in.") << "the unit is that of the value";
     page.ShapeType.Select(1);
     EXPECT_EQ(page.ShapeSizeUS.Count(), 274); // the lists keep what they held
 }

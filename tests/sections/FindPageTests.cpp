@@ -2,6 +2,7 @@
 #include "PlainStore.h"
 #include "StandIns.h"
 #include "sections/FindPage.h"
+#include "sections/TableSelection.h"
 #include "sections/ViewPage.h"
 
 #include <gtest/gtest.h>
@@ -213,6 +214,23 @@ TEST_F(FindTest, SpokenAndShown) {
               " SELECTION:   L2-1/2x1-1/2x3/16  [L64x38x4.8]    -->   Wt = 3.68 Kg/m");
     page.fDimOption2.Enable(true);
     page.fDimOption2.Select();
+    EXPECT_EQ(desk.StatBar.Panel1(), " SELECTION:   None");
+}
+
+// A result that is shorter moves the current cell; what is shown of it follows.
+TEST_F(FindTest, ThePanelFollowsAFillThatMovesTheCurrentCell) {
+    Start();
+    Ask("Zx", ">=", "0");
+    page.FindButton.Click();
+    page.fShapeFlex.Move_To(270, 15);
+    EXPECT_EQ(desk.StatBar.Panel1().substr(0, 20), " SELECTION:   W6x9  ");
+    page.fValue.Set_Text("500");
+    page.FindButton.Click();
+    EXPECT_EQ(page.fShapeFlex.Row(), 109);
+    EXPECT_EQ(desk.StatBar.Panel1(),
+              Table_Selection_Text(page.fShapeFlex, page.fShapeFlex.Row(), 15));
+    page.fValue.Set_Text("1E9");
+    page.FindButton.Click();
     EXPECT_EQ(desk.StatBar.Panel1(), " SELECTION:   None");
 }
 

@@ -1,4 +1,4 @@
-#include "measures/InputFilters.h"
+#include "measures/InputFunction.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 using namespace Tensarix;
 
-TEST(InputFilters, KeysThatPass) {
+TEST(InputFunction, KeysThatPass) {
     const std::string digits = "\b\t\r0123456789";
     const auto passes = [](const std::string& keys, int key) {
         return key > 0 && key < 128 && keys.find(static_cast<char>(key)) != std::string::npos;
@@ -23,7 +23,7 @@ TEST(InputFilters, KeysThatPass) {
     }
 }
 
-TEST(InputFilters, LengthsAreJudgedAsAWhole) {
+TEST(InputFunction, LengthsAreJudgedAsAWhole) {
     EXPECT_TRUE(Is_FeetInch("5"));
     EXPECT_TRUE(Is_FeetInch("5'-6"));
     EXPECT_FALSE(Is_FeetInch("5'6\""));

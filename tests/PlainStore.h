@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,16 @@ class PlainStore {
         sqlite3_finalize(statement);
         return numbers;
     }
+    std::vector<std::string> Texts(const std::string& sql) {
+        std::vector<std::string> texts;
+        sqlite3_stmt* statement = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(database_, sql.c_str(), -1, &statement, nullptr), SQLITE_OK)
+            << sql;
+        while (sqlite3_step(statement) == SQLITE_ROW)
+            texts.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0)));
+        sqlite3_finalize(statement);
+        return texts;
+    }
     void Run(const std::string& sql) {
         EXPECT_EQ(sqlite3_exec(database_, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
             << sql << ": " << sqlite3_errmsg(database_);
@@ -59,6 +70,36 @@ class ChangedStore {
 
     const std::filesystem::path Folder =
         std::filesystem::temp_directory_path() / ("tensarix changed " + std::to_string(getpid()));
+};
+
+// One section of each family is left, and each of its figures is another number.
+class NumberedStore : public ChangedStore {
+  public:
+    NumberedStore()
+        : ChangedStore("DELETE FROM ShapeTable WHERE SEQ NOT IN (SELECT MIN(SEQ) FROM ShapeTable "
+                       "GROUP BY TYPE)") {
+        PlainStore plain(Folder);
+        for (const std::string& column :
+             plain.Texts("SELECT name FROM pragma_table_info('ShapeTable')")) {
+            if (column.ends_with("TYPE") || column == "SEQ" || column.ends_with("Label") ||
+                column.ends_with("Nomenclature"))
+                continue;
+            const auto number = static_cast<double>(numbers_.size()) + 101;
+            // Of a figure in SI a power of ten is shown.
+            numbers_[column] = column[0] == 'x' ? number * 1e6 : number + 0.625;
+            plain.Run("UPDATE ShapeTable SET " + column + " = " + std::to_string(numbers_[column]));
+        }
+    }
+    // Of a column, or of one less twice another: D-2KDET.
+    double Number(const std::string& expression) const {
+        const std::size_t less = expression.find("-2");
+        if (less == std::string::npos)
+            return numbers_.at(expression);
+        return Number(expression.substr(0, less)) - 2 * Number(expression.substr(less + 2));
+    }
+
+  private:
+    std::map<std::string, double> numbers_;
 };
 
 } // namespace Tensarix::Tests

@@ -1,4 +1,4 @@
-#include "measures/InputFilters.h"
+#include "measures/InputFunction.h"
 
 #include "measures/FeetInchParsing.h"
 

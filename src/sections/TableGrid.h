@@ -1,0 +1,41 @@
+// The grids of View All and Find: sections of a family, a row each, with the properties as columns.
+// The x form of the initializers; the f form, which searches, is in FindSearch.h.
+//
+// Each cell is written by one statement, which leaves the cell as it was if it fails.
+#pragma once
+
+#include "controls/FlexGrid.h"
+#include "sections/PropertyTable.h"
+
+#include <string_view>
+
+namespace Tensarix {
+
+// Where two values share a column and the second one is not tabulated.
+inline constexpr std::string_view EarlierValueRemark =
+    "Not tabulated for this section; the text is that of the property written here first";
+
+// Fills the grid with a family. Gives the number of sections.
+struct TableInitializer {
+    const Layout& Columns;
+
+    int operator()(FlexGrid& grid, std::string_view familyCode, const SectionView& view) const;
+};
+
+enum class TableVariant { ViewAll, Find };
+
+// Sizes the grid for so many sections, at least 14, clears it, and writes the heads. A head under
+// which another property's values stand, or a k of detailing, says so in its remark.
+void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, Profile profile,
+                   int sections);
+// The rows of the grid, with the head row, for so many sections.
+int Table_Rows(int sections);
+// Writes the designations and values of the current record into a row.
+void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Layout& layout,
+                     TableVariant variant, const SectionView& view);
+
+// All sections of a family, closed if they can't be read, and how many there are.
+SectionRecordset Family_Records(std::string_view familyCode, const SectionView& view);
+int Count_Of(const SectionRecordset& records);
+
+} // namespace Tensarix
