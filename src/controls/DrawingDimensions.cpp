@@ -10,7 +10,7 @@ namespace {
 // In heights of a line of text.
 constexpr double headLength = 0.55;
 constexpr double leastBetweenHeads = 2.4; // of a line whose heads stand between its ends
-constexpr double firstGap = 0.7, laneStep = 0.3, leastBetweenLines = 0.55;
+constexpr double firstGap = 0.95, laneStep = 0.3, leastBetweenLines = 0.55;
 constexpr double tailLength = 1.1, tailStep = 0.5, longestTail = 7;
 constexpr double extensionGap = 0.15, extensionEnd = 0.25, textGap = 0.3;
 constexpr int lanes = 60;
@@ -58,35 +58,35 @@ void Sheet::Place_Dimension(const Part& part, const Dimension& dimension) {
     run.Out = dimension.At == Side::Left || dimension.At == Side::Above ? -1 : 1;
     run.Pinched = run.To - run.From < leastBetweenHeads * em_;
     const bool inside = dimension.At == Side::Inside;
-    for (const bool strict : {true, false})
-        if (inside ? Place_Inside(run, strict) : Place_Beside(run, strict))
+    for (const Care care : cares)
+        if (inside ? Place_Inside(run, care) : Place_Beside(run, care))
             return;
     Leave_Out(part, run.Words);
 }
 
 // Lane by lane away from the drawing.
-bool Sheet::Place_Beside(const Run& run, bool strict) {
+bool Sheet::Place_Beside(const Run& run, Care care) {
     const double edge = run.Upright ? (run.Out < 0 ? things_.Left : things_.Right)
                                     : (run.Out < 0 ? things_.Top : things_.Bottom);
     for (int lane = 0; lane < lanes; ++lane)
-        if (Try(run, edge + run.Out * (firstGap + lane * laneStep) * em_, tailLength * em_, strict))
+        if (Try(run, edge + run.Out * (firstGap + lane * laneStep) * em_, tailLength * em_, care))
             return true;
     return false;
 }
 
 // At the measured points themselves; the tail carries the label as far as it has to go.
-bool Sheet::Place_Inside(const Run& run, bool strict) {
+bool Sheet::Place_Inside(const Run& run, Care care) {
     const double across = (run.FromAt + run.ToAt) / 2;
     for (double tail = tailLength; tail < longestTail; tail += tailStep)
-        if (Try(run, across, tail * em_, strict))
+        if (Try(run, across, tail * em_, care))
             return true;
     return false;
 }
 
-bool Sheet::Try(const Run& run, double across, double tail, bool strict) {
+bool Sheet::Try(const Run& run, double across, double tail, Care care) {
     for (const Point& centre : Label_Centres(run, across, tail)) {
         const Proposal proposal = Proposal_Of(run, across, tail, centre);
-        if (!Is_Free(proposal, run.Upright, strict))
+        if (!Is_Free(proposal, run.Upright, care))
             continue;
         Accept(run, proposal, across);
         return true;
@@ -94,24 +94,21 @@ bool Sheet::Try(const Run& run, double across, double tail, bool strict) {
     return false;
 }
 
-// Where the label may stand, the best first: in the line, beside it, behind its ends.
+// Where the label may stand, the best first: in the line, behind its ends, beside it.
 std::vector<Point> Sheet::Label_Centres(const Run& run, double across, double tail) const {
-    std::vector<Point> centres;
     const double middle = (run.From + run.To) / 2, gap = textGap * em_;
     if (run.To - run.From > run.Label.Width + (2 * headLength + 4 * textGap) * em_)
         return {run.At(middle, across)};
+    const bool inside = std::get<Dimension>(run.Of.What).At == Side::Inside;
     const Point beside =
         run.At(middle, across + run.Out * (run.Label.Height / 2 + extensionEnd * em_ + gap));
-    const bool inside = std::get<Dimension>(run.Of.What).At == Side::Inside;
+    const Point before = run.At(run.From - tail - gap - run.Label.Width / 2, across);
+    const Point behind = run.At(run.To + tail + gap + run.Label.Width / 2, across);
     if (run.Upright && !inside)
-        centres.push_back(beside);
-    if (run.Pinched) {
-        centres.push_back(run.At(run.To + tail + gap + run.Label.Width / 2, across));
-        centres.push_back(run.At(run.From - tail - gap - run.Label.Width / 2, across));
-    }
-    if (!run.Pinched || (!run.Upright && !inside))
-        centres.push_back(beside);
-    return centres;
+        return {beside, behind, before};
+    if (inside && !run.Pinched)
+        return {beside, behind, before};
+    return inside ? std::vector{behind, before} : std::vector{before, behind, beside};
 }
 
 Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
@@ -129,8 +126,11 @@ Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
         const double half = run.Label.Width / 2 + textGap * em_;
         line(run.From, middle - half);
         line(middle + half, run.To);
-    } else
-        line(run.From, run.To);
+    } else {
+        const double along = run.Upright ? labelCentre.Y : labelCentre.X;
+        line(along < run.From ? run.From - tail : run.From,
+             along > run.To ? run.To + tail : run.To); // as far as its label
+    }
     const auto extend = [&](double along, double from) {
         const double way = across - from;
         if (std::abs(way) <= 2 * extensionGap * em_)
@@ -144,8 +144,8 @@ Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
     return proposal;
 }
 
-bool Sheet::Is_Free(const Proposal& proposal, bool upright, bool strict) const {
-    if (!Is_Free(proposal.Label, strict))
+bool Sheet::Is_Free(const Proposal& proposal, bool upright, Care care) const {
+    if (!Is_Free(proposal.Label, care))
         return false;
     const Box apart = proposal.Label.Grown(1);
     for (const Segment& line : proposal.Lines) {
@@ -163,10 +163,11 @@ bool Sheet::Is_Free(const Proposal& proposal, bool upright, bool strict) const {
                 return false;
         }
     }
-    return std::all_of(
-        proposal.Extensions.begin(), proposal.Extensions.end(), [&](const Segment& line) {
-            return !strict || (Misses_Texts(line) && !apart.Meets(line.From, line.To));
-        });
+    return std::all_of(proposal.Extensions.begin(), proposal.Extensions.end(),
+                       [&](const Segment& line) {
+                           return care != Care::Everything ||
+                                  (Misses_Texts(line) && !apart.Meets(line.From, line.To));
+                       });
 }
 
 void Sheet::Accept(const Run& run, const Proposal& proposal, double across) {

@@ -12,10 +12,10 @@ namespace Tensarix::Drawn {
 
 namespace {
 
-constexpr double edgeRoom = 3;        // pixels between the drawing and the edge of the view
-constexpr int mostTries = 12;         // to find the scale at which all fits
-constexpr double leastPart = 0.45;    // of the scale without texts; below it, the values go
-constexpr double leastPartBare = 0.3; // below it, dimensions go
+constexpr double edgeRoom = 3;         // pixels between the drawing and the edge of the view
+constexpr int mostTries = 12;          // to find the scale at which all fits
+constexpr double leastPart = 0.36;     // of the scale without texts; below it, the values go
+constexpr double leastPartBare = 0.25; // below it, dimensions go
 constexpr double barRoom = 2.1, barPart = 0.25, barTick = 0.25, barGap = 0.4; // lines; of the view
 
 Point Between(Point from, Point to, double length) {

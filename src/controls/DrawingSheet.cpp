@@ -13,7 +13,7 @@ constexpr double headLength = 0.55, headHalfWidth = 0.17;
 constexpr double markSize = 0.38, dotSize = 0.22;
 constexpr double overhang = 0.7;
 constexpr double labelDistances[] = {0.35, 0.8, 1.4, 2.2, 3.2};
-constexpr double textMargin = 2; // pixels
+constexpr double textMargin = 0.2;
 
 constexpr int circlePieces = 72;
 
@@ -138,10 +138,10 @@ void Sheet::Draw_CentreLine(const Part& part, const CentreLine& line) {
         return;
     const Size size = measure_(line.Label);
     const Point onward = Along({0, 0}, {end.X - from.X, end.Y - from.Y}, 1);
-    const Point centre{end.X + onward.X * (size.Width / 2 + textMargin),
-                       end.Y + onward.Y * (size.Height / 2 + textMargin)};
+    const Point centre{end.X + onward.X * (size.Width / 2 + 2 * textMargin * em_),
+                       end.Y + onward.Y * (size.Height / 2 + textMargin * em_)};
     const Box place = Text_Box(centre, line.Label);
-    if (Is_Free(place, false))
+    if (Is_Free(place, Care::DimensionLines))
         Add_Text(part, place, line.Label);
     else if (!Place_Near(part, {end}, line.Label))
         Leave_Out(part, line.Label);
@@ -197,19 +197,19 @@ void Sheet::Add_Text(const Part& part, const Box& place, const std::string& word
     layout_.Texts.push_back({place, words, part.In, part.Name});
 }
 
-bool Sheet::Is_Free(const Box& place, bool strict) const {
-    const Box room = place.Grown(textMargin);
+bool Sheet::Is_Free(const Box& place, Care care) const {
+    const Box room = place.Grown(textMargin * em_);
     if (std::any_of(layout_.Texts.begin(), layout_.Texts.end(),
                     [&](const Text& text) { return text.Place.Overlaps(room); }))
         return false;
-    return !strict || std::none_of(segments_.begin(), segments_.end(), [&](const Segment& line) {
-        return room.Meets(line.From, line.To);
-    });
+    const auto& lines = care == Care::DimensionLines ? dimensionLines_ : segments_;
+    return std::none_of(lines.begin(), lines.end(),
+                        [&](const Segment& line) { return room.Meets(line.From, line.To); });
 }
 
 bool Sheet::Misses_Texts(const Segment& line) const {
     return std::none_of(layout_.Texts.begin(), layout_.Texts.end(), [&](const Text& text) {
-        return text.Place.Grown(textMargin).Meets(line.From, line.To);
+        return text.Place.Grown(textMargin * em_).Meets(line.From, line.To);
     });
 }
 
@@ -239,14 +239,14 @@ void Sheet::Place_Label(const Part& part) {
 bool Sheet::Place_Near(const Part& part, const std::vector<Point>& anchors,
                        const std::string& words) {
     const Size size = measure_(words);
-    for (const bool strict : {true, false})
+    for (const Care care : cares)
         for (const double distance : labelDistances)
             for (const Point& anchor : anchors)
                 for (const Point& towards : directions) {
                     const Point centre{anchor.X + towards.X * (size.Width / 2 + distance * em_),
                                        anchor.Y + towards.Y * (size.Height / 2 + distance * em_)};
                     const Box place = Text_Box(centre, words);
-                    if ((layout_.Plot && !layout_.Plot->Contains(place)) || !Is_Free(place, strict))
+                    if ((layout_.Plot && !layout_.Plot->Contains(place)) || !Is_Free(place, care))
                         continue;
                     Add_Text(part, place, words);
                     return true;

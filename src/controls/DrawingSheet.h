@@ -16,6 +16,14 @@ struct Detail {
     std::size_t Dimensions = 0; // so many from the last one on are left away
 };
 
+// How much a label keeps clear of besides other texts; the first that finds a place is taken.
+enum class Care {
+    Everything,    // all lines, and its dimension's extension lines cross no text either
+    AllLines,      // these may cross a text
+    DimensionLines // and the label lines that aren't of dimensions
+};
+inline constexpr Care cares[] = {Care::Everything, Care::AllLines, Care::DimensionLines};
+
 class Sheet {
   public:
     // The layout has its scales and its zero.
@@ -50,7 +58,7 @@ class Sheet {
     // Labels.
     Box Text_Box(Point centre, const std::string& words) const;
     void Add_Text(const Part& part, const Box& place, const std::string& words);
-    bool Is_Free(const Box& place, bool strict) const;
+    bool Is_Free(const Box& place, Care care) const;
     bool Misses_Texts(const Segment& line) const;
     void Place_Label(const Part& part);
     bool Place_Near(const Part& part, const std::vector<Point>& anchors, const std::string& words);
@@ -58,12 +66,12 @@ class Sheet {
 
     // Dimensions.
     void Place_Dimension(const Part& part, const Dimension& dimension);
-    bool Place_Beside(const Run& run, bool strict);
-    bool Place_Inside(const Run& run, bool strict);
-    bool Try(const Run& run, double across, double tail, bool strict);
+    bool Place_Beside(const Run& run, Care care);
+    bool Place_Inside(const Run& run, Care care);
+    bool Try(const Run& run, double across, double tail, Care care);
     std::vector<Point> Label_Centres(const Run& run, double across, double tail) const;
     Proposal Proposal_Of(const Run& run, double across, double tail, Point labelCentre) const;
-    bool Is_Free(const Proposal& proposal, bool upright, bool strict) const;
+    bool Is_Free(const Proposal& proposal, bool upright, Care care) const;
     void Accept(const Run& run, const Proposal& proposal, double across);
 
     // The plot.

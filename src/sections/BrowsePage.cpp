@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "sections/SectionDrawing.h"
 #include "speech/Normalisers.h"
 
 namespace Tensarix {
@@ -14,6 +15,14 @@ constexpr double snapBackEdge = 885; // twips from the grid's left edge
 std::string Flat_Meaning(std::string_view meaning) {
     const std::string line = Replace_All(Trim(meaning), "\n", "");
     return Replace_All(Replace_All(line, "  ", " "), "  ", " ");
+}
+
+// The part of the drawing that a row is about: its dimension, or the axis of a property.
+std::string Part_Of(const std::string& symbol, const std::string& meaning) {
+    for (const char* axis : {"x-axis", "y-axis"})
+        if (meaning.ends_with(axis))
+            return axis;
+    return symbol == "rz" ? "Tan Alpha" : symbol;
 }
 
 } // namespace
@@ -37,6 +46,7 @@ BrowsePage::BrowsePage(Desk& desk) : desk_(desk) {
     ShapeFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
     ShapeFlex.OnMouseMove = [this](double xTwips) { ShapeFlex_MouseMove(xTwips); };
     BaseImage.OnMouseMove = [this] { Snap_Back(); };
+    SectionDrawing.Tell = [this](const std::string& part, Drawn::Point) { return Told_Of(part); };
 }
 
 void BrowsePage::Init_ShapeFlex() {
@@ -64,6 +74,7 @@ void BrowsePage::ShapeType_Change() {
         desk_.Say(Spoken_Family(ShapeType.Text()));
     }
     BaseImage.Set_Name({});
+    SectionDrawing.Set_Drawing({"Choose a shape profile"});
     const int position = ShapeType.ListIndex();
     Attempt([&] { BaseImage.Set_Name(std::string{Family_At(position).Picture}); });
     Attempt([&] {
@@ -102,7 +113,36 @@ void BrowsePage::ShowSectionProperties() {
             BaseImage.Set_Name(std::string{Double_Angle_Picture(ShapeSizeUS.Text())});
         family.Browse(ShapeFlex, position == PipeFamily ? ShapeSizeSI : ShapeSizeUS, View(), false);
     });
+    Draw_Section();
     desk_.Show_No_Selection();
+}
+
+void BrowsePage::Draw_Section() {
+    const int position = ShapeType.ListIndex();
+    const ComboBox& sizes = position == PipeFamily ? ShapeSizeSI : ShapeSizeUS;
+    if (position < 0 || sizes.ListIndex() < 0)
+        return;
+    Drawing drawing = Read_Section_Drawing(position, sizes.Text(), View(), DrawingDetail::Full);
+    if (drawing.Empty())
+        drawing.Sentence = "No drawing: the figures of this section can't be read";
+    SectionDrawing.Set_Drawing(std::move(drawing));
+    Light_Up_Row();
+}
+
+void BrowsePage::Light_Up_Row() {
+    const int row = ShapeFlex.Row();
+    SectionDrawing.Light_Up(
+        Part_Of(Trim(ShapeFlex.Text(row, 0)), Flat_Meaning(ShapeFlex.Text(row, 3))));
+}
+
+// "bf = 15.90 in.   Flange Width": the row of the dimension that is pointed at.
+std::string BrowsePage::Told_Of(const std::string& part) const {
+    for (int row = 1; !part.empty() && row < ShapeFlex.Rows(); ++row)
+        if (Trim(ShapeFlex.Text(row, 0)) == part)
+            return part + " = " +
+                   Trim(Trim(ShapeFlex.Text(row, 1)) + " " + Trim(ShapeFlex.Text(row, 2))) + "   " +
+                   Flat_Meaning(ShapeFlex.Text(row, 3));
+    return part;
 }
 
 void BrowsePage::Choose_Profile(Profile profile) {
@@ -143,6 +183,7 @@ std::string BrowsePage::Spoken_Text(int row) const {
 
 void BrowsePage::ShapeFlex_SelChange() {
     const int row = ShapeFlex.Row();
+    Light_Up_Row();
     desk_.StatBar.Set_Panel1(Selection_Text(row));
     const int told = ShapeFlex.Remark(row, ShapeFlex.Col()).empty() ? 1 : ShapeFlex.Col();
     desk_.StatBar.Set_Remark(ShapeFlex.Remark(row, told), ShapeFlex.Remark_Weight(row, told));

@@ -1,7 +1,8 @@
-// Browse Sections: one section, its picture, and a row for each of its properties.
+// Browse Sections: one section, its drawing, and a row for each of its properties.
 #pragma once
 
 #include "controls/Controls.h"
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 #include "sections/FamilyTable.h"
@@ -14,7 +15,8 @@ class BrowsePage {
     ComboBox ShapeSizeUS, ShapeSizeSI;
     OptionButton ProfileOption1, ProfileOption2;
     OptionButton DimOption1, DimOption2;
-    Picture BaseImage;
+    Picture BaseImage;         // which kind of profile it is
+    DrawingBox SectionDrawing; // the section itself, shown in its place
     Label ShapeLabel;
     FlexGrid ShapeFlex;
 
@@ -41,6 +43,9 @@ class BrowsePage {
     std::string Selection_Text(int row) const;
     std::string Spoken_Text(int row) const;
     SectionView View() const;
+    void Draw_Section();
+    void Light_Up_Row();
+    std::string Told_Of(const std::string& part) const;
 
     Desk& desk_;
     Profile profile_ = Profile::US;

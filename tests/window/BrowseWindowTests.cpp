@@ -1,5 +1,6 @@
 // Browse Sections, the menu and the settings, through real keys and clicks.
 #include "WindowTest.h"
+#include "window/drawing/DrawingView.h"
 #include "window/grid/GridView.h"
 
 #include <QAction>
@@ -63,7 +64,7 @@ TEST_F(BrowseWindowTest, ProfileAndStyleButtons) {
     Settle();
     EXPECT_EQ(Cell(3, 1), "1120.00  ");
     EXPECT_FALSE(Find<QRadioButton>("DimOption1").isEnabled());
-    QTest::keyClick(&Find<QRadioButton>("ProfileOption2"), Qt::Key_Up);
+    QTest::keyClick(&Find<QRadioButton>("ProfileOption2"), Qt::Key_Left);
     Settle();
     EXPECT_TRUE(Find<QRadioButton>("ProfileOption1").isChecked());
     EXPECT_TRUE(Find<QRadioButton>("DimOption1").isEnabled());
@@ -145,4 +146,30 @@ TEST_F(BrowseWindowTest, ASettingsFileOfGarbageIsSurvived) {
     file.close();
     Start();
     EXPECT_EQ(Find<QComboBox>("ShapeType").count(), 17);
+}
+
+// The row of the current cell lights up its dimension, and the drawing tells the row of one that is
+// pointed at; who does not see it hears its measures.
+TEST_F(BrowseWindowTest, TheDrawingFollowsSectionAndRow) {
+    auto& view = Find<DrawingView>("BaseImage");
+    const auto words = [&view] {
+        Settle();
+        std::string all;
+        for (const Drawn::Text& text : view.Laid_Out().Texts)
+            all += text.Words + "; ";
+        return all;
+    };
+    EXPECT_NE(words().find("d = 44.00; "), std::string::npos);
+    EXPECT_TRUE(view.accessibleDescription().startsWith(
+        QStringLiteral("W44x335 to scale: d = 44.00 in., bf = 15.90 in.")));
+    Page().ShapeFlex.Press(4, 1);
+    EXPECT_EQ(Page().SectionDrawing.Lit(), "bf");
+    Page().ShapeFlex.Press(13, 1);
+    EXPECT_EQ(Page().SectionDrawing.Lit(), "x-axis");
+    EXPECT_EQ(Page().SectionDrawing.Tell("bf", {}), "bf = 15.90 in.   Flange Width");
+    Page().ShapeType.Select(12);
+    Page().ProfileOption2.Select();
+    EXPECT_NE(words().find("ID = 305.00; "), std::string::npos) << words();
+    Page().ShapeSizeUS.Select(-1);
+    EXPECT_NE(words().find("ID = 305.00; "), std::string::npos) << words();
 }

@@ -22,6 +22,7 @@ constexpr double designFontHeight = 13;
 constexpr double twipsToPixel = 1.0 / 15;
 constexpr int cellMargin = 12;
 constexpr int leastRows = 3;
+constexpr int leastRowMargin = 2; // above and below the text
 
 } // namespace
 
@@ -128,15 +129,25 @@ void GridView::Show_All_Rows() {
     Fit_Contents();
 }
 
+void GridView::Take_What_Is_Needed() {
+    onlyNeeded_ = true;
+    Fit_Contents();
+}
+
+int GridView::Columns_Width() const {
+    int width = 2 * frameWidth();
+    for (int col = 0; col < grid_->Cols(); ++col)
+        width += Column_Pixels(col);
+    if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff)
+        width += verticalScrollBar()->sizeHint().width();
+    return width;
+}
+
 void GridView::Fit_Contents() {
-    if (allColumns_) {
-        int width = 2 * frameWidth();
-        for (int col = 0; col < grid_->Cols(); ++col)
-            width += Column_Pixels(col);
-        if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff)
-            width += verticalScrollBar()->sizeHint().width();
-        setMinimumWidth(width);
-    }
+    if (allColumns_)
+        setMinimumWidth(Columns_Width());
+    if (onlyNeeded_)
+        setMaximumWidth(Columns_Width());
     if (allRows_) {
         int height = 2 * frameWidth() + Head_Height();
         for (int row = 0; row < model_->rowCount(); ++row)
@@ -148,6 +159,11 @@ void GridView::Fit_Contents() {
 
 int GridView::Head_Height() const {
     return horizontalHeader()->isHidden() ? 0 : horizontalHeader()->height();
+}
+
+QSize GridView::sizeHint() const {
+    const QSize usual = QTableView::sizeHint();
+    return onlyNeeded_ ? QSize(Columns_Width(), usual.height()) : usual;
 }
 
 QSize GridView::minimumSizeHint() const {
@@ -194,9 +210,24 @@ int GridView::Fitting_Width(int col) const {
     return width == 0 ? 0 : width + cellMargin;
 }
 
+// The part of its height that a row keeps so that all show, if they can still be read then.
+double GridView::Row_Squeeze() const {
+    if (!onlyNeeded_ || grid_->FixedRows() >= grid_->Rows())
+        return 1;
+    double whole = 0;
+    for (int row = grid_->FixedRows(); row < grid_->Rows(); ++row)
+        whole += grid_->Row_Height(row) * Twip_Scale();
+    const double part = (height() - 2 * frameWidth() - Head_Height()) / whole;
+    const double least = (fontMetrics().height() + leastRowMargin) /
+                         (grid_->Row_Height(grid_->FixedRows()) * Twip_Scale());
+    return part >= least ? std::min(part, 1.0) : 1;
+}
+
 void GridView::Measure_Rows() {
-    const auto pixels = [this](int row) {
-        return static_cast<int>(std::lround(grid_->Row_Height(row) * Twip_Scale()));
+    const double squeeze = Row_Squeeze();
+    const auto pixels = [this, squeeze](int row) {
+        const double height = grid_->Row_Height(row) * Twip_Scale();
+        return static_cast<int>(squeeze < 1 ? std::floor(height * squeeze) : std::round(height));
     };
     const int first = grid_->FixedRows();
     if (first >= grid_->Rows())
@@ -312,8 +343,11 @@ bool GridView::viewportEvent(QEvent* event) {
 
 void GridView::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
-    if (grid_)
-        Place_Frozen();
+    if (!grid_)
+        return;
+    if (onlyNeeded_)
+        Measure_Rows();
+    Place_Frozen();
 }
 
 void GridView::changeEvent(QEvent* event) {

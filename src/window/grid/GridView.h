@@ -30,9 +30,12 @@ class GridView : public QTableView {
     // All columns show without scrolling sideways; all rows show, too.
     void Show_All_Columns();
     void Show_All_Rows();
+    // As wide as its columns, and no wider; the rows a little lower where they all show then.
+    void Take_What_Is_Needed();
     // Pixels to the twip under the current font and scale.
     double Twip_Scale() const;
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
   protected:
@@ -55,7 +58,9 @@ class GridView : public QTableView {
     void Measure();
     void Measure_Columns();
     void Measure_Rows();
+    double Row_Squeeze() const;
     void Fit_Contents();
+    int Columns_Width() const;
     int Head_Height() const;
     int Column_Pixels(int col) const;
     int Fitting_Width(int col) const;
@@ -82,7 +87,7 @@ class GridView : public QTableView {
     QPoint popupPoint_;
     unsigned measured_ = ~0u;
     bool pulling_ = false;
-    bool allColumns_ = false, allRows_ = false;
+    bool allColumns_ = false, allRows_ = false, onlyNeeded_ = false;
 };
 
 } // namespace Tensarix

@@ -18,9 +18,11 @@ QWidget* Make_Browse_Form(BrowsePage& page, QWidget* parent) {
     Bind(ui.ProfileOption2, page.ProfileOption2);
     Bind(ui.DimOption1, page.DimOption1);
     Bind(ui.DimOption2, page.DimOption2);
-    Bind(ui.BaseImage, page.BaseImage);
+    Bind(ui.BaseImage, page.SectionDrawing);
+    Watch_Mouse(ui.BaseImage, [&page] { Run(page.BaseImage.OnMouseMove); });
     Bind(ui.ShapeLabel, page.ShapeLabel);
     Bind(ui.ShapeFlex, page.ShapeFlex);
+    ui.ShapeFlex->Take_What_Is_Needed();
     const Handler snapBack = [&page] { page.Snap_Back(); };
     for (QWidget* around : std::initializer_list<QWidget*>{ui.choices, ui.ProfileFrame, ui.DimFrame,
                                                            ui.ProfileOption1, ui.ProfileOption2,
