@@ -146,6 +146,7 @@ void BeamPage::Restore_Code() {
     const bool choosesMethod = !Is_9th_Edition();
     CodeFrame.Enable(choosesMethod);
     CodeOpt[1].Enable(choosesMethod);
+    CodeNote.Set_Caption(choosesMethod ? "" : "9th Edition: ASD only");
     Attempt([&] {
         const int saved = choosesMethod ? desk_.Saved.Position(Setting::CodeOpt) : 0;
         if (saved != 0 && saved != 1)

@@ -2,8 +2,10 @@
 // governs, and the maximum end reaction, computed anew at every change of any input.
 #pragma once
 
+#include "beam/BeamDrawings.h"
 #include "beam/BeamRules.h"
 #include "controls/Controls.h"
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 
@@ -32,6 +34,7 @@ class BeamPage {
     TabControl AppliedCode;
     Frame CodeFrame;
     std::array<OptionButton, 2> CodeOpt;
+    Label CodeNote; // why they can't be chosen
     ComboBox FyBox;
     TextBox BeamSpanBox;
     TextBox CFactor;
@@ -39,6 +42,7 @@ class BeamPage {
     Label UniWTLab, LimSpanLab, BeamReactionLab;
     // Advice beside the results: on the span in force, and on what the rules leave out.
     Label SpanRemark, RuleRemark;
+    DrawingBox BeamSketch, LoadPlot; // the beam with its load; load against span
 
     explicit BeamPage(Desk& desk);
     BeamPage(const BeamPage&) = delete;
@@ -80,12 +84,15 @@ class BeamPage {
     void Load_Factor(const std::string& text);
     void Show_Results(const BeamLoad& load);
     void Show_Span_Remark();
+    void Show_Drawings(const BeamInput& input, const BeamLoad& load);
     std::string Rule_Remark(const BeamInput& input) const;
 
     static std::string Length_Text(double feet);
     BeamSection Read_Section() const;
     BeamInput Read_Inputs() const;
     bool Is_9th_Edition() const { return AppliedCode.Tab() == Code9thEdition; }
+    double Magnification() const; // 0.15 for 15 %
+    BeamMethod Rules() const;
     DesignMethod Method() const { return static_cast<DesignMethod>(CodeIndex); }
     std::string Tab_Key() const;
     std::string Tab_And_Method_Key() const;

@@ -49,23 +49,43 @@ BeamInput BeamPage::Read_Inputs() const {
 
 void BeamPage::CalculateValues() {
     const BeamInput input = Read_Inputs();
-    const BeamLoad load = Is_9th_Edition() ? Beam_Load_9th(input) : Beam_Load_13th(input, Method());
+    const BeamLoad load = Tensarix::Beam_Load(Rules(), input);
     span_ = load.SpanFeet;
     boundary_ = load.BoundaryFeet;
     Show_Results(load);
     Show_Span_Remark();
     RuleRemark.Set_Caption(Rule_Remark(input));
+    Show_Drawings(input, load);
+}
+
+void BeamPage::Show_Drawings(const BeamInput& input, const BeamLoad& load) {
+    BeamSketch.Set_Drawing(Beam_Under_Load(load, Magnification()));
+    const BeamMethod method = Rules();
+    LoadPlot.Set_Drawing(Load_Against_Span(method, input, load));
+    LoadPlot.Tell = [method, input](const std::string&, Drawn::Point at) {
+        return Load_At_Span(method, input, at.X);
+    };
+}
+
+double BeamPage::Magnification() const {
+    double magnification = 0;
+    Attempt([&] { magnification = Leading_Value(CFactor.Text()) / 100.0; });
+    return magnification;
+}
+
+BeamMethod BeamPage::Rules() const {
+    if (Is_9th_Edition())
+        return BeamMethod::ASD9th;
+    return Method() == DesignMethod::ASD ? BeamMethod::ASD13th : BeamMethod::LRFD13th;
 }
 
 void BeamPage::Show_Results(const BeamLoad& load) {
-    double magnification = 0;
-    Attempt([&] { magnification = Leading_Value(CFactor.Text()) / 100.0; });
     UniWTLab.Set_Caption("Maximum Allowable Uniform Load,  w = " +
                          Format_Number(load.LoadKipsPerFoot, loadPattern) + " Kip/ft");
     LimSpanLab.Set_Caption(Length_Text(load.BoundaryFeet));
     Attempt([&] {
         BeamReactionLab.Set_Caption(
-            Format_Number((1.0 + magnification) * load.EndReactionKips, loadPattern) + " Kips");
+            Format_Number((1.0 + Magnification()) * load.EndReactionKips, loadPattern) + " Kips");
     });
 }
 

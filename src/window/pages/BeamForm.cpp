@@ -3,8 +3,23 @@
 #include "ui_BeamForm.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
+#include "window/drawing/DrawingView.h"
 
 namespace Tensarix {
+
+namespace {
+
+constexpr double resultSize = 1.5;              // of the font of its label
+constexpr int leastChars = 40, leastLines = 13; // of a drawing
+constexpr int factorWidth = 12;                 // average characters
+
+void Enlarge(QLabel* result) {
+    QFont font = result->font();
+    font.setPointSizeF(font.pointSizeF() * resultSize);
+    result->setFont(font);
+}
+
+} // namespace
 
 QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     auto* form = new FittingPage(parent);
@@ -31,6 +46,15 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     Bind(ui.BeamReactionLab, page.BeamReactionLab);
     Bind(ui.SpanRemark, page.SpanRemark);
     Bind(ui.RuleRemark, page.RuleRemark);
+    Bind(ui.CodeNote, page.CodeNote);
+    Bind(ui.BeamSketch, page.BeamSketch);
+    Bind(ui.LoadPlot, page.LoadPlot);
+    for (QLabel* result : {ui.UniWTLab, ui.BeamReactionLab})
+        Enlarge(result);
+    for (DrawingView* drawing : {ui.BeamSketch, ui.LoadPlot})
+        drawing->setMinimumSize(leastChars * drawing->fontMetrics().averageCharWidth(),
+                                leastLines * drawing->fontMetrics().lineSpacing());
+    ui.CFactor->setMaximumWidth(factorWidth * ui.CFactor->fontMetrics().averageCharWidth());
     return form;
 }
 

@@ -1,0 +1,240 @@
+#include "beam/BeamDrawings.h"
+
+#include "common/NumberText.h"
+#include "controls/DrawingLayout.h"
+#include "measures/FeetInchFormatting.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Tensarix {
+
+namespace {
+
+using namespace Drawn;
+
+constexpr std::string_view twoDecimals = "0.00";
+constexpr std::array methods{BeamMethod::ASD9th, BeamMethod::ASD13th, BeamMethod::LRFD13th};
+
+std::string Length_Text(double feet) {
+    return Format_FeetInch(feet, Sixteenths, 0, 0);
+}
+std::string Kips(double value) {
+    return Format_Number(value, twoDecimals) + " Kips";
+}
+
+bool Has_Load(const BeamLoad& load) {
+    return load.SpanFeet > 0 && load.LoadKipsPerFoot > 0 && std::isfinite(load.LoadKipsPerFoot);
+}
+
+// The heights of the drawing, in parts of the span.
+constexpr double loadTop = 0.10, beamDepth = 0.012, supportDepth = 0.035;
+constexpr double reactionTail = -0.17, spanLine = -0.21;
+constexpr double shearAxis = -0.40, shearHeight = 0.10;
+constexpr double momentAxis = -0.72, momentHeight = 0.14;
+constexpr int loadArrows = 11, parabolaPieces = 24;
+
+void Add_Beam(Drawing& drawing, double span) {
+    const auto corner = [span](double x, double y) { return Corner{{x, y * span}}; };
+    drawing.Add(Outline{{{corner(0, -beamDepth), corner(span, -beamDepth), corner(span, beamDepth),
+                          corner(0, beamDepth)}}});
+    const double half = supportDepth / 2 * span;
+    for (const double x : {0.0, span})
+        drawing.Add(Outline{{{corner(x, -beamDepth), corner(x - half, -beamDepth - supportDepth),
+                              corner(x + half, -beamDepth - supportDepth)}}});
+}
+
+void Add_Load(Drawing& drawing, double span, const std::string& words) {
+    const double top = loadTop * span;
+    drawing.Add(Line{{0, top}, {span, top}}, Ink::Force);
+    for (int i = 0; i < loadArrows; ++i) {
+        const double x = span * i / (loadArrows - 1);
+        drawing.Add(Arrow{{x, top}, {x, beamDepth * span}}, Ink::Force);
+    }
+    drawing.Add(Label{{span / 2, top}, words}, Ink::Force, "w");
+}
+
+void Add_Reactions(Drawing& drawing, double span, const std::string& words) {
+    for (const double x : {0.0, span})
+        drawing.Add(Arrow{{x, reactionTail * span}, {x, -(beamDepth + supportDepth) * span}, words},
+                    Ink::Force, "R");
+}
+
+// Up on the left, down on the right.
+void Add_Shear(Drawing& drawing, double span, const std::string& words) {
+    const double axis = shearAxis * span, height = shearHeight * span;
+    drawing.Add(Outline{{{{{0, axis}}, {{0, axis + height}}, {{span / 2, axis}}},
+                         {{{span / 2, axis}}, {{span, axis - height}}, {{span, axis}}}}},
+                Ink::Quiet);
+    drawing.Add(Line{{0, axis}, {span, axis}}, Ink::Body);
+    drawing.Add(Label{{0.12 * span, axis + height}, words}, Ink::Measure, "V");
+}
+
+void Add_Moment(Drawing& drawing, double span, const std::string& words) {
+    const double axis = momentAxis * span, height = momentHeight * span;
+    Ring ring;
+    for (int i = 0; i <= parabolaPieces; ++i) {
+        const double part = static_cast<double>(i) / parabolaPieces;
+        ring.push_back({{part * span, axis + 4 * part * (1 - part) * height}});
+    }
+    drawing.Add(Outline{{std::move(ring)}}, Ink::Quiet);
+    drawing.Add(Line{{0, axis}, {span, axis}}, Ink::Body);
+    drawing.Add(Label{{span / 2, axis + height}, words}, Ink::Measure, "M");
+}
+
+// The least round number that is not below a value, by the steps of an axis.
+double Round_Up(double value) {
+    const double step = Round_Step(value / 6);
+    return std::ceil(value / step) * step;
+}
+
+BeamInput At_Span(BeamInput input, double span) {
+    input.TypedSpanFeet = span;
+    return input;
+}
+
+Curve Bending_Branch(BeamMethod method, const BeamInput& input, double from, double to) {
+    constexpr int pieces = 48;
+    Curve curve;
+    for (int i = 0; i <= pieces && from > 0 && from < to; ++i) {
+        const double span = from * std::pow(to / from, static_cast<double>(i) / pieces);
+        curve.Points.push_back({span, Beam_Load(method, At_Span(input, span)).LoadKipsPerFoot});
+    }
+    return curve;
+}
+
+// Of the curves of a plot: the method's own is solid, the other two differ.
+Pattern Pattern_Of(BeamMethod method, BeamMethod own) {
+    if (method == own)
+        return Pattern::Solid;
+    const bool first = method == (own == methods.front() ? methods[1] : methods.front());
+    return first ? Pattern::DashDot : Pattern::Dashed;
+}
+
+void Add_Other(Drawing& drawing, BeamMethod method, const BeamInput& input, Pattern dash) {
+    const BeamLoad boundary = Beam_Load(method, At_Span(input, 0));
+    Curve curve = Bending_Branch(method, input, boundary.BoundaryFeet, drawing.Frame->XTo);
+    curve.Points.insert(curve.Points.begin(), {0, boundary.LoadKipsPerFoot});
+    curve.Dash = dash;
+    drawing.Add(std::move(curve), Ink::Quiet, std::string{Method_Name(method)});
+}
+
+// In the upper right, which the falling curves leave free.
+void Add_Legend(Drawing& drawing, BeamMethod method) {
+    constexpr double left = 0.50, right = 0.62, top = 0.93, rowHeight = 0.13; // of the frame
+    const Axes& frame = *drawing.Frame;
+    double y = top;
+    for (const BeamMethod each : methods) {
+        const Ink ink = each == method ? Ink::Body : Ink::Quiet;
+        const Point from{left * frame.XTo, y * frame.YTo}, to{right * frame.XTo, y * frame.YTo};
+        const std::string name{Method_Name(each)};
+        drawing.Add(Curve{{from, to}, {}, Pattern_Of(each, method)}, ink, name);
+        drawing.Add(Label{to, name}, ink, name);
+        y -= rowHeight;
+    }
+}
+
+Axes Frame_Of(const BeamInput& input, const BeamLoad& present) {
+    double load = 0;
+    for (const BeamMethod method : methods)
+        load = std::max(load, Beam_Load(method, At_Span(input, 0)).LoadKipsPerFoot);
+    return {0,          Round_Up(std::max(2.2 * present.BoundaryFeet, 1.25 * present.SpanFeet)),
+            0,          Round_Up(1.05 * load),
+            "Span, ft", "w, Kip/ft"};
+}
+
+} // namespace
+
+std::string_view Method_Name(BeamMethod method) {
+    switch (method) {
+    case BeamMethod::ASD9th:
+        return "9th Edition";
+    case BeamMethod::ASD13th:
+        return "13th Edition, ASD";
+    case BeamMethod::LRFD13th:
+        break;
+    }
+    return "13th Edition, LRFD";
+}
+
+BeamLoad Beam_Load(BeamMethod method, const BeamInput& input) {
+    if (method == BeamMethod::ASD9th)
+        return Beam_Load_9th(input);
+    return Beam_Load_13th(input,
+                          method == BeamMethod::ASD13th ? DesignMethod::ASD : DesignMethod::LRFD);
+}
+
+Drawing Beam_Under_Load(const BeamLoad& load, double magnification) {
+    const bool known = Has_Load(load);
+    const double span = known ? load.SpanFeet : 1;
+    const auto words = [known](const std::string& symbol, const std::string& value) {
+        return known ? symbol + " = " + value : symbol;
+    };
+    const double shear = load.EndReactionKips;
+    const double moment = load.LoadKipsPerFoot * span * span / 8;
+    const std::string w = words("w", Format_Number(load.LoadKipsPerFoot, twoDecimals) + " Kip/ft");
+    const std::string R = words("R", Kips((1 + magnification) * shear));
+    const std::string V = words("V", Kips(shear));
+    const std::string M = words("M", Format_Number(moment, twoDecimals) + " Kip-ft");
+    Drawing drawing;
+    drawing.Sentence = "A simply supported beam under a uniform load";
+    if (known)
+        drawing.Sentence += ": span " + Length_Text(span) + ", " + w + ", end reaction " + R +
+                            ", shear at the ends " + V + ", moment in the middle " + M;
+    Add_Load(drawing, span, w);
+    Add_Beam(drawing, span);
+    Add_Reactions(drawing, span, R);
+    drawing.Add(Dimension{{0, spanLine * span},
+                          {span, spanLine * span},
+                          Side::Inside,
+                          "Span",
+                          known ? Length_Text(span) : ""},
+                Ink::Measure, "Span");
+    Add_Shear(drawing, span, V);
+    Add_Moment(drawing, span, M);
+    return drawing;
+}
+
+Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamLoad& present) {
+    Drawing drawing;
+    const BeamLoad boundary = Beam_Load(method, At_Span(input, 0));
+    if (!Has_Load(present) || !Has_Load(boundary))
+        return drawing;
+    drawing.Frame = Frame_Of(input, present);
+    // Below the boundary the rules keep the load of the boundary.
+    for (const BeamMethod other : methods)
+        if (other != method)
+            Add_Other(drawing, other, input, Pattern_Of(other, method));
+    const double Lv = boundary.BoundaryFeet;
+    const double highest = boundary.LoadKipsPerFoot;
+    drawing.Add(Curve{{{0, highest}, {Lv, highest}}}, Ink::Body, "Shear");
+    drawing.Add(Bending_Branch(method, input, Lv, drawing.Frame->XTo), Ink::Body, "Bending");
+    drawing.Add(CentreLine{{Lv, 0}, {Lv, highest}}, Ink::Axis, "Boundary");
+    const std::string point = Length_Text(present.SpanFeet) +
+                              ": w = " + Format_Number(present.LoadKipsPerFoot, twoDecimals);
+    drawing.Add(Mark{{present.SpanFeet, present.LoadKipsPerFoot}, MarkKind::Dot, point},
+                Ink::Result, "Present");
+    Add_Legend(drawing, method);
+    drawing.Add(Label{{0, 0.82 * highest}, "Shear governs"}, Ink::Body, "Shear");
+    const double middle = std::sqrt(Lv * drawing.Frame->XTo);
+    drawing.Add(Label{{middle, Beam_Load(method, At_Span(input, middle)).LoadKipsPerFoot},
+                      "Bending governs"},
+                Ink::Body, "Bending");
+    drawing.Add(Label{{Lv, highest / 8}, "Boundary " + Length_Text(Lv)}, Ink::Axis, "Boundary");
+    drawing.Sentence = "Allowable load against span by the " + std::string{Method_Name(method)} +
+                       ": shear governs up to " + Length_Text(Lv) + ", bending beyond; at " +
+                       point + " Kip/ft";
+    return drawing;
+}
+
+std::string Load_At_Span(BeamMethod method, const BeamInput& input, double span) {
+    const BeamLoad load = Beam_Load(method, At_Span(input, span));
+    if (!(span > 0) || !Has_Load(load))
+        return {};
+    return Length_Text(span) + ": w = " + Format_Number(load.LoadKipsPerFoot, twoDecimals) +
+           " Kip/ft by the " + std::string{Method_Name(method)} +
+           (span < load.BoundaryFeet ? ", shear governs" : "");
+}
+
+} // namespace Tensarix
