@@ -55,10 +55,10 @@ struct BoltSearch {
     BoltPass pass{};
 
     double Gap() const { return std::abs(Pm - Pv); }
-    double C() const {
+    BoltSearchEnd End() const {
         double mean = 0;
         Keep(mean, (Pm + Pv) / 2);
-        return mean;
+        return {mean, Ro};
     }
     void Take_Pass() {
         Take_Bolt_Pass(bolts, Ro, pass, yield);
@@ -80,14 +80,14 @@ struct BoltSearch {
 // pass until both loads are near m n: hundreds of thousands of passes. Far outside the group the
 // gap between them falls as 1 / Ro, so the end is a few secants (in 1 / Ro, through 0) away. None
 // where they don't settle.
-std::optional<double> C_At_Far_End(BoltSearch search) {
+std::optional<BoltSearchEnd> Far_End(BoltSearch search) {
     constexpr int mostSecants = 30;
     // In groups of thousands rounding moves the gap by more than the first part.
     const double settled = 1e-6 + 1e-9 * static_cast<double>(search.bolts.size());
     for (int k = 0; k < mostSecants && search.Pm < search.Pv; ++k) {
         const double part = search.Gap() / boltTolerance;
         if (std::abs(part - 1) <= settled)
-            return search.C();
+            return search.End();
         search.Ro *= part;
         search.yield();
         search.Take_Pass();
@@ -99,7 +99,7 @@ bool Has_Passed_The_Centre(const BoltSearch& search, double reach) {
     return search.Pm < search.Pv && search.Ro > farOutside * reach && search.Ro < ordinaryReach;
 }
 
-double Search(std::vector<TurnedBolt>& bolts, double e, SearchYield& yield) {
+BoltSearchEnd Search(std::vector<TurnedBolt>& bolts, double e, SearchYield& yield) {
     const double reach = Reach_Of(bolts);
     BoltSearch search{bolts, e, yield};
     bool looked = false;
@@ -107,14 +107,14 @@ double Search(std::vector<TurnedBolt>& bolts, double e, SearchYield& yield) {
     while (search.Gap() > boltTolerance) {
         if (!looked && Has_Passed_The_Centre(search, reach)) {
             looked = true;
-            if (const auto C = C_At_Far_End(search))
-                return *C;
+            if (const auto end = Far_End(search))
+                return *end;
         }
         search.Step();
         search.Take_Pass();
     }
     yield();
-    return search.C();
+    return search.End();
 }
 
 } // namespace
@@ -123,18 +123,22 @@ double Bolt_Force(double deformation) {
     return ultimateBoltForce * std::pow(1 - std::exp(boltExponentFactor * deformation), boltPower);
 }
 
-double BoltCoefficientC(const BoltGroup& group, double ex, double angle, SearchYield& yield) {
+BoltSearchEnd Search_Bolts(const BoltGroup& group, double ex, double angle, SearchYield& yield) {
     const std::int32_t mn = std::int32_t{group.m} * group.n;
     double theta = 0, e = 0;
     Keep(theta, (angle * pi) / 180);
     Keep(e, std::cos(theta) * ex);
     if (e == 0)
-        return mn;
+        return {static_cast<double>(mn), 0};
     // Without an array every step of the one pass fails or adds 0.
     if (mn <= 0 || mn > mostBolts)
-        return 0;
+        return {};
     std::vector<TurnedBolt> bolts = Turned(group, theta);
     return Search(bolts, std::abs(e), yield);
+}
+
+double BoltCoefficientC(const BoltGroup& group, double ex, double angle, SearchYield& yield) {
+    return Search_Bolts(group, ex, angle, yield).C;
 }
 
 // Unlike C, measured from the centroid and with the plain force term: the farthest bolt counts

@@ -34,6 +34,11 @@ inline constexpr std::int32_t mostBolts = 1 << 21;
 // once a pass, in groups of thousands more often. Never fails; throws SearchAbandoned if the yield
 // says so.
 double BoltCoefficientC(const BoltGroup& group, double ex, double angle, SearchYield& yield);
+// The same, with the distance of the centre at which the search ended; 0 without a search.
+struct BoltSearchEnd {
+    double C = 0, Ro = 0;
+};
+BoltSearchEnd Search_Bolts(const BoltGroup& group, double ex, double angle, SearchYield& yield);
 
 // C': the pure-moment coefficient about the centroid, in the unit of length. Never fails.
 double BoltCoefficientCPrime(const BoltGroup& group);

@@ -4,9 +4,11 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "connections/Balance.h"
+#include "connections/BoltDrawing.h"
 #include "connections/SearchYield.h"
 #include "measures/InputFunction.h"
 
+#include <algorithm>
 #include <system_error>
 
 namespace Tensarix {
@@ -193,6 +195,43 @@ void BoltPage::Show_Selected() {
         xxFlex.Set_Text(i, 1, With_Blanks(text(col), col == BoltColumn::Angle ? "°  " : "  "));
     }
     RowRemark.Set_Caption(cFlex.Remark(row, BoltColumn::C));
+    Draw_Group();
+}
+
+// Where the search's own centre ends; none if that takes longer than a drawing may.
+std::optional<double> BoltPage::Search_Centre(const Inputs& inputs) {
+    constexpr int mostPasses = 500, mostBoltPasses = 40000;
+    const int bolts = std::max(1, inputs.Group.m * inputs.Group.n);
+    int left = std::min(mostPasses, mostBoltPasses / bolts);
+    auto turn = [&left] { return --left > 0; };
+    SearchYield yield{turn};
+    try {
+        return Search_Bolts(inputs.Group, inputs.ex, inputs.Angle, yield).Ro;
+    } catch (const SearchAbandoned&) {
+        return std::nullopt;
+    }
+}
+
+void BoltPage::Draw_Group() {
+    const int row = cFlex.Row();
+    BoltPicture picture;
+    const auto take = [this, row](std::optional<double>& target, int col) {
+        const std::string text = Trim(cFlex.Text(row, col));
+        if (!text.empty())
+            Attempt([&] { target = Leading_Value(text); });
+    };
+    take(picture.m, BoltColumn::m);
+    take(picture.n, BoltColumn::n);
+    take(picture.sv, BoltColumn::sv);
+    take(picture.sh, BoltColumn::sh);
+    take(picture.ex, BoltColumn::ex);
+    take(picture.Angle, BoltColumn::Angle);
+    if (IsBoltRowComplete(cFlex, row)) {
+        const Inputs inputs = Row_Inputs(row);
+        picture.Balanced = Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle);
+        picture.SearchRo = Search_Centre(inputs);
+    }
+    GroupSketch.Set_Drawing(Bolt_Group_Drawing(picture));
 }
 
 // Each number of its own; one that is out of range stays 0.

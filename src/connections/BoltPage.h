@@ -6,11 +6,13 @@
 #include "connections/DataHandling.h"
 #include "controls/CellEditing.h"
 #include "controls/Controls.h"
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,6 +46,7 @@ class BoltPage {
     FlexGrid cFlex;          // the table
     FlexGrid ccFlex, xxFlex; // the current row once more
     Label RowRemark;         // what is to be said about it
+    DrawingBox GroupSketch;  // its group
     TextBox EdiTxt;          // over the cell that is being edited
     Button AddRowButton, RemRowButton, SaveButton, ClearButton;
 
@@ -71,6 +74,8 @@ class BoltPage {
 
     void Add_Editing();
     void Show_Selected(); // the current row in the small grids
+    void Draw_Group();
+    static std::optional<double> Search_Centre(const Inputs& inputs);
     void Take_Row_Count();
     void Lay_Out_Row(int row);
     void AddRow_Click();

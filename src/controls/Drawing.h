@@ -125,9 +125,7 @@ struct Drawing {
     std::string ScaleUnit = {};          // of a scale bar with a round number; empty: no bar
     std::optional<Drawn::Axes> Frame = {};
 
-    void Add(Drawn::Shape what, Drawn::Ink in = Drawn::Ink::Body, std::string name = {}) {
-        Parts.push_back({std::move(what), in, std::move(name)});
-    }
+    void Add(Drawn::Shape what, Drawn::Ink in = Drawn::Ink::Body, std::string name = {});
     bool Empty() const { return Parts.empty() && !Frame; }
 };
 

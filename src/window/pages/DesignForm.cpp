@@ -4,6 +4,7 @@
 #include "ui_WeldForm.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
+#include "window/drawing/DrawingView.h"
 #include "window/grid/CellOverlay.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@ namespace {
 constexpr int remarkLines = 4;
 const QString widestResult = QStringLiteral("** 000.00000   ");
 constexpr int remarkWidth = 30; // average characters
+constexpr int drawingWidth = 40, drawingLines = 14;
 
 // A small grid shows whole.
 void Show_Whole(GridView* view) {
@@ -33,6 +35,12 @@ void Keep_Width(QLabel* remark) {
     remark->setMinimumWidth(remarkWidth * remark->fontMetrics().averageCharWidth());
 }
 
+// A drawing is never smaller than its texts need.
+void Keep_Room(DrawingView* drawing) {
+    drawing->setMinimumSize(drawingWidth * drawing->fontMetrics().averageCharWidth(),
+                            drawingLines * drawing->fontMetrics().lineSpacing());
+}
+
 QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     auto* form = new FittingPage(parent);
     Ui::BoltForm ui;
@@ -44,6 +52,8 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     Bind(ui.xxFlex, page.xxFlex);
     Show_Whole(ui.ccFlex);
     Show_Whole(ui.xxFlex);
+    Bind(ui.GroupSketch, page.GroupSketch);
+    Keep_Room(ui.GroupSketch);
     Bind(ui.RowRemark, page.RowRemark);
     Keep_Width(ui.RowRemark);
     Bind(ui.AddRowButton, page.AddRowButton);
