@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034 # what it sets is used where it is sourced
 # What the scripts share: the packages, and one build of a preset.
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-svg-dev libgl-dev \
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-svg-dev libgl-dev \
 libsqlite3-dev libgtest-dev libbenchmark-dev fonts-dejavu-core"
 SPEECH_PACKAGES="speech-dispatcher speech-dispatcher-espeak-ng"
 TEST_PACKAGES="xvfb xauth dpkg-dev file desktop-file-utils appstream xdotool xclip"

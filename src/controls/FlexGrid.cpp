@@ -86,6 +86,7 @@ const std::string& FlexGrid::Text(int row, int col) const {
 }
 
 void FlexGrid::Set_Text(int row, int col, std::string text) {
+    ++textsVersion_;
     cells_[At(row, col)].Text = std::move(text);
     if (!remarks_.empty())
         remarks_.erase({row, col});

@@ -133,6 +133,8 @@ class FlexGrid {
 
     // Counts the changes of size, heights and widths, so that a view knows when to measure again.
     unsigned Layout_Version() const { return layoutVersion_; }
+    // Counts the writings of texts: what a view knows of their widths may no longer hold.
+    unsigned Texts_Version() const { return textsVersion_; }
 
   private:
     struct Cell {
@@ -154,7 +156,7 @@ class FlexGrid {
     double heightMin_ = 0;
     bool wordWrap_ = false, highlight_ = true;
     Placement place_;
-    unsigned layoutVersion_ = 0;
+    unsigned layoutVersion_ = 0, textsVersion_ = 0;
 };
 
 } // namespace Tensarix

@@ -5,6 +5,8 @@
 #include "window/KeyCodes.h"
 #include "window/Link.h"
 #include "window/MouseWatch.h"
+#include "window/RefusedKey.h"
+#include "window/RemarkLook.h"
 #include "window/Theme.h"
 #include "window/drawing/PictureView.h"
 
@@ -166,6 +168,8 @@ class ComboKeys final : public QObject {
         if (character == 0)
             return false;
         const int kept = control_.OnKeyPress(character);
+        if (kept == 0)
+            Answer_Refused_Key(character);
         if (kept != 0 && Is_Pad_Separator(*event)) {
             widget_->lineEdit()->insert(QChar(kept));
             emit widget_->lineEdit()->textEdited(widget_->lineEdit()->text());
@@ -245,6 +249,8 @@ class TextKeys final : public QObject {
         if (character == 0)
             return false;
         const int kept = control_.OnKeyPress ? control_.OnKeyPress(character) : character;
+        if (kept == 0)
+            Answer_Refused_Key(character);
         if (kept != 0 && Is_Pad_Separator(*event)) {
             widget_->insert(QChar(kept));
             emit widget_->textEdited(widget_->text());
@@ -352,9 +358,16 @@ void Bind(QAbstractButton* widget, OptionButton& control) {
 
 void Bind(QLabel* widget, Label& control) {
     const bool stop = (widget->focusPolicy() & Qt::TabFocus) != 0;
-    new Link(widget, control.Shown, [widget, stop, &control] {
-        widget->setText(To_Qt(control.Caption()));
-        widget->setToolTip(To_Qt(control.Remark()));
+    const QString described = widget->accessibleDescription();
+    new Link(widget, control.Shown, [widget, stop, described, &control] {
+        QString text = To_Qt(control.Caption());
+        if (widget->wordWrap()) // a sign alone on the next line is read as nothing
+            text.replace(QStringLiteral(" %"), QStringLiteral("\u00A0%"));
+        widget->setText(text);
+        widget->setToolTip(Tip_Text(Remark_In_Words(control.Remark(), control.Remark_Weight())));
+        Show_Weight(*widget, control.Caption_Weight());
+        widget->setAccessibleDescription(
+            Remark_In_Words(described.toStdString(), control.Caption_Weight()));
         if (stop) // there is nothing to be seen in an empty one
             widget->setFocusPolicy(control.Caption().empty() ? Qt::ClickFocus : Qt::StrongFocus);
     });
@@ -393,6 +406,10 @@ void Bind(QLineEdit* widget, ResultBox& control) {
         if (control.Fore() != Colours::Standard)
             palette.setColor(QPalette::Text, Shown_Colour(control.Fore(), palette));
         widget->setPalette(palette);
+        Show_Weight(*widget, control.Remark_Weight());
+        const QString remark = Remark_In_Words(control.Remark(), control.Remark_Weight());
+        widget->setToolTip(Tip_Text(remark));
+        widget->setAccessibleDescription(remark);
     });
 }
 
@@ -425,9 +442,10 @@ void Bind(QStatusBar* widget, StatusBar& control) {
     QLabel* count = panel("CountPanel", "Count", 0);
     new Link(widget, control.Shown, [panel1, remark, count, &control] {
         panel1->setText(To_Qt(control.Panel1()));
-        panel1->setToolTip(panel1->text().trimmed());
-        remark->setText(To_Qt(control.Remark()));
-        remark->setToolTip(remark->text());
+        panel1->setToolTip(Tip_Text(panel1->text().trimmed()));
+        remark->setText(Remark_In_Words(control.Remark(), control.Remark_Weight()));
+        remark->setToolTip(Tip_Text(remark->text()));
+        Show_Weight(*remark, control.Remark_Weight());
         remark->setVisible(!remark->text().isEmpty()); // leaves its room to the selection
         count->setText(To_Qt(control.Count()));
         count->setMinimumWidth(count->sizeHint().width()); // short, and never cut

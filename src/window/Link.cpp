@@ -36,10 +36,17 @@ void Link::Mark() {
 }
 
 void Link::Flush() {
-    if (!due_)
+    if (!due_ || held_)
         return;
     due_ = false;
     pull_();
+}
+
+void Link::Flush_After(const std::function<void()>& work) {
+    held_ = true;
+    work();
+    held_ = false;
+    Flush();
 }
 
 bool Link::eventFilter(QObject*, QEvent* event) {

@@ -21,6 +21,8 @@ class Link : public QObject {
     void Also(std::function<void()> pull);
     // Takes over the state now, if it has changed.
     void Flush();
+    // Does something first, during which nothing is taken over.
+    void Flush_After(const std::function<void()>& work);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -30,7 +32,7 @@ class Link : public QObject {
 
     View& view_;
     std::function<void()> pull_;
-    bool due_ = false;
+    bool due_ = false, held_ = false;
 };
 
 // Gives focus changes of the widget to the control, and those of the control to the widget. A

@@ -5,6 +5,7 @@
 #include "window/ProgramStyle.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/pages/AboutDialog.h"
+#include "window/pages/ReportText.h"
 #include "window/pages/WtCalcsDialog.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ void Program::Prepare_Application() {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tensarix.svg")));
     QApplication::setKeyboardInputInterval(typedSearchMs);
     QLocale::setDefault(QLocale::c());
+    Let_Reports_Be_Read();
 }
 
 Program::Program(const Folders& folders, std::unique_ptr<Clock> clock)

@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QToolTip>
 
@@ -130,6 +131,15 @@ class AccessGate : public WindowTest {
              }))
             if (Accessible_Text(*widget, QAccessible::Name).isEmpty())
                 Offend(widget, QStringLiteral("has no name"));
+        // The name of these is their text, on a real desktop.
+        for (QWidget* widget : Visible(top, [](const QWidget& candidate) {
+                 return qobject_cast<const QComboBox*>(&candidate) ||
+                        qobject_cast<const QRadioButton*>(&candidate);
+             }))
+            if (QAccessible::queryAccessibleInterface(widget)
+                    ->relations(QAccessible::Label)
+                    .isEmpty())
+                Offend(widget, QStringLiteral("no label says what it stands for"));
         for (QLabel* label : Visible<QLabel>(top, [](const QLabel& candidate) {
                  return !candidate.text().isEmpty() && candidate.textFormat() != Qt::RichText;
              }))
@@ -318,6 +328,9 @@ TEST_F(AccessGate, TablesTellTheirHeads) {
         EXPECT_EQ(table->rowDescription(row - heads).toStdString(), grid.Text(row, 0));
         for (int col = 0; heads > 0 && col < grid.Cols(); ++col)
             EXPECT_EQ(table->columnDescription(col).toStdString(), grid.Text(0, col));
+        if (heads == 0) {
+            EXPECT_EQ(table->columnDescription(1), "Value");
+        }
         QAccessibleInterface* const cell = table->cellAt(row - heads, 1);
         EXPECT_EQ(cell->text(QAccessible::Name).toStdString(), grid.Text(row, 1));
         EXPECT_EQ(cell->text(QAccessible::Description), "doubtful");

@@ -59,6 +59,18 @@ class BeamWindowTest : public WindowTest {
 
 } // namespace
 
+TEST_F(BeamWindowTest, TheFirstClickIntoABoxChoosesItsText) {
+    auto& box = Find<QLineEdit>("BeamSpanBox");
+    program->Form().Beam.BeamSpanBox.Set_Text("25'");
+    Settle();
+    Find<QComboBox>("FyBox").setFocus();
+    QTest::mouseClick(&box, Qt::LeftButton);
+    EXPECT_EQ(box.selectedText(), box.text());
+    EXPECT_EQ(box.text(), "25'-0\"");
+    QTest::mouseClick(&box, Qt::LeftButton);
+    EXPECT_FALSE(box.hasSelectedText());
+}
+
 TEST_F(BeamWindowTest, ASpanIsTypedAndTheNextCodeChosenByKeys) {
     Type_Span("a25'x-6 1/4"); // letters vanish
     EXPECT_EQ(Span().text(), "25'-6 1/4");

@@ -126,10 +126,7 @@ TEST_F(EditedGrid, TheEditorLiesOverItsCellAtAnyFontAndAlignsAsItDoes) {
         Key(Qt::Key_F2);
         const QRect cell = view->Cell_Rect(1, 2);
         const QRect shown(line->mapTo(view, QPoint(0, 0)), line->size());
-        EXPECT_EQ(shown.left(), cell.left());
-        EXPECT_EQ(shown.right(), cell.right());
-        EXPECT_EQ(shown.bottom(), cell.bottom());
-        EXPECT_GT(shown.top(), cell.top());
+        EXPECT_EQ(shown, cell);
         EXPECT_TRUE(line->alignment().testFlag(flag));
         EXPECT_GE(shown.height(), line->fontMetrics().height());
         Key(Qt::Key_Escape);

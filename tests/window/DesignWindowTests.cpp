@@ -1,4 +1,5 @@
 // Connection Design through real keys, clicks and searches.
+#include "ScreenReader.h"
 #include "WindowTest.h"
 #include "window/grid/GridView.h"
 #include "window/pages/IconList.h"
@@ -232,4 +233,36 @@ TEST(ReportViewTest, LinesOfPieces) {
     box.Set_Text("x");
     view.Flush();
     EXPECT_EQ(view.Lines(), 1);
+}
+
+// A screen reader reads it line by line, and is told of new lines once, however often they come.
+TEST(ReportViewTest, TheReportIsAText) {
+    ReportBox box;
+    ReportView view;
+    Bind(&view, box);
+    const ScreenReader reader;
+    for (const char* piece : {"Ro = 30°\n", "two words\n", "\n", "end"}) {
+        box.Append(piece);
+        view.Flush();
+    }
+    EXPECT_EQ(ScreenReader::Told(), QStringList("text"));
+    auto* const text = QAccessible::queryAccessibleInterface(&view)->textInterface();
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->characterCount(), 23);
+    EXPECT_EQ(text->text(5, 12), QStringLiteral("30°\ntwo"));
+    const auto piece = [text](int at, QAccessible::TextBoundaryType boundary) {
+        int start = 0, end = 0;
+        const QString found = text->textAtOffset(at, boundary, &start, &end);
+        return QStringLiteral("%1-%2 %3").arg(start).arg(end).arg(found.trimmed());
+    };
+    EXPECT_EQ(piece(12, QAccessible::LineBoundary), "9-19 two words");
+    EXPECT_EQ(piece(14, QAccessible::WordBoundary), "13-19 words");
+    EXPECT_EQ(piece(22, QAccessible::CharBoundary), "22-23 d");
+    int start = 0, end = 0;
+    EXPECT_EQ(text->textAfterOffset(3, QAccessible::LineBoundary, &start, &end), "two words\n");
+    EXPECT_EQ(text->textBeforeOffset(21, QAccessible::LineBoundary, &start, &end), "\n");
+    text->setSelection(0, 10, 12);
+    text->selection(0, &start, &end);
+    EXPECT_EQ(text->text(start, end), "two words");
+    EXPECT_EQ(text->cursorPosition(), 9);
 }

@@ -189,7 +189,8 @@ class Inspection {
         const QAbstractItemModel& model = *grid.model();
         for (int col = 0; col < model.columnCount(); ++col) {
             const int width = grid.Cell_Rect(0, col).width();
-            for (int row = -1; row < model.rowCount(); ++row) {
+            const bool head = !grid.horizontalHeader()->isHidden();
+            for (int row = head ? -1 : 0; row < model.rowCount(); ++row) {
                 const auto value = [&](int role) {
                     return row < 0 ? model.headerData(col, Qt::Horizontal, role)
                                    : model.index(row, col).data(role);

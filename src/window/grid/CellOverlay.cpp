@@ -1,6 +1,7 @@
 #include "window/grid/CellOverlay.h"
 
 #include "window/Bind.h"
+#include "window/LabelOf.h"
 #include "window/Link.h"
 #include "window/grid/GridModel.h"
 #include "window/grid/GridView.h"
@@ -12,27 +13,23 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-#include <cmath>
 #include <functional>
 
 namespace Tensarix {
 
 namespace {
 
-constexpr double boxTopTwips = 55; // clear of the grid line above
-
 // Keeps one editor where its cell is.
 class CellOverlay final : public QObject {
   public:
     CellOverlay(GridView* view, const FlexGrid& grid, QWidget* editor, Link* link,
                 std::function<bool()> visible)
-        : QObject(editor), view_(view), grid_(grid), editor_(editor), visible_(std::move(visible)) {
+        : QObject(editor), view_(view), grid_(grid), editor_(editor), label_(Label_Of(editor)),
+          name_(editor->accessibleName()), visible_(std::move(visible)) {
         link->Also([this] { Place(); });
         view->viewport()->installEventFilter(this);
         editor->installEventFilter(this);
     }
-
-    double TopTwips = 0;
 
     void Place();
 
@@ -40,9 +37,13 @@ class CellOverlay final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void Name_By_Cell();
+
     GridView* view_;
     const FlexGrid& grid_;
     QWidget* editor_;
+    QLabel* label_;
+    QString name_;
     std::function<bool()> visible_;
 };
 
@@ -56,12 +57,29 @@ void CellOverlay::Place() {
     }
     QRect cell = view_->Cell_Rect(grid_.Row(), grid_.Col());
     cell.moveTopLeft(view_->viewport()->mapFrom(view_, cell.topLeft()));
-    cell.setTop(cell.top() + static_cast<int>(std::lround(TopTwips * view_->Twip_Scale())));
     if (editor_->geometry() != cell)
         editor_->setGeometry(cell);
     if (auto* box = qobject_cast<QLineEdit*>(editor_))
         box->setAlignment(Shown_Alignment(grid_.Style(grid_.Row(), grid_.Col()).Align));
+    Name_By_Cell();
     editor_->show();
+}
+
+// Whoever hears the editor hears where it is: "Bolt group input, row 3, Load Eccentricity".
+void CellOverlay::Name_By_Cell() {
+    QStringList name{name_};
+    const auto add = [this, &name](int row, int col, const QString& before) {
+        const QString text = QString::fromStdString(grid_.Text(row, col)).simplified();
+        if (!text.isEmpty())
+            name.append(before + text);
+    };
+    if (grid_.FixedCols() > 0)
+        add(grid_.Row(), 0, grid_.FixedRows() > 0 ? QStringLiteral("row ") : QString());
+    if (grid_.FixedRows() > 0)
+        add(0, grid_.Col(), {});
+    label_->setText(name.join(QStringLiteral(", ")));
+    if (editor_->accessibleName() != label_->text())
+        editor_->setAccessibleName(label_->text());
 }
 
 bool CellOverlay::eventFilter(QObject* watched, QEvent* event) {
@@ -111,11 +129,16 @@ class ColumnPaste final : public QObject {
 template <typename Widget, typename Control>
 CellOverlay* Overlay(GridView* view, const FlexGrid& grid, Widget* widget, Control& control) {
     Link* link = Bind(widget, control);
-    control.Focus.Take = [widget, link] {
-        link->Flush(); // a hidden widget takes no focus
-        widget->setFocus();
+    auto* overlay =
+        new CellOverlay(view, grid, widget, link, [&control] { return control.Visible(); });
+    // A hidden widget takes no focus; and what is typed arrives where the keyboard already is.
+    control.Focus.Take = [widget, link, overlay] {
+        link->Flush_After([widget, overlay] {
+            overlay->Place();
+            widget->setFocus();
+        });
     };
-    return new CellOverlay(view, grid, widget, link, [&control] { return control.Visible(); });
+    return overlay;
 }
 
 void Name(QWidget* widget, const QString& name, const QString& accessibleName) {
@@ -133,7 +156,6 @@ void Lay_Over(GridView* view, const FlexGrid& grid, TextBox& editor, const QStri
     widget->setFrame(false);
     CellOverlay* overlay = Overlay(view, grid, widget, editor);
     new ColumnPaste(widget, grid, editor);
-    overlay->TopTwips = boxTopTwips;
     overlay->Place();
 }
 

@@ -2,6 +2,7 @@
 #include "window/FocusFrame.h"
 #include "window/KeyCodes.h"
 #include "window/Link.h"
+#include "window/RefusedKey.h"
 #include "window/grid/GridView.h"
 
 #include <QApplication>
@@ -93,6 +94,8 @@ void GridView::Edit_Key(QKeyEvent* event) {
     if (character != 0 && grid_->OnKeyPress)
         grid_->OnKeyPress(character);
     if (!had || hasFocus()) {
+        if (grid_->OnKeyPress)
+            Answer_Refused_Key(character);
         event->ignore(); // the window's own shortcuts and default buttons
         return;
     }
@@ -120,6 +123,13 @@ bool GridView::event(QEvent* event) {
 // Who comes by the keyboard sees where he is.
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
+    QMetaObject::invokeMethod( // after the table itself has been told
+        this,
+        [this] {
+            if (hasFocus())
+                Tell_Current_Cell();
+        },
+        Qt::QueuedConnection);
     const bool byKey = event->reason() == Qt::TabFocusReason ||
                        event->reason() == Qt::BacktabFocusReason ||
                        event->reason() == Qt::ShortcutFocusReason;
@@ -131,7 +141,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
     Press(*this, event);
 }
 void GridView::mouseMoveEvent(QMouseEvent* event) {
-    Drag(*this, event);
+    Drag(event);
 }
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
     Release(event);
@@ -156,11 +166,11 @@ void GridView::Press(QTableView& pane, QMouseEvent* event) {
     link_->Flush();
 }
 
-void GridView::Drag(QTableView& pane, QMouseEvent* event) {
+void GridView::Drag(QMouseEvent* event) {
     const QPoint inside = mapFromGlobal(event->globalPosition().toPoint());
     if (grid_->OnMouseMove)
         grid_->OnMouseMove(inside.x() / Twip_Scale());
-    const QModelIndex index = pane.indexAt(event->position().toPoint());
+    const QModelIndex index = Index_At(inside); // also in the columns that the drag didn't begin in
     if ((event->buttons() & Qt::LeftButton) == 0 || !index.isValid())
         return;
     grid_->Extend_To(index.row() + grid_->FixedRows(), index.column());

@@ -1,12 +1,11 @@
 #include "window/grid/GridModel.h"
 
+#include "window/RemarkLook.h"
 #include "window/Theme.h"
 
 #include <QAbstractScrollArea>
 #include <QBrush>
-#include <QFont>
 #include <QPainter>
-#include <QPainterPath>
 #include <QWidget>
 
 #include <algorithm>
@@ -15,13 +14,9 @@ namespace Tensarix {
 
 namespace {
 
-constexpr int markSize = 6;
-
-QFont Cell_Font(QFont font, const CellStyle& style) {
-    if (style.Tahoma)
-        font.setFamilies({QStringLiteral("Tahoma"), font.family(), QStringLiteral("sans-serif")});
-    font.setBold(style.Bold);
-    return font;
+// A table without a head is names and their values.
+QString Unseen_Head(bool fixed) {
+    return fixed ? QStringLiteral("Name") : QStringLiteral("Value");
 }
 
 // What is cut off a number makes another one: in a cell that reaches over the edge of what shows of
@@ -35,6 +30,13 @@ QRect Place_In_View(const QStyleOptionViewItem& option) {
 }
 
 } // namespace
+
+QFont Cell_Font(QFont font, const CellStyle& style) {
+    if (style.Tahoma)
+        font.setFamilies({QStringLiteral("Tahoma"), font.family(), QStringLiteral("sans-serif")});
+    font.setBold(style.Bold);
+    return font;
+}
 
 Qt::Alignment Shown_Alignment(Alignment alignment) {
     const Qt::Alignment horizontal = alignment == Alignment::Left     ? Qt::AlignLeft
@@ -83,8 +85,11 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     const bool head = orientation == Qt::Horizontal;
     const int row = head ? 0 : section + grid_.FixedRows();
     const int col = head ? section : 0;
-    if (row >= grid_.Rows() || col >= grid_.Cols() || (head && grid_.FixedRows() == 0))
+    if (row >= grid_.Rows() || col >= grid_.Cols())
         return {};
+    if (head && grid_.FixedRows() == 0)
+        return role == Qt::DisplayRole ? QVariant(Unseen_Head(col < grid_.FixedCols()))
+                                       : QVariant();
     return Cell(row, col, role);
 }
 
@@ -105,30 +110,50 @@ QVariant GridModel::Cell(int row, int col, int role) const {
             return QBrush(Shown_Colour(style.Fore, view_->palette()));
         return {};
     case Qt::BackgroundRole:
-        if (style.Back != Colours::Standard)
-            return QBrush(Shown_Colour(style.Back, view_->palette()));
-        return {};
+        return Ground(row, col);
     case Qt::ToolTipRole:
+        return Tip_Text(Description(row, col));
     case Qt::AccessibleDescriptionRole:
+        return Description(row, col);
     case RemarkRole:
         if (const std::string& remark = grid_.Remark(row, col); !remark.empty())
             return QString::fromStdString(remark);
         return {};
+    case WeightRole:
+        return static_cast<int>(grid_.Remark_Weight(row, col));
+    case UnsafeRowRole:
+        return col < grid_.FixedCols() && Has_Unsafe(row);
     default:
         return {};
     }
 }
 
-void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& palette) {
-    const QPoint corner = cell.topRight() + QPoint(1, 0);
-    QPainterPath mark(corner);
-    mark.lineTo(corner - QPoint(markSize, 0));
-    mark.lineTo(corner + QPoint(0, markSize));
-    mark.closeSubpath();
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(mark, Shown_Colour(Colours::HeadText, palette));
-    painter.restore();
+QVariant GridModel::Ground(int row, int col) const {
+    const CellStyle& style = grid_.Style(row, col);
+    const bool head = row < grid_.FixedRows();
+    if (const RemarkWeight weight = grid_.Remark_Weight(row, col);
+        weight != RemarkWeight::Note && !head)
+        return QBrush(Remark_Ground(weight, view_->palette()));
+    if (style.Back != Colours::Standard)
+        return QBrush(Shown_Colour(style.Back, view_->palette()));
+    if (row == grid_.Row() && !head && grid_.Highlight())
+        return QBrush(Current_Row_Ground(view_->palette()));
+    return {};
+}
+
+// The cell with the row's name tells what its sign shows.
+QString GridModel::Description(int row, int col) const {
+    const std::string& remark = grid_.Remark(row, col);
+    if (remark.empty() && col < grid_.FixedCols() && Has_Unsafe(row))
+        return QStringLiteral("Unsafe: a number in this row");
+    return Remark_In_Words(remark, grid_.Remark_Weight(row, col));
+}
+
+bool GridModel::Has_Unsafe(int row) const {
+    for (int col = 0; row >= grid_.FixedRows() && col < grid_.Cols(); ++col)
+        if (grid_.Remark_Weight(row, col) == RemarkWeight::Unsafe)
+            return true;
+    return false;
 }
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -141,7 +166,10 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     if (index.data(GridModel::RemarkRole).isValid())
-        Paint_Remark_Mark(*painter, option.rect, option.palette);
+        Paint_Remark_Mark(*painter, option.rect,
+                          RemarkWeight(index.data(GridModel::WeightRole).toInt()), option.palette);
+    if (index.data(GridModel::UnsafeRowRole).toBool())
+        Paint_Unsafe_Sign(*painter, option.rect, option.palette);
 }
 
 } // namespace Tensarix

@@ -4,6 +4,7 @@
 #include "controls/FlexGrid.h"
 
 #include <QAbstractTableModel>
+#include <QFont>
 #include <QStyledItemDelegate>
 
 class QWidget;
@@ -14,7 +15,11 @@ class GridModel final : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    enum { RemarkRole = Qt::UserRole };
+    enum {
+        RemarkRole = Qt::UserRole,
+        WeightRole,   // of the remark, a number
+        UnsafeRowRole // of a cell in the fixed columns: something in its row is unsafe
+    };
 
     GridModel(const FlexGrid& grid, QWidget* view);
 
@@ -31,6 +36,9 @@ class GridModel final : public QAbstractTableModel {
 
   private:
     QVariant Cell(int row, int col, int role) const;
+    QVariant Ground(int row, int col) const;
+    QString Description(int row, int col) const;
+    bool Has_Unsafe(int row) const;
 
     const FlexGrid& grid_;
     QWidget* view_;
@@ -39,10 +47,10 @@ class GridModel final : public QAbstractTableModel {
 
 Qt::Alignment Shown_Alignment(Alignment alignment);
 
-// The quiet mark in the corner of a cell or head that carries a remark.
-void Paint_Remark_Mark(QPainter& painter, const QRect& cell, const QPalette& palette);
+// The font of the view, as the cell wants it.
+QFont Cell_Font(QFont font, const CellStyle& style);
 
-// Paints a cell, with a quiet mark in the corner of one that carries a remark.
+// Paints a cell, with the looks of its remark.
 class GridDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -5,6 +5,7 @@
 #include "window/grid/GridModel.h"
 #include "window/grid/HeadView.h"
 
+#include <QAccessible>
 #include <QItemSelection>
 #include <QMouseEvent>
 #include <QRegularExpression>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace Tensarix {
 
@@ -24,13 +26,43 @@ constexpr int cellMargin = 12;
 constexpr int leastRows = 3;
 constexpr int leastRowMargin = 2; // above and below the text
 
+// The fixed columns. What happens in the table is told of the table, not once more of these.
+class FixedColumns final : public QTableView {
+  public:
+    using QTableView::QTableView;
+
+    // NOLINTBEGIN(bugprone-parent-virtual-call): the table view's own tell a screen reader
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+        QAbstractItemView::currentChanged(current, previous);
+    }
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override {
+        QAbstractItemView::selectionChanged(selected, deselected);
+    }
+    // NOLINTEND(bugprone-parent-virtual-call)
+    void dataChanged(const QModelIndex&, const QModelIndex&, const QList<int>&) override {
+        viewport()->update();
+    }
+};
+
+// With the widest digit for each: a column of numbers has few of these.
+std::string Pattern(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; }, '0');
+    return text;
+}
+
+bool Has_Digit(const std::string& text) {
+    return text.find_first_of("0123456789") != std::string::npos;
+}
+
 } // namespace
 
 void Bind(GridView* widget, FlexGrid& control) {
     widget->Show_Grid(control);
 }
 
-GridView::GridView(QWidget* parent) : QTableView(parent), frozen_(new QTableView(this)) {
+GridView::GridView(QWidget* parent) : QTableView(parent), frozen_(new FixedColumns(this)) {
     Prepare(*this);
     Prepare(*frozen_);
     setMouseTracking(true);
@@ -39,6 +71,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent), frozen_(new QTableView
     setHorizontalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     horizontalHeader()->setStretchLastSection(true);
+    Let_Widen();
 
     frozen_->setFocusPolicy(Qt::NoFocus);
     frozen_->setFrameShape(QFrame::NoFrame);
@@ -68,6 +101,18 @@ void GridView::Prepare(QTableView& pane) {
     pane.verticalHeader()->setMinimumSectionSize(1);
     pane.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     pane.horizontalHeader()->setMinimumSectionSize(1);
+}
+
+// A column can be made wider with the mouse, and by a double click as wide as it needs to be.
+// Nothing of it is kept.
+void GridView::Let_Widen() {
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int col, int, int now) {
+        if (!pulling_ && grid_ && now < Column_Pixels(col) && !isColumnHidden(col))
+            setColumnWidth(col, Column_Pixels(col));
+    });
+    connect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, this,
+            [this](int col) { resizeColumnToContents(col); });
 }
 
 void GridView::Show_Grid(FlexGrid& grid) {
@@ -103,6 +148,7 @@ void GridView::Pull() {
         Measure();
     else
         model_->Repaint();
+    Widen_Columns();
     Pull_Scroll();
     Pull_Selection();
     pulling_ = false;
@@ -110,6 +156,7 @@ void GridView::Pull() {
 
 void GridView::Measure() {
     measured_ = grid_->Layout_Version();
+    fitted_ = grid_->Texts_Version();
     model_->Reset();
     Measure_Columns();
     Measure_Rows();
@@ -196,17 +243,25 @@ int GridView::Column_Pixels(int col) const {
                     Fitting_Width(col));
 }
 
-// The names in a fixed column are never cut, nor are the heads, or their words where they wrap, nor
-// the last column, which is stretched anyway.
+// What is never cut: a number, wherever it stands, the names in a fixed column, the heads, or their
+// words where they wrap, and the last column, which is stretched anyway.
 int GridView::Fitting_Width(int col) const {
     static const QRegularExpression words(QStringLiteral("\\s")), lines(QStringLiteral("\n"));
     const bool whole = col < grid_->FixedCols() || col == grid_->Cols() - 1;
+    std::set<std::pair<std::string, bool>> measured; // texts, and whether they are bold
     int width = 0;
-    for (int row = 0; row < (whole ? grid_->Rows() : grid_->FixedRows()); ++row)
-        for (const QString& line :
-             QString::fromStdString(grid_->Text(row, col))
-                 .split(row < grid_->FixedRows() && grid_->Word_Wrap() ? words : lines))
-            width = std::max(width, fontMetrics().horizontalAdvance(line));
+    for (int row = 0; row < grid_->Rows(); ++row) {
+        const bool head = row < grid_->FixedRows();
+        const std::string& text = grid_->Text(row, col);
+        const CellStyle& style = grid_->Style(row, col);
+        if (text.empty() || !(whole || head || Has_Digit(text)) ||
+            !measured.emplace(Pattern(text), style.Bold).second)
+            continue;
+        const QFontMetrics metrics(Cell_Font(font(), style));
+        for (const QString& line : QString::fromStdString(Pattern(text))
+                                       .split(head && grid_->Word_Wrap() ? words : lines))
+            width = std::max(width, metrics.horizontalAdvance(line));
+    }
     return width == 0 ? 0 : width + cellMargin;
 }
 
@@ -221,6 +276,26 @@ double GridView::Row_Squeeze() const {
     const double least = (fontMetrics().height() + leastRowMargin) /
                          (grid_->Row_Height(grid_->FixedRows()) * Twip_Scale());
     return part >= least ? std::min(part, 1.0) : 1;
+}
+
+// New texts in the same cells may need more room.
+void GridView::Widen_Columns() {
+    if (fitted_ == grid_->Texts_Version())
+        return;
+    fitted_ = grid_->Texts_Version();
+    bool wider = false;
+    for (int col = 0; col < grid_->Cols(); ++col) {
+        QTableView& pane = col < grid_->FixedCols() ? *frozen_ : *this;
+        const int width = Column_Pixels(col);
+        if (pane.columnWidth(col) < width) {
+            pane.setColumnWidth(col, width);
+            wider = true;
+        }
+    }
+    if (wider) {
+        Place_Frozen();
+        Fit_Contents();
+    }
 }
 
 void GridView::Measure_Rows() {
@@ -308,6 +383,42 @@ QRect GridView::Cell_Rect(int row, int col) const {
     return {pane.viewport()->mapTo(this, cell.topLeft()), cell.size() - QSize(1, 1)}; // the lines
 }
 
+// The cell under the point of this widget, also in the fixed columns.
+QModelIndex GridView::Index_At(QPoint inside) const {
+    const bool fixed = frozen_->isVisible() && frozen_->geometry().contains(inside);
+    const QTableView& self = *this;
+    const QTableView& pane = fixed ? *frozen_ : self;
+    return pane.indexAt(pane.viewport()->mapFrom(this, inside));
+}
+
+// Every move of the current cell is told once, if the keyboard is here; a block besides by what
+// comes to it.
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
+    if (hasFocus())
+        Tell_Current_Cell();
+}
+
+void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    if (hasFocus() && grid_ &&
+        (grid_->Row() != grid_->Row_Sel() || grid_->Col() != grid_->Col_Sel()))
+        QTableView::selectionChanged(selected, deselected);
+    else // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        QAbstractItemView::selectionChanged(selected, deselected);
+}
+
+void GridView::Tell_Current_Cell() {
+    QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(this);
+    const QModelIndex current = currentIndex();
+    if (!QAccessible::isActive() || !table || !current.isValid())
+        return;
+    if (QAccessibleInterface* const cell =
+            table->tableInterface()->cellAt(current.row(), current.column())) {
+        QAccessibleEvent event(cell, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
 bool GridView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == frozen_->viewport() && grid_)
         return Frozen_Event(event);
@@ -322,7 +433,7 @@ bool GridView::Frozen_Event(QEvent* event) {
         Press(*frozen_, static_cast<QMouseEvent*>(event));
         return true;
     case QEvent::MouseMove:
-        Drag(*frozen_, static_cast<QMouseEvent*>(event));
+        Drag(static_cast<QMouseEvent*>(event));
         return true;
     case QEvent::MouseButtonRelease:
         Release(static_cast<QMouseEvent*>(event));

@@ -51,9 +51,14 @@ class GridView : public QTableView {
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
 
   private:
     static void Prepare(QTableView& pane);
+    void Let_Widen();
+    void Tell_Current_Cell();
     void Pull();
     void Measure();
     void Measure_Columns();
@@ -64,6 +69,7 @@ class GridView : public QTableView {
     int Head_Height() const;
     int Column_Pixels(int col) const;
     int Fitting_Width(int col) const;
+    void Widen_Columns();
     void Place_Frozen();
     void Pull_Scroll();
     void Pull_Selection();
@@ -74,18 +80,19 @@ class GridView : public QTableView {
     void Edit_Key(QKeyEvent* event);
     bool Go_To(int row, int col, bool extend);
     void Press(QTableView& pane, QMouseEvent* event);
-    void Drag(QTableView& pane, QMouseEvent* event);
+    void Drag(QMouseEvent* event);
     void Release(QMouseEvent* event);
     void Popup_By_Key();
     bool Frozen_Event(QEvent* event);
     QModelIndex Index(int row, int col) const;
+    QModelIndex Index_At(QPoint inside) const;
 
     FlexGrid* grid_ = nullptr;
     GridModel* model_ = nullptr;
     Link* link_ = nullptr;
     QTableView* frozen_ = nullptr;
     QPoint popupPoint_;
-    unsigned measured_ = ~0u;
+    unsigned measured_ = ~0u, fitted_ = ~0u;
     bool pulling_ = false;
     bool allColumns_ = false, allRows_ = false, onlyNeeded_ = false;
 };

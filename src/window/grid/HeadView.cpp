@@ -1,5 +1,6 @@
 #include "window/grid/HeadView.h"
 
+#include "window/RemarkLook.h"
 #include "window/grid/GridModel.h"
 
 #include <QBrush>
@@ -45,7 +46,8 @@ void HeadView::paintSection(QPainter* painter, const QRect& rect, int section) c
                       head(Qt::TextAlignmentRole).toInt(), head(Qt::DisplayRole).toString());
     painter->restore();
     if (head(GridModel::RemarkRole).isValid())
-        Paint_Remark_Mark(*painter, rect, palette());
+        Paint_Remark_Mark(*painter, rect, RemarkWeight(head(GridModel::WeightRole).toInt()),
+                          palette());
 }
 
 } // namespace Tensarix

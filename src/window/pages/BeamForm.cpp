@@ -2,7 +2,9 @@
 
 #include "ui_BeamForm.h"
 #include "window/Bind.h"
+#include "window/FirstClick.h"
 #include "window/FittingArea.h"
+#include "window/LabelOf.h"
 #include "window/drawing/DrawingView.h"
 
 namespace Tensarix {
@@ -38,9 +40,13 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     Bind(ui.CodeFrame, page.CodeFrame);
     Bind(ui.CodeOpt0, page.CodeOpt[0]);
     Bind(ui.CodeOpt1, page.CodeOpt[1]);
+    for (QWidget* option : {ui.CodeOpt0, ui.CodeOpt1})
+        Label_Of(option, ui.CodeFrame->accessibleName());
     Bind(ui.FyBox, page.FyBox);
     Bind(ui.BeamSpanBox, page.BeamSpanBox);
     Bind(ui.CFactor, page.CFactor);
+    Choose_All_At_First_Click(ui.BeamSpanBox);
+    Choose_All_At_First_Click(ui.CFactor);
     Bind(ui.UniWTLab, page.UniWTLab);
     Bind(ui.LimSpanLab, page.LimSpanLab);
     Bind(ui.BeamReactionLab, page.BeamReactionLab);

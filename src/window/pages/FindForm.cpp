@@ -3,6 +3,7 @@
 #include "ui_FindForm.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
+#include "window/LabelOf.h"
 
 #include <QFontMetrics>
 
@@ -27,6 +28,12 @@ QWidget* Make_Find_Form(FindPage& page, QWidget* parent) {
     Bind(ui.fDimOption1, page.fDimOption1);
     Bind(ui.fDimOption2, page.fDimOption2);
     Bind(ui.fShapeFlex, page.fShapeFlex);
+    Label_Of(ui.fCriterion, ui.fCriterion->accessibleName());
+    Label_Of(ui.fValue, ui.fValue->accessibleName());
+    for (QWidget* option : {ui.fProfileOption1, ui.fProfileOption2})
+        Label_Of(option, ui.fProfileFrame->accessibleName());
+    for (QWidget* option : {ui.fDimOption1, ui.fDimOption2})
+        Label_Of(option, ui.fDimFrame->accessibleName());
     return form;
 }
 

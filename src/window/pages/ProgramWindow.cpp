@@ -3,6 +3,7 @@
 #include "ui_ProgramWindow.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
+#include "window/RefusedKey.h"
 #include "window/grid/PopupMenu.h"
 #include "window/pages/BeamForm.h"
 #include "window/pages/BrowseForm.h"
@@ -53,6 +54,10 @@ ProgramWindow::ProgramWindow(MainFrm& form, SettingsStore& settings, DesktopEven
     Bind(ui.SelectionTab, form.SelectionTab);
     Make_Grid_Popup(form.mnuEdit1, this);
     Bind(ui.StatBar, form.Shared.StatBar);
+    AnswerRefusedKey = [&form](const std::string& answer) {
+        form.Shared.StatBar.Set_Remark(answer);
+    };
+    connect(this, &QObject::destroyed, [] { AnswerRefusedKey = nullptr; });
     Bind(ui.mnuCalc, form.mnuCalc);
     Bind(ui.mnuWtCalc, form.mnuWtCalc);
     Bind(ui.mnuWtCalcA, form.mnuWtCalcA);

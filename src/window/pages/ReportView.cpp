@@ -2,6 +2,7 @@
 
 #include "window/FocusFrame.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -16,6 +17,7 @@ namespace Tensarix {
 namespace {
 
 constexpr int takeOverMs = 150;
+constexpr int tellEveryMs = 1000; // a screen reader can't follow more
 constexpr int textMargin = 4;
 constexpr int describedLines = 12; // the end of the report, for a screen reader
 constexpr int hintColumns = 44, hintLines = 24;
@@ -39,6 +41,9 @@ ReportView::ReportView(QWidget* parent) : QAbstractScrollArea(parent) {
     timer_.setSingleShot(true);
     timer_.setInterval(takeOverMs);
     connect(&timer_, &QTimer::timeout, this, &ReportView::Flush);
+    told_.setSingleShot(true);
+    told_.setInterval(tellEveryMs);
+    connect(&told_, &QTimer::timeout, this, &ReportView::Tell_New);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     Add_Action(QStringLiteral("&Copy"), QKeySequence::Copy, &ReportView::Copy);
     Add_Action(QStringLiteral("Select &All"), QKeySequence::SelectAll, &ReportView::Select_All);
@@ -74,6 +79,8 @@ void ReportView::Flush() {
         starts_.assign(1, 0);
         indexed_ = longest_ = 0;
         anchor_ = end_ = -1;
+        characters_.assign(1, 0);
+        toldLines_ = 0;
     }
     // Who has scrolled up to read stays there.
     const QScrollBar& bar = *verticalScrollBar();
@@ -83,6 +90,7 @@ void ReportView::Flush() {
     if (atEnd)
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     Describe();
+    Tell_New();
     viewport()->update();
 }
 
@@ -129,6 +137,63 @@ void ReportView::Describe() {
     for (int line = std::max(0, Lines() - describedLines); line < Lines(); ++line)
         end.append(Line(line));
     setAccessibleDescription(end.join(QLatin1Char('\n')));
+}
+
+// The last of the lines that have come since it was done last; at most once in a while.
+void ReportView::Tell_New() {
+    if (!QAccessible::isActive() || told_.isActive() || toldLines_ >= Lines() - 1)
+        return;
+    const int first = std::max(toldLines_, Lines() - 1 - describedLines);
+    QString text;
+    for (int line = first; line < Lines() - 1; ++line) // the last one may still grow
+        text += Line(line) + QLatin1Char('\n');
+    toldLines_ = Lines() - 1;
+    QAccessibleTextInsertEvent event(this, Start_Of(first), text);
+    QAccessible::updateAccessibility(&event);
+    told_.start();
+}
+
+void ReportView::Tell_Line_Read() {
+    QAccessibleTextCursorEvent event(this, Start_Of(Line_Read()));
+    QAccessible::updateAccessibility(&event);
+}
+
+int ReportView::Start_Of(int line) const {
+    while (static_cast<int>(characters_.size()) <= line) {
+        const auto last = static_cast<int>(characters_.size()) - 1;
+        characters_.push_back(characters_.back() + static_cast<int>(Line(last).size()) + 1);
+    }
+    return characters_[static_cast<std::size_t>(line)];
+}
+
+int ReportView::Line_Of(int character) const {
+    Start_Of(Lines() - 1);
+    const auto behind = std::upper_bound(characters_.begin() + 1, characters_.end(), character);
+    return static_cast<int>(behind - characters_.begin()) - 1;
+}
+
+QRect ReportView::Line_Rect(int line) const {
+    const int y = textMargin + (line - verticalScrollBar()->value()) * Line_Height();
+    return {viewport()->mapToGlobal(QPoint(0, y)), QSize(viewport()->width(), Line_Height())};
+}
+
+std::pair<int, int> ReportView::Selection() const {
+    return std::minmax({anchor_, end_});
+}
+
+void ReportView::Select_Lines(int first, int last) {
+    anchor_ = first;
+    end_ = last;
+    viewport()->update();
+}
+
+int ReportView::Line_Read() const {
+    return anchor_ < 0 ? verticalScrollBar()->value() : std::min(end_, Lines() - 1);
+}
+
+void ReportView::Show_Line(int line) {
+    QScrollBar& bar = *verticalScrollBar();
+    bar.setValue(std::clamp(bar.value(), line - bar.pageStep() + 1, line));
 }
 
 QSize ReportView::sizeHint() const {
@@ -185,8 +250,14 @@ bool ReportView::event(QEvent* event) {
 }
 
 void ReportView::keyPressEvent(QKeyEvent* event) {
-    if ((event->modifiers() & Qt::ShiftModifier) != 0 && Select_Key(event->key()))
-        return;
+    const int before = Line_Read();
+    if ((event->modifiers() & Qt::ShiftModifier) == 0 || !Select_Key(event->key()))
+        Scroll_Key(event);
+    if (Line_Read() != before)
+        Tell_Line_Read();
+}
+
+void ReportView::Scroll_Key(QKeyEvent* event) {
     if (event->key() == Qt::Key_Home)
         verticalScrollBar()->setValue(0);
     else if (event->key() == Qt::Key_End)
@@ -210,7 +281,7 @@ bool ReportView::Select_Key(int key) {
     if (anchor_ < 0)
         anchor_ = at;
     end_ = std::clamp(move->second, 0, Lines() - 1);
-    bar.setValue(std::clamp(bar.value(), end_ - page + 1, end_));
+    Show_Line(end_);
     viewport()->update();
     return true;
 }

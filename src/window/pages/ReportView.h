@@ -25,6 +25,18 @@ class ReportView : public QAbstractScrollArea {
     int Lines() const { return static_cast<int>(starts_.size()); }
     // Without its line break.
     QString Line(int line) const;
+    // Characters of the report before the line, a line break being one.
+    int Start_Of(int line) const;
+    // The line in which the character stands; the nearest there is.
+    int Line_Of(int character) const;
+    int Line_At(const QPoint& inViewport) const;
+    QRect Line_Rect(int line) const; // on the screen
+    // First and last of the selected lines; -1: none are.
+    std::pair<int, int> Selection() const;
+    void Select_Lines(int first, int last);
+    // The line at which the reader is: the moving end of what is selected, else the first in view.
+    int Line_Read() const;
+    void Show_Line(int line);
 
     QSize sizeHint() const override;
 
@@ -42,17 +54,21 @@ class ReportView : public QAbstractScrollArea {
     void Index_New();
     void Measure();
     void Describe();
+    void Tell_New();
+    void Tell_Line_Read();
     void Copy();
     void Select_All();
     bool Select_Key(int key);
-    int Line_At(const QPoint& point) const;
+    void Scroll_Key(QKeyEvent* event);
     int Line_Height() const;
 
     ReportBox* box_ = nullptr;
-    QTimer timer_;
-    std::vector<std::size_t> starts_; // of the lines, in the box's text
-    std::size_t indexed_ = 0;         // so much of the text
-    std::size_t longest_ = 0;         // bytes of a line
+    QTimer timer_, told_;
+    std::vector<std::size_t> starts_;        // of the lines, in the box's text
+    mutable std::vector<int> characters_{0}; // Start_Of, as far as was asked for
+    int toldLines_ = 0;
+    std::size_t indexed_ = 0; // so much of the text
+    std::size_t longest_ = 0; // bytes of a line
     unsigned version_ = ~0u;
     int anchor_ = -1, end_ = -1; // the selected lines; -1: none
 };
