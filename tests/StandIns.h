@@ -5,6 +5,7 @@
 #include "platform/Machine.h"
 
 #include <cstdlib>
+#include <deque>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -98,6 +99,16 @@ class CountedEvents final : public EventLoop {
         return OnYield ? OnYield() : true;
     }
     void Turn() override { ++Turns; }
+    void When_Idle(std::function<void()> work) override { Waiting.push_back(std::move(work)); }
+
+    std::deque<std::function<void()>> Waiting; // for idle time
+    void Be_Idle() {
+        while (!Waiting.empty()) {
+            const std::function<void()> work = std::move(Waiting.front());
+            Waiting.pop_front();
+            work();
+        }
+    }
 };
 
 class RecordedWindow final : public MainWindow {

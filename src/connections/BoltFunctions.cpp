@@ -142,7 +142,7 @@ double BoltCoefficientC(const BoltGroup& group, double ex, double angle, SearchY
 }
 
 // Unlike C, measured from the centroid and with the plain force term: the farthest bolt counts
-// 0.9815, not 1. Intended.
+// 0.9815 as in the Manual's tables, not 1 as in C.
 double BoltCoefficientCPrime(const BoltGroup& group) {
     const std::int32_t mn = std::int32_t{group.m} * group.n;
     if (mn <= 0 || mn > mostBolts)

@@ -26,7 +26,7 @@ inline constexpr double boltTolerance = 0.0001; // of C, inclusive
 // R of one bolt at a deformation, in kips.
 double Bolt_Force(double deformation);
 
-// Above so many bolts the array of bolts can't be had, and both coefficients are 0.
+// Above so many bolts (2,097,152) the array of bolts can't be had, and both coefficients are 0.
 inline constexpr std::int32_t mostBolts = 1 << 21;
 
 // C: the load the group carries at the eccentricity ex (length, from the centroid) and the angle

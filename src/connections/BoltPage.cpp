@@ -5,6 +5,7 @@
 #include "common/NumberText.h"
 #include "connections/Balance.h"
 #include "connections/BoltDrawing.h"
+#include "connections/Numbers.h"
 #include "connections/SearchYield.h"
 #include "measures/InputFunction.h"
 
@@ -43,6 +44,13 @@ void Lay_Out_Values(FlexGrid& grid, std::initializer_list<const char*> names) {
     grid.Set_Highlight(false); // it shows, nothing is chosen in it
 }
 
+// Of a pasted text, which no key filter has passed.
+std::optional<std::string> Pasted_Input(const std::string& text) {
+    if (!Is_Numeric(text))
+        return std::nullopt;
+    return Format_Number(Text_Number(text), inputPattern);
+}
+
 std::string With_Blanks(const std::string& text, std::string_view behind) {
     const std::string value = Trim(text);
     return value.empty() ? value : value + std::string{behind};
@@ -66,7 +74,7 @@ int CountBoltRows(const FlexGrid& grid) {
 
 void ModifyTextC(TextBox& editor) {
     if (!Trim(editor.Text()).empty())
-        editor.Set_Text(Format_Number(Leading_Value(editor.Text()), inputPattern));
+        editor.Set_Text(Format_Number(Typed_Number(editor.Text()), inputPattern));
 }
 
 BoltPage::BoltPage(Desk& desk)
@@ -81,6 +89,7 @@ BoltPage::BoltPage(Desk& desk)
     ClearButton.OnClick = [this] { Clear_Click(); };
     cFlex.OnSelChange = [this] { Show_Selected(); };
     cFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
+    cFlex.OnPaste = [this] { Paste(); };
     Add_Editing();
 }
 
@@ -91,8 +100,9 @@ void BoltPage::Add_Editing() {
         Filter_Decimal,
         [this](int keyAscii) { return Filter_Single_Point(keyAscii, EdiTxt.Text()); },
         {},
-        [this] { Attempt([this] { ModifyTextC(EdiTxt); }); },
-        [this](const std::string&) { Calculate_C(cFlex.Row()); }});
+        [this] { ModifyTextC(EdiTxt); },
+        [this](const std::string&) { Calculate_C(cFlex.Row()); },
+        Pasted_Input});
 }
 
 void BoltPage::Start() {
@@ -109,12 +119,12 @@ void BoltPage::Take_Row_Count() {
             Largest_Of({leastBoltRowCount, desk_.Saved.Number(Setting::cFlexRows)});
         if (saved > mostBoltRows + 1)
             throw Failure("too many rows");
-        BoltRowCount_ = static_cast<float>(saved);
+        BoltRowCount = static_cast<float>(saved);
     });
 }
 
 void BoltPage::Save_Settings() const {
-    desk_.Saved.Save(Setting::cFlexRows, General_Text(static_cast<double>(BoltRowCount_)));
+    desk_.Saved.Save(Setting::cFlexRows, General_Text(static_cast<double>(BoltRowCount)));
 }
 
 void BoltPage::Init_cFlex() {
@@ -129,7 +139,7 @@ void BoltPage::Init_cFlex() {
                                             "Bolt Group Coefficient\n[C]",
                                             "Bolt Group Coefficient\n[C']"};
     cFlex.Clear();
-    cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
+    cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount)));
     cFlex.Set_Cols(BoltColumn::Count);
     cFlex.Set_Fixed(1, 1);
     cFlex.Set_Row_Height_Min(350);
@@ -147,7 +157,7 @@ void BoltPage::Init_cFlex() {
     for (int row = 1; row < cFlex.Rows(); ++row)
         Lay_Out_Row(row);
     cFlex.Select_Range(1, 1, 1, 1);
-    RemRowButton.Enable(BoltRowCount_ > leastBoltRowCount);
+    RemRowButton.Enable(BoltRowCount > leastBoltRowCount);
 }
 
 void BoltPage::Lay_Out_Row(int row) {
@@ -168,21 +178,40 @@ void BoltPage::Init_valFlex() {
 
 void BoltPage::LoadBoltEntries() {
     bool failed = false;
-    ReadBoltFile(BoltEntries_, File(), failed, desk_.Host.Boxes);
+    ReadBoltFile(BoltEntries, File(), failed, desk_.Host.Boxes);
     if (failed)
         return;
-    for (const BoltRow& entry : BoltEntries_) {
+    for (const BoltRow& entry : BoltEntries) {
         // Only a damaged file has a row number below 1.
         if (entry.RowNumber < 1 || entry.RowNumber > cFlex.Rows() - 1)
             continue;
         int col = BoltColumn::FirstInput;
         for (const std::string& text : entry.Texts)
             cFlex.Set_Text(entry.RowNumber, col++, text);
-        // The results stay as saved; what is to be said about them is found anew.
-        Attempt([&] {
-            Remark_On(entry.RowNumber, Leading_Value(cFlex.Text(entry.RowNumber, BoltColumn::C)));
-        });
+        unremarked_.push_back(entry.RowNumber);
     }
+    Remember_Saved();
+    Show_Unsaved();
+    Remark_On_Next();
+}
+
+// The results stay as saved. What is to be said about them is found anew, a row at a time and only
+// when nothing else is to be done: a long table doesn't keep the first window waiting.
+void BoltPage::Remark_On_Next() {
+    if (unremarked_.empty())
+        return;
+    desk_.Host.Events.When_Idle([this, alive = std::weak_ptr(alive_)] {
+        if (alive.expired() || unremarked_.empty())
+            return;
+        const int row = unremarked_.front();
+        unremarked_.pop_front();
+        // A row that was computed, emptied or removed meanwhile is another one.
+        if (!newestSearch_.contains(row))
+            Remark_On(row, Typed_Number(cFlex.Text(row, BoltColumn::C)));
+        if (row == cFlex.Row())
+            Show_Selected();
+        Remark_On_Next();
+    });
 }
 
 void BoltPage::Show_Selected() {
@@ -234,22 +263,23 @@ void BoltPage::Draw_Group() {
     GroupSketch.Set_Drawing(Bolt_Group_Drawing(picture));
 }
 
-// Each number of its own; one that is out of range stays 0.
+// Each number of its own; a count that is out of range stays 0.
 BoltPage::Inputs BoltPage::Row_Inputs(int row) const {
     Inputs inputs;
-    const auto value = [this, row](int col) { return Leading_Value(cFlex.Text(row, col)); };
+    const auto value = [this, row](int col) { return Typed_Number(cFlex.Text(row, col)); };
     Attempt([&] { inputs.Group.m = Whole_16(value(BoltColumn::m)); });
     Attempt([&] { inputs.Group.n = Whole_16(value(BoltColumn::n)); });
-    Attempt([&] { inputs.Group.sv = value(BoltColumn::sv); });
-    Attempt([&] { inputs.Group.sh = value(BoltColumn::sh); });
-    Attempt([&] { inputs.ex = value(BoltColumn::ex); });
-    Attempt([&] { inputs.Angle = value(BoltColumn::Angle); });
+    inputs.Group.sv = value(BoltColumn::sv);
+    inputs.Group.sh = value(BoltColumn::sh);
+    inputs.ex = value(BoltColumn::ex);
+    inputs.Angle = value(BoltColumn::Angle);
     return inputs;
 }
 
 void BoltPage::Calculate_C(int row) {
     const unsigned search = ++newestSearch_[row];
     Empty_Results(row);
+    Show_Unsaved();
     if (IsBoltRowComplete(cFlex, row)) {
         const Inputs inputs = Row_Inputs(row);
         cFlex.Set_Remark(row, BoltColumn::C, std::string{computingRemark});
@@ -286,6 +316,12 @@ void BoltPage::Remark_On(int row, double C) {
     if (!IsBoltRowComplete(cFlex, row))
         return;
     const Inputs inputs = Row_Inputs(row);
+    if (int{inputs.Group.m} * inputs.Group.n > mostBolts) {
+        for (const int col : {BoltColumn::C, BoltColumn::CPrime})
+            if (Typed_Number(cFlex.Text(row, col)) == 0)
+                cFlex.Set_Remark(row, col, std::string{tooManyBoltsRemark}, RemarkWeight::Caution);
+        return;
+    }
     const auto balanced = Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle);
     cFlex.Set_Remark(row, BoltColumn::C, Balance_Remark(C, balanced, boltRemarkTolerance));
 }
@@ -298,8 +334,8 @@ void BoltPage::Empty_Results(int row) {
 void BoltPage::AddRow_Click() {
     if (!Commit_Editor() || cFlex.Rows() > mostBoltRows)
         return; // closing, or a further row could not be saved
-    BoltRowCount_ = BoltRowCount_ + 1;
-    cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount_)));
+    BoltRowCount = BoltRowCount + 1;
+    cFlex.Set_Rows(Whole_32(static_cast<double>(BoltRowCount)));
     const int row = cFlex.Rows() - 1;
     cFlex.Set_Top_Row(cFlex.Rows() - rowsBelowTop);
     Lay_Out_Row(row);
@@ -308,16 +344,17 @@ void BoltPage::AddRow_Click() {
 }
 
 void BoltPage::RemRow_Click() {
-    BoltRowCount_ =
-        static_cast<float>(Largest_Of({leastBoltRowCount, static_cast<double>(BoltRowCount_) - 1}));
-    const int rows = Whole_32(static_cast<double>(BoltRowCount_));
+    BoltRowCount =
+        static_cast<float>(Largest_Of({leastBoltRowCount, static_cast<double>(BoltRowCount) - 1}));
+    const int rows = Whole_32(static_cast<double>(BoltRowCount));
     for (int row = rows; row < cFlex.Rows(); ++row)
         ++newestSearch_[row];
     if (cFlex.Row() >= rows)
         editing_.Hide(); // what is being typed there goes with the row
     cFlex.Set_Rows(rows);
-    RemRowButton.Enable(BoltRowCount_ > leastBoltRowCount);
+    RemRowButton.Enable(BoltRowCount > leastBoltRowCount);
     Show_Selected();
+    Show_Unsaved();
 }
 
 // What is still in the editor counts. False: the program is closing.
@@ -327,11 +364,11 @@ bool BoltPage::Commit_Editor() {
 }
 
 void BoltPage::Fill_BoltEntries() {
-    BoltEntries_.clear();
+    BoltEntries.clear();
     for (int row = 1; row < cFlex.Rows(); ++row) {
         if (!IsBoltRowComplete(cFlex, row))
             continue;
-        BoltRow& entry = BoltEntries_.emplace_back();
+        BoltRow& entry = BoltEntries.emplace_back();
         entry.RowNumber = static_cast<std::int16_t>(row);
         int col = BoltColumn::FirstInput;
         for (std::string& text : entry.Texts)
@@ -339,7 +376,8 @@ void BoltPage::Fill_BoltEntries() {
     }
 }
 
-// The last message comes after the one of a file that could not be written, too: intended.
+// The last message comes after the one of a file that could not be written, too; the note beside
+// the button then still counts the rows.
 void BoltPage::Save_Click() {
     if (!Commit_Editor())
         return;
@@ -349,7 +387,9 @@ void BoltPage::Save_Click() {
         return;
     }
     Fill_BoltEntries();
-    WriteBoltFile(BoltEntries_, File(), boxes);
+    if (WriteBoltFile(BoltEntries, File(), boxes))
+        Remember_Saved();
+    Show_Unsaved();
     boxes.Show("Entries succesfully Saved ! ", "Warning:", MessageIcon::Information);
 }
 
@@ -366,9 +406,11 @@ void BoltPage::Clear_Click() {
         return;
     editing_.Hide();
     Clear_Rows();
-    Show_Selected();
     std::error_code ignored;
-    std::filesystem::remove(File(), ignored);
+    if (std::filesystem::remove(File(), ignored) || !std::filesystem::exists(File(), ignored))
+        saved_.clear();
+    Show_Selected();
+    Show_Unsaved();
 }
 
 void BoltPage::Clear_Rows() {
@@ -377,6 +419,38 @@ void BoltPage::Clear_Rows() {
         for (int col = BoltColumn::FirstInput; col < BoltColumn::Count; ++col)
             cFlex.Set_Text(row, col, {});
     }
+}
+
+void BoltPage::Remember_Saved() {
+    saved_.clear();
+    for (const BoltRow& entry : BoltEntries)
+        saved_.emplace(entry.RowNumber, entry);
+}
+
+// Its inputs, that is: results follow from them.
+bool BoltPage::Is_Saved(int row) const {
+    const auto at = saved_.find(row);
+    if (at == saved_.end())
+        return false;
+    for (int col = BoltColumn::FirstInput; col <= BoltColumn::LastInput; ++col)
+        if (cFlex.Text(row, col) != at->second.Texts[static_cast<std::size_t>(col - 1)])
+            return false;
+    return true;
+}
+
+void BoltPage::Show_Unsaved() {
+    int count = 0;
+    for (int row = 1; row < cFlex.Rows(); ++row)
+        count += IsBoltRowComplete(cFlex, row) && !Is_Saved(row) ? 1 : 0;
+    const std::string rows = count == 1 ? " row not saved" : " rows not saved";
+    UnsavedNote.Set_Caption(count > 0 ? std::to_string(count) + rows : std::string{});
+}
+
+// As the weight calculators do: a block is taken whole, or not at all.
+void BoltPage::Paste() {
+    editing_.Leave();
+    if (const std::string refusal = editing_.Paste(desk_.Host.Clip.Text()); !refusal.empty())
+        desk_.Host.Boxes.Show(refusal + " Nothing was pasted.", "Warning", MessageIcon::Stop);
 }
 
 std::filesystem::path BoltPage::File() const {

@@ -10,8 +10,10 @@
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 
+#include <deque>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +29,9 @@ inline constexpr int Count = 9;
 inline constexpr int FirstInput = m, LastInput = Angle;
 } // namespace BoltColumn
 
+// On results that are 0 because there are more bolts than can be computed.
+inline constexpr std::string_view tooManyBoltsRemark =
+    "Not computed, and shown as 0: more than 2,097,152 bolts";
 inline constexpr int leastBoltRowCount = 16; // the head row counts
 // On the head of C. The tables count each bolt with its own (1 - e^(-10 D))^0.55.
 inline constexpr std::string_view farthestBoltRemark =
@@ -37,8 +42,8 @@ inline constexpr std::string_view farthestBoltRemark =
 bool IsBoltRowComplete(const FlexGrid& grid, int row);
 // Of the rows below the head.
 int CountBoltRows(const FlexGrid& grid);
-// A text that isn't blank becomes a number with three to five decimals. Whole numbers too:
-// intended. Fails beyond the range of a number.
+// A text that isn't blank becomes a number with three to five decimals. Counts of bolts
+// too: all columns read alike.
 void ModifyTextC(TextBox& editor);
 
 class BoltPage {
@@ -47,6 +52,7 @@ class BoltPage {
     FlexGrid ccFlex, xxFlex; // the current row once more
     Label RowRemark;         // what is to be said about it
     DrawingBox GroupSketch;  // its group
+    Label UnsavedNote;       // how many complete rows are not in the file as they stand
     TextBox EdiTxt;          // over the cell that is being edited
     Button AddRowButton, RemRowButton, SaveButton, ClearButton;
 
@@ -87,15 +93,23 @@ class BoltPage {
     double Search(int row, const Inputs& inputs, unsigned search);
     void Show_Results(int row, double C, double CPrime);
     void Remark_On(int row, double C);
+    void Remark_On_Next(); // of the rows that were read
+    void Remember_Saved();
+    void Show_Unsaved();
+    bool Is_Saved(int row) const;
+    void Paste();
     void Empty_Results(int row);
     void Clear_Rows();
     bool Commit_Editor();
     std::filesystem::path File() const;
 
     Desk& desk_;
-    float BoltRowCount_ = leastBoltRowCount;
-    std::vector<BoltRow> BoltEntries_;
+    float BoltRowCount = leastBoltRowCount;
+    std::vector<BoltRow> BoltEntries;
     std::map<int, unsigned> newestSearch_; // by row
+    std::map<int, BoltRow> saved_;         // the file, by row
+    std::deque<int> unremarked_;           // rows that were read
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
     CellEditing editing_;
 };
 

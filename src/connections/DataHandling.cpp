@@ -98,6 +98,10 @@ void Set_Aside(const fs::path& path) {
         return;
     fs::path aside = path;
     aside += unreadableSuffix;
+    for (int number = 2; fs::exists(aside, ignored); ++number) {
+        aside = path;
+        aside += std::string{unreadableSuffix} + std::to_string(number);
+    }
     fs::rename(path, aside, ignored);
 }
 
@@ -112,14 +116,14 @@ void ReadBoltFile(std::vector<BoltRow>& entries, const fs::path& path, bool& fai
         entries = std::move(read);
         return;
     }
-    Set_Aside(path);
-    if (error->Number == outOfMemory.Number)
-        failed = true;
+    failed = error->Number == outOfMemory.Number;
+    if (failed)
+        Set_Aside(path);
     else
         Show(*error, boxes);
 }
 
-void WriteBoltFile(const std::vector<BoltRow>& entries, const fs::path& path, Messages& boxes) {
+bool WriteBoltFile(const std::vector<BoltRow>& entries, const fs::path& path, Messages& boxes) {
     ByteWriter file;
     const bool fits = Attempt([&] {
         file.Int16(dimensions);
@@ -131,10 +135,10 @@ void WriteBoltFile(const std::vector<BoltRow>& entries, const fs::path& path, Me
                 file.Text_With_Length(text);
         }
     });
-    if (!fits)
-        Show(overflow, boxes);
-    else if (!Replace_File(path, file.Written()))
-        Show(noAccess, boxes);
+    const bool written = fits && Replace_File(path, file.Written());
+    if (!written)
+        Show(fits ? noAccess : overflow, boxes);
+    return written;
 }
 
 } // namespace Tensarix

@@ -35,15 +35,16 @@ struct BoltRow {
 inline constexpr std::int32_t mostBoltRows = 32767;
 
 // The records of the file; where bytes are missing at its end, texts are empty. A missing file is
-// made, empty. A file that can't be read gives up its name: it goes to the same name with
-// unreadableSuffix behind it, in the place of an older one. `failed` is then true, without a
-// message, if its counts were impossible; any other error is shown in a message.
+// made, empty. If its counts are impossible (or it is larger than any table) it gives up its name:
+// it goes to the same name with unreadableSuffix behind it, and a number from 2 on if there is one
+// already; `failed` is then true, without a message. A file that can't be read stays where it is,
+// and a message tells.
 void ReadBoltFile(std::vector<BoltRow>& entries, const std::filesystem::path& path, bool& failed,
                   Messages& boxes);
 
 // Puts a new file in the place of the old one. An error is shown in a message, and the old file is
-// as it was.
-void WriteBoltFile(const std::vector<BoltRow>& entries, const std::filesystem::path& path,
+// as it was; the result is false then.
+bool WriteBoltFile(const std::vector<BoltRow>& entries, const std::filesystem::path& path,
                    Messages& boxes);
 
 } // namespace Tensarix

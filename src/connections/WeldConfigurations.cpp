@@ -35,7 +35,7 @@ struct Configuration {
     bool singleWithoutLeg = false; // a leg length of exactly 0 leaves the upright alone, once
     bool xFromLeg = false;         // xL is measured from the end of the legs
     bool yFromTop = false;         // yL is measured from the top edge
-    bool shownScaled = false;      // numbers and tolerance in scaled units: intended, this one only
+    bool shownScaled = false;      // numbers and tolerance in scaled units, as validation.md tells
 };
 
 // The order of Figure.

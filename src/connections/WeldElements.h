@@ -38,7 +38,8 @@ struct WeldCut {
     void Take(const WeldLine& line, std::int16_t stripsPerUnit);
 
     // The signs multiply the signed cosine and sine: the elements of a line that leans to the left
-    // step away from it. Intended.
+    // step away from it. Without that, C of every turned group would change (validation.md
+    // tells how far it is off).
     double Middle_X(double i) const {
         return (x1 + ((sx * i) * elementLength) * cosA) + sx * ((elementLength * cosA) / 2.0);
     }
@@ -68,7 +69,8 @@ struct WeldAngles {
     double X = 0; // xm + Ro, maybe not finite: then the steps that need it fail
 };
 
-// The sum form of the tangent, with a plus where the geometry has a minus: intended.
+// The sum form of the tangent, with a plus where the geometry has a minus: evened out, C of every
+// turned group would change (validation.md).
 inline double Leaning_Angle(double a, double beta) {
     const double t = std::tan(a);
     const double u = std::tan(beta);

@@ -100,6 +100,7 @@ double Search(const Run& run, WeldSearch& search) {
     double Fm = 0, Fv = 0, G = 0;
     WeldPass pass;
     for (bool done = false; !done;) {
+        state.PassRo = Ro;
         if (state.StopRequested) {
             state.SavedRo = Ro;
             break;
@@ -119,7 +120,8 @@ double Search(const Run& run, WeldSearch& search) {
         if (!done)
             search.yield();
     }
-    // The last pass stands twice, the second time with the Ro of the step behind it: intended.
+    // The last pass stands twice, the second time with the Ro of the step behind it,
+    // from which a resumed run goes on.
     Show(run, Ro, Fv, Fm, false, search);
     double mean = 0;
     Keep(mean, Largest_Of({0, (Fv + Fm) / 2}));
@@ -134,6 +136,7 @@ double SolveWeldGroup(const std::vector<WeldLine>& lines, double eccentricity, d
     state.IterationStart = search.display.Now();
     state.LastClearTime = state.IterationStart;
     state.ClearCount = 0;
+    state.PassRo = state.ResumeRequested ? state.SavedRo : 0;
     Run run{lines, angle, scale, 0, 0};
     double theta = 0;
     Keep(theta, (angle * pi) / 180);
@@ -186,7 +189,8 @@ double ConcentricWeldCapacity(const std::vector<WeldLine>& lines) {
     for (const WeldLine& line : lines) {
         Keep(A, pi / 2.0 - line.lineAngle);
         Keep(length, Length_Of(line));
-        // The exact throat here, the nine-digit one in the iteration: intended.
+        // The exact throat here, the nine-digit one in the iteration: evened out, the fifth decimal
+        // of C would change.
         const double strength = ((weldStressFactor * electrodeStrength) * std::sqrt(2.0)) / 2.0;
         Keep(P, (1.0 + 0.5 * std::pow(std::sin(A), 1.5)) * (strength * weldSize * length) + P);
     }

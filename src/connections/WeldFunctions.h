@@ -25,6 +25,7 @@ struct WeldState {
     bool StopRequested = false;     // read at the top of each pass
     bool ResumeRequested = false;   // start from SavedRo
     double SavedRo = 0;
+    double PassRo = 0;               // of the pass at hand, for a run that is left in its middle
     std::int64_t IterationStart = 0; // whole seconds of the display's clock
     double ElapsedSeconds = 0;
     std::int64_t LastClearTime = 0;

@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "connections/Numbers.h"
 #include "measures/InputFunction.h"
 
 namespace Tensarix {
@@ -18,14 +19,14 @@ constexpr int lastWithoutCentroid = 5, lastWithoutHeight = 7; // items
 
 // As the first three decimals tell.
 double Compared(const std::string& text) {
-    return Leading_Value(Format_Number(Leading_Value(text), "0.000"));
+    return Typed_Number(Format_Number(Typed_Number(text), "0.000"));
 }
 
 } // namespace
 
 void ModifyTextWeld(TextBox& editor) {
     if (!Trim(editor.Text()).empty())
-        editor.Set_Text(Format_Number(Leading_Value(editor.Text()), inputPattern));
+        editor.Set_Text(Format_Number(Typed_Number(editor.Text()), inputPattern));
 }
 
 WeldPage::WeldPage(Desk& desk)
@@ -49,7 +50,7 @@ void WeldPage::Add_Editing() {
         Filter_Decimal,
         [this](int keyAscii) { return Filter_Single_Point(keyAscii, EdiTxtA.Text()); },
         {},
-        [this] { Attempt([this] { ModifyTextWeld(EdiTxtA); }); },
+        [this] { ModifyTextWeld(EdiTxtA); },
         [this](const std::string& before) { Committed(before); }});
 }
 
@@ -70,12 +71,12 @@ void WeldPage::Initialize_WeldView() {
         const std::string key = "weld" + std::to_string(i);
         WeldView.Add({key, "Weld Configuration " + std::to_string(i), key});
     }
-    WeldView.Select(WeldConfigIndex_);
+    WeldView.Select(WeldConfigIndex);
     Attempt([this] {
         WeldView.Select(desk_.Saved.Position(Setting::WeldView));
-        WeldConfigIndex_ = WeldView.Selected_Item();
+        WeldConfigIndex = WeldView.Selected_Item();
     });
-    WeldImage.Set_Name("wImage" + std::to_string(WeldConfigIndex_));
+    WeldImage.Set_Name("wImage" + std::to_string(WeldConfigIndex));
 }
 
 void WeldPage::Initialize_WeldStripBox() {
@@ -110,8 +111,8 @@ void WeldPage::Initialize_WeldFlex() {
 }
 
 void WeldPage::Save_Settings() const {
-    desk_.Saved.Save(Setting::WeldStrip, std::to_string(WeldStripIndex_));
-    desk_.Saved.Save(Setting::WeldView, std::to_string(WeldConfigIndex_));
+    desk_.Saved.Save(Setting::WeldStrip, std::to_string(WeldStripIndex));
+    desk_.Saved.Save(Setting::WeldView, std::to_string(WeldConfigIndex));
 }
 
 std::string WeldPage::Selection_Text() const {
@@ -126,13 +127,13 @@ void WeldPage::WeldView_Click() {
         desk_.Say("");
         desk_.Say(Trim(WeldView.Item(item).Text));
     }
-    Parameters& left = WeldParameters_[static_cast<std::size_t>(WeldConfigIndex_) - 1];
+    Parameters& left = WeldParameters[static_cast<std::size_t>(WeldConfigIndex) - 1];
     for (int row = 0; row < WeldRow::Count; ++row)
         left[static_cast<std::size_t>(row)] = WeldFlex.Text(row, 1);
-    if (item != WeldConfigIndex_)
+    if (item != WeldConfigIndex)
         Invalidate();
-    WeldConfigIndex_ = item;
-    const Parameters& entered = WeldParameters_[static_cast<std::size_t>(item) - 1];
+    WeldConfigIndex = item;
+    const Parameters& entered = WeldParameters[static_cast<std::size_t>(item) - 1];
     for (int row = 0; row < WeldRow::Count; ++row)
         WeldFlex.Set_Text(row, 1, entered[static_cast<std::size_t>(row)]);
     WeldImage.Set_Name("wImage" + std::to_string(item));
@@ -142,9 +143,7 @@ void WeldPage::WeldView_Click() {
 // However the editor was left: a result never stands beside inputs that it isn't of.
 void WeldPage::Committed(const std::string& before) {
     const std::string& now = WeldFlex.Text(WeldFlex.Row(), 1);
-    bool changed = Trim(before) != Trim(now);
-    Attempt([&] { changed = changed && Compared(before) != Compared(now); });
-    if (changed)
+    if (Trim(before) != Trim(now) && Compared(before) != Compared(now))
         Invalidate();
     UpdateWeldCentroids();
 }
@@ -165,8 +164,8 @@ void WeldPage::Empty_Report() {
 void WeldPage::UpdateWeldCentroids() {
     const bool complete =
         !Trim(WeldFlex.Text(WeldRow::L, 1)).empty() && !Trim(WeldFlex.Text(WeldRow::kL, 1)).empty();
-    const bool hasX = WeldConfigIndex_ > lastWithoutCentroid;
-    const bool hasY = WeldConfigIndex_ > lastWithoutHeight;
+    const bool hasX = WeldConfigIndex > lastWithoutCentroid;
+    const bool hasY = WeldConfigIndex > lastWithoutHeight;
     const std::string none{notApplicable};
     Show_Centroid(WeldRow::xL, hasX ? std::string{} : none, Alignment::Left);
     Show_Centroid(WeldRow::yL, hasY ? std::string{} : none, Alignment::Left);
@@ -190,7 +189,7 @@ void WeldPage::Show_Centroid(int row, std::string text, Alignment alignment) {
 
 void WeldPage::WeldStripBox_Change() {
     if (WeldStripBox.ListIndex() >= 0)
-        WeldStripIndex_ = WeldStripBox.ListIndex();
+        WeldStripIndex = WeldStripBox.ListIndex();
 }
 
 void WeldPage::StartIteration_Click() {
@@ -243,6 +242,8 @@ void WeldPage::Begin(bool resume) {
     const unsigned run = ++newest_;
     started_ = run;
     state_.ResumeRequested = resume;
+    // The run to resume may not have seen its stop yet, or too late.
+    state_.SavedRo = resume ? state_.PassRo : 0;
     if (resume)
         state_.StopRequested = false;
     WeldFlex.Set_Top_Row(0);

@@ -25,7 +25,7 @@ inline constexpr int xL = 4, yL = 5;
 inline constexpr int Count = 6;
 } // namespace WeldRow
 
-// A text that isn't blank becomes a number with three decimals. Fails beyond the range of a number.
+// A text that isn't blank becomes a number with three decimals.
 void ModifyTextWeld(TextBox& editor);
 
 class WeldPage {
@@ -92,9 +92,9 @@ class WeldPage {
     void Invalidate();
 
     Desk& desk_;
-    int WeldConfigIndex_ = 1; // 1 to 9
-    int WeldStripIndex_ = 0;
-    std::array<Parameters, weldConfigurationCount> WeldParameters_;
+    int WeldConfigIndex = 1; // 1 to 9
+    int WeldStripIndex = 0;
+    std::array<Parameters, weldConfigurationCount> WeldParameters;
     WeldState state_;
     unsigned newest_ = 0;  // the run whose result is wanted
     unsigned started_ = 0; // the run that the buttons speak of

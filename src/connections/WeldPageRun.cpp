@@ -2,6 +2,7 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "connections/Balance.h"
+#include "connections/Numbers.h"
 #include "connections/WeldPage.h"
 
 #include <cmath>
@@ -15,7 +16,8 @@ constexpr std::string_view resultPattern = "0.00000  ";
 constexpr Colour black = 0x000000;
 constexpr Colour red = 0x0000FF;
 
-// The empty lines around the headings repeat the first character of a line break alone: intended.
+// The report is fixed to the character: the empty lines around the headings are the first character
+// of a line break alone, twice.
 std::string Ending(std::string_view heading, std::string_view reference,
                    std::string_view referenceNextLine) {
     const std::string twoReturns(2, reportLineBreak.front());
@@ -64,7 +66,7 @@ std::optional<std::array<std::string, 4>> WeldPage::Typed_Inputs() const {
 }
 
 WeldPage::Outcome WeldPage::RunWeldIteration(unsigned run) {
-    state_.StripsPerUnit = stripsPerUnit[WeldStripIndex_];
+    state_.StripsPerUnit = stripsPerUnit[WeldStripIndex];
     const auto typed = Typed_Inputs();
     if (!typed) {
         desk_.Host.Boxes.Show("Incomplete Parameter Input ! ", "Warning:", MessageIcon::Stop);
@@ -72,7 +74,7 @@ WeldPage::Outcome WeldPage::RunWeldIteration(unsigned run) {
     }
     try {
         const auto value = [&typed](int row) {
-            return Leading_Value((*typed)[static_cast<std::size_t>(row)]);
+            return Typed_Number((*typed)[static_cast<std::size_t>(row)]);
         };
         const Inputs inputs{value(WeldRow::L), value(WeldRow::kL), value(WeldRow::aL),
                             value(WeldRow::Angle)};
@@ -91,7 +93,7 @@ WeldPage::Outcome WeldPage::Search(const Inputs& inputs, unsigned run) {
     auto turn = [this, run] { return desk_.Host.Events.Yield() && newest_ == run; };
     SearchYield yield{turn, weldYieldStride};
     WeldSearch search{state_, display, yield};
-    const double C = Weld_Configuration_Result(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL,
+    const double C = Weld_Configuration_Result(WeldConfigIndex, inputs.L, inputs.kL, inputs.aL,
                                                inputs.Angle, weldModeC, search);
     if (state_.StopRequested) {
         Show_Aborted(inputs, C);
@@ -110,7 +112,7 @@ void WeldPage::Show_Converged(const Inputs& inputs, double C) {
     CRemark.Set_Caption(Balance_Remark(inputs, C));
 }
 
-// Its reference is worded in another way: intended.
+// Its reference is worded in another way, by which a copied report shows how its run ended.
 void WeldPage::Show_Aborted(const Inputs& inputs, double C) {
     IterationDisplayBox.Append(Ending(" ** Iteration ABORTED !",
                                       " Reference: AISC Construction Manual",
@@ -124,7 +126,7 @@ void WeldPage::Show_Aborted(const Inputs& inputs, double C) {
 
 std::string WeldPage::Balance_Remark(const Inputs& inputs, double C) const {
     const auto balanced =
-        Balanced_Welds(WeldConfigIndex_, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
+        Balanced_Welds(WeldConfigIndex, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
     return Tensarix::Balance_Remark(C, balanced, weldRemarkTolerance);
 }
 
@@ -134,8 +136,8 @@ double WeldPage::Centroid(std::int16_t mode) {
     auto turn = [] { return true; };
     SearchYield yield{turn};
     WeldSearch search{state, display, yield}; // of which a centroid makes no use
-    return Weld_Configuration_Result(WeldConfigIndex_, Leading_Value(WeldFlex.Text(WeldRow::L, 1)),
-                                     Leading_Value(WeldFlex.Text(WeldRow::kL, 1)), 0, 0, mode,
+    return Weld_Configuration_Result(WeldConfigIndex, Typed_Number(WeldFlex.Text(WeldRow::L, 1)),
+                                     Typed_Number(WeldFlex.Text(WeldRow::kL, 1)), 0, 0, mode,
                                      search);
 }
 

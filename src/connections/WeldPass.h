@@ -22,7 +22,8 @@ double Weld_Delta_U(double degrees);
 struct WeldPass {
     double SM = 0, SV = 0, SR = 0;
     double dRatio = 0; // smallest deltaU / r
-    double dMax = 0;   // largest deltaM of the group, taken for every element: intended
+    double dMax =
+        0; // largest deltaM of the group, for every element: validation.md tells what it does
     double Delta = 0, rho = 0, f = 0, R = 0, V = 0;
 };
 

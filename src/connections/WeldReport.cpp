@@ -58,7 +58,7 @@ void ShowIterationStep(double angle, double Ro, double Fv, double Fm, double sca
 }
 
 // Minutes are cut off from the fraction of an hour: at 3660 s and some other times, where that
-// falls just short, they read one less. Intended.
+// falls just short, they read one less. The report is fixed to the character, its time too.
 std::string FormatIterationTime(double seconds) {
     const double hours = seconds / 60 / 60;
     const double minutes = seconds / 60;

@@ -61,6 +61,8 @@ class EventLoop {
     virtual bool Yield() = 0;
     // Lets all pending events run now.
     virtual void Turn() = 0;
+    // Runs some work once, later, when no event is pending.
+    virtual void When_Idle(std::function<void()> work) = 0;
 };
 
 class MainWindow {

@@ -71,8 +71,17 @@ TEST_F(BoltPageTest, TextsThatAreNoNumbersOrOutOfRange) {
         Type(1, 3, c.typed);
         EXPECT_EQ(Cell(1, 3), c.kept) << c.typed;
     }
+    Type(1, 3, "1E999"); // beyond the range: no number
+    EXPECT_EQ(Cell(1, 3), "0.000  ");
     Type_Row(2, {"40000", "1", "3", "3", "4", "0"}); // beyond 16 bits: counts as 0
     EXPECT_EQ(Cell(2, 7), "0.000  ");
+    Type_Row(5, {"2048", "1025", "3", "3", "4", "0"}); // beyond 2^21 bolts
+    EXPECT_EQ(Cell(5, 7) + Cell(5, 8), "0.000  0.000  ");
+    EXPECT_EQ(Remark(5), tooManyBoltsRemark);
+    Type(5, BoltColumn::ex, "0");
+    EXPECT_EQ(Cell(5, 7), "2,099,200.000  ");
+    EXPECT_EQ(Remark(5), "");
+    EXPECT_EQ(page->cFlex.Remark(5, BoltColumn::CPrime), tooManyBoltsRemark);
     Type_Row(3, {"1", "1", "3", "3", "4", "0"});
     EXPECT_EQ(Cell(3, 7) + Cell(3, 8), "0.000  0.000  ");
     Type_Row(4, {"2", "2", "1E300", "3", "1E300", "0"});
@@ -111,9 +120,17 @@ TEST_F(BoltPageTest, AnUnbalancedResultCarriesARemark) {
     p.cFlex.Move_To(1, 1);
     EXPECT_EQ(p.RowRemark.Caption(), Remark(1));
     p.SaveButton.Click();
+    machine.Events.Waiting.clear();
     Start();
+    EXPECT_TRUE(Remark(1).empty()); // found when there is nothing else to do
+    machine.Events.Be_Idle();
     EXPECT_FALSE(Remark(1).empty()); // a saved result is no better
+    EXPECT_EQ(page->RowRemark.Caption(), Remark(1));
     EXPECT_TRUE(Remark(2).empty());
+    Start();
+    Type(1, BoltColumn::ex, "0");
+    machine.Events.Be_Idle();
+    EXPECT_TRUE(Remark(1).empty()); // its own
 }
 
 TEST_F(BoltPageTest, AddAndRemoveRows) {
@@ -206,6 +223,46 @@ TEST_F(BoltPageTest, ClearAsksAndDeletesTheFile) {
     EXPECT_EQ(Cell(1, 0), "1");
     EXPECT_FALSE(std::filesystem::exists(File()));
     EXPECT_TRUE(std::filesystem::is_empty(machine.Data.Path));
+}
+
+TEST_F(BoltPageTest, CompleteRowsThatAreNotSavedAreCounted) {
+    BoltPage& p = Start();
+    EXPECT_EQ(p.UnsavedNote.Caption(), "");
+    Type_Row(1, sixInLine);
+    Type_Row(3, {"6", "1"});
+    EXPECT_EQ(p.UnsavedNote.Caption(), "1 row not saved");
+    Type_Row(2, sixInLine);
+    EXPECT_EQ(p.UnsavedNote.Caption(), "2 rows not saved");
+    std::filesystem::remove(File());
+    std::filesystem::create_directory(File());
+    p.SaveButton.Click(); // in vain
+    EXPECT_EQ(p.UnsavedNote.Caption(), "2 rows not saved");
+    std::filesystem::remove(File());
+    p.SaveButton.Click();
+    EXPECT_EQ(p.UnsavedNote.Caption(), "");
+    EXPECT_EQ(Start().UnsavedNote.Caption(), "");
+    Type(2, BoltColumn::ex, "5");
+    EXPECT_EQ(page->UnsavedNote.Caption(), "1 row not saved");
+    Type(2, BoltColumn::ex, "4");
+    EXPECT_EQ(page->UnsavedNote.Caption(), "");
+}
+
+TEST_F(BoltPageTest, ABlockOfRowsIsPastedWholeOrNotAtAll) {
+    BoltPage& p = Start();
+    p.cFlex.Move_To(2, 1);
+    machine.Clip.Set_Text("6\t1\t3\t3\t4\t0\n4\t2\t3\t3\t8\t30\n");
+    p.cFlex.OnPaste();
+    EXPECT_EQ(Cell(2, 1) + Cell(3, 6), "6.000  30.000  ");
+    EXPECT_EQ(Cell(2, 7) + Cell(3, 7), "4.558  3.253  ");
+    machine.Clip.Set_Text("1\t2\n3\t1E999\n");
+    p.cFlex.OnPaste();
+    EXPECT_EQ(machine.Boxes.Shown.back(),
+              "Warning|Invalid input for row 3. Nothing was pasted.|stop");
+    EXPECT_EQ(Cell(2, 1), "6.000  ");
+    p.cFlex.Select_Range(2, 1, 3, 6);
+    p.cFlex.OnKeyDown(Keys::Delete);
+    for (int col = 1; col < BoltColumn::Count; ++col)
+        EXPECT_EQ(Cell(2, col) + Cell(3, col), "") << col;
 }
 
 // The writer never makes such rows; the heads stay whatever a file says.

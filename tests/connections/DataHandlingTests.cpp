@@ -7,6 +7,8 @@
 #include <fstream>
 #include <random>
 
+#include <unistd.h>
+
 using namespace Tensarix;
 using namespace Tensarix::Tests;
 
@@ -92,11 +94,15 @@ TEST_F(BoltFileTest, ImpossibleCounts) {
         {1, 0, 1, 0, 0, 0, 1, 0, 0, 0},                // counted from 1
         {'P', 'K', 3, 4, 'n', 'o', 't', ' ', 'i', 't'} // something else
     };
+    int number = 0;
     for (const Bytes& head : heads) {
         Put(head);
         EXPECT_TRUE(Failed());
         EXPECT_FALSE(std::filesystem::exists(path));
-        EXPECT_EQ(Read_Whole_File(aside), head); // the newest one alone
+        std::filesystem::path kept = aside;
+        if (++number > 1)
+            kept += std::to_string(number);
+        EXPECT_EQ(Read_Whole_File(kept), head);
     }
     EXPECT_TRUE(entries.empty());
     EXPECT_TRUE(boxes.Shown.empty());
@@ -109,6 +115,21 @@ TEST_F(BoltFileTest, WhatIsNoFileIsToldAndLeftAlone) {
     EXPECT_EQ(boxes.Shown, (std::vector<std::string>(
                                2, "Warning:|Error No. 75:  Path/File access error|exclamation")));
     EXPECT_TRUE(std::filesystem::is_directory(path));
+}
+
+// The superuser reads everything: for him another user tries.
+TEST_F(BoltFileTest, AFileThatCannotBeReadIsLeftWhereItIs) {
+    WriteBoltFile(Two_Rows(), path, boxes);
+    std::filesystem::permissions(folder.Path, std::filesystem::perms::all);
+    std::filesystem::permissions(path, std::filesystem::perms::none);
+    const bool super = geteuid() == 0;
+    ASSERT_TRUE(!super || seteuid(65534) == 0);
+    EXPECT_FALSE(Failed());
+    ASSERT_TRUE(!super || seteuid(0) == 0);
+    EXPECT_EQ(boxes.Shown, (std::vector<std::string>{
+                               "Warning:|Error No. 75:  Path/File access error|exclamation"}));
+    EXPECT_TRUE(std::filesystem::exists(path));
+    EXPECT_FALSE(std::filesystem::exists(aside));
 }
 
 TEST_F(BoltFileTest, AFailedWriteLeavesTheOldFile) {

@@ -177,7 +177,7 @@ TEST_F(WeldPageTest, NumbersThatFailLeaveNoButtonsRunning) {
         EXPECT_EQ(p.CBox.Text(), "");
         EXPECT_EQ(Buttons(), idle);
     }
-    for (const char* L : {"1E999", "1E300", "-1E300"}) {
+    for (const char* L : {"1E999", "1E300", "-1E300"}) { // the first is no number: 0
         p.WeldFlex.Set_Text(0, 1, L);
         p.StartIterationButton.Click();
         EXPECT_EQ(Buttons(), idle) << L;
@@ -258,6 +258,18 @@ TEST_F(WeldPageTest, WhatHappensBeforeTheStopIsSeen) {
     EXPECT_EQ(p.CBox.Fore(), 0u);
     EXPECT_TRUE(Report().ends_with(located));
     EXPECT_EQ(Report().find("**"), Report().rfind("**"));
+
+    // Resumed from its own centre, not from that of a run before.
+    p.WeldView.Click(6);
+    Type_All({"10", "5", "3", "0"});
+    Stop_At(3000);
+    p.StartIterationButton.Click();
+    p.WeldView.Click(1);
+    afterStop([&] { p.StopIterationButton.Click(); });
+    const std::string resumed = p.CBox.Text();
+    onYield = [](long) {};
+    p.StartIterationButton.Click();
+    EXPECT_EQ(resumed, p.CBox.Text());
 
     afterStop([&] { Type(WeldRow::aL, "9"); }); // its result would be of the old inputs
     EXPECT_EQ(Report() + p.CBox.Text(), "");

@@ -101,6 +101,10 @@ void DesktopEvents::Turn() {
     turned_ = timer_.elapsed();
 }
 
+void DesktopEvents::When_Idle(std::function<void()> work) {
+    QTimer::singleShot(0, QCoreApplication::instance(), std::move(work));
+}
+
 void DesktopWindow::Set_On_Top(bool onTop) {
     if (!widget_ || widget_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop)
         return;

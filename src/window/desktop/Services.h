@@ -41,6 +41,7 @@ class DesktopEvents final : public EventLoop {
     DesktopEvents() { timer_.start(); }
     bool Yield() override;
     void Turn() override;
+    void When_Idle(std::function<void()> work) override;
     // The program is closing: every yield tells so from now on.
     void Close() { closing_ = true; }
 

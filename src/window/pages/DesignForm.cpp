@@ -59,6 +59,7 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     Bind(ui.AddRowButton, page.AddRowButton);
     Bind(ui.RemRowButton, page.RemRowButton);
     Bind(ui.SaveButton, page.SaveButton);
+    Bind(ui.UnsavedNote, page.UnsavedNote);
     Bind(ui.ClearButton, page.ClearButton);
     return form;
 }
