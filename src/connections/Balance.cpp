@@ -407,20 +407,27 @@ std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, d
     return balance ? std::optional(balance->C) : std::nullopt;
 }
 
-std::string Balance_Remark(double shown, const std::optional<Balance>& balance, double tolerance) {
-    if (!balance && shown > 0)
-        return "Not checked: no centre that satisfies all equilibrium conditions was found";
+double Excess_Over(const std::optional<Balance>& balance, double shown, double tolerance) {
     if (!balance || !(balance->C > 0) || !std::isfinite(shown))
-        return {};
+        return 0;
     const double excess = shown / balance->C - 1;
-    if (!(std::abs(excess) > tolerance))
+    return std::abs(excess) > tolerance ? excess : 0;
+}
+
+Advice Balance_Remark(double shown, const std::optional<Balance>& balance, double tolerance) {
+    if (!balance && shown > 0)
+        return {"Not checked: no centre that satisfies all equilibrium conditions was found",
+                RemarkWeight::Caution};
+    const double excess = Excess_Over(balance, shown, tolerance);
+    if (excess == 0)
         return {};
     std::string text = balance->ByLines
                            ? "AISC 360-05 J2.4(c), for lines along and across the load, gives C = "
                            : "The centre that satisfies all equilibrium conditions gives C = ";
     text.append(Format_Number(balance->C, "0.000")).append(" (this value is ");
     text.append(Format_Number(std::abs(excess) * 100, "0"));
-    return text.append(excess > 0 ? " % higher)" : " % lower)");
+    text.append(excess > 0 ? " % higher)" : " % lower)");
+    return {std::move(text), excess > 0 ? RemarkWeight::Unsafe : RemarkWeight::Note};
 }
 
 } // namespace Tensarix

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "connections/BoltFunctions.h"
+#include "controls/Remark.h"
 
 namespace Tensarix {
 
@@ -41,6 +42,10 @@ inline constexpr double weldRemarkTolerance = 0.05;
 
 // What stands beside a coefficient that is off by more than the tolerance, or that there is nothing
 // to hold against; else empty.
-std::string Balance_Remark(double shown, const std::optional<Balance>& balance, double tolerance);
+// Unsafe is more than the balanced C; less is a note.
+Advice Balance_Remark(double shown, const std::optional<Balance>& balance, double tolerance);
+// By how much a coefficient is above what it is held against, as a part of that; 0 within the
+// tolerance, and where there is nothing to hold against.
+double Excess_Over(const std::optional<Balance>& balance, double shown, double tolerance);
 
 } // namespace Tensarix

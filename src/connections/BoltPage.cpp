@@ -89,6 +89,7 @@ BoltPage::BoltPage(Desk& desk)
     ClearButton.OnClick = [this] { Clear_Click(); };
     cFlex.OnSelChange = [this] { Show_Selected(); };
     cFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
+    Verdicts.OnChoose = [this](int row) { Choose_Row(row); };
     cFlex.OnPaste = [this] { Paste(); };
     Add_Editing();
 }
@@ -109,6 +110,7 @@ void BoltPage::Start() {
     Take_Row_Count();
     Init_cFlex();
     Init_valFlex();
+    Show_No_Doubt();
     LoadBoltEntries();
     Show_Selected();
 }
@@ -192,6 +194,7 @@ void BoltPage::LoadBoltEntries() {
     }
     Remember_Saved();
     Show_Unsaved();
+    Show_No_Doubt();
     Remark_On_Next();
 }
 
@@ -210,6 +213,8 @@ void BoltPage::Remark_On_Next() {
             Remark_On(row, Typed_Number(cFlex.Text(row, BoltColumn::C)));
         if (row == cFlex.Row())
             Show_Selected();
+        if (unremarked_.empty())
+            Show_No_Doubt();
         Remark_On_Next();
     });
 }
@@ -223,7 +228,8 @@ void BoltPage::Show_Selected() {
         const int col = BoltColumn::ex + i;
         xxFlex.Set_Text(i, 1, With_Blanks(text(col), col == BoltColumn::Angle ? "°  " : "  "));
     }
-    RowRemark.Set_Caption(cFlex.Remark(row, BoltColumn::C));
+    RowRemark.Set_Caption(cFlex.Remark(row, BoltColumn::C),
+                          cFlex.Remark_Weight(row, BoltColumn::C));
     Draw_Group();
 }
 
@@ -283,6 +289,7 @@ void BoltPage::Calculate_C(int row) {
     if (IsBoltRowComplete(cFlex, row)) {
         const Inputs inputs = Row_Inputs(row);
         cFlex.Set_Remark(row, BoltColumn::C, std::string{computingRemark});
+        Verdicts.Set(row, {.Words = "computing ...", .Computing = true});
         if (row == cFlex.Row())
             Show_Selected();
         try {
@@ -320,15 +327,52 @@ void BoltPage::Remark_On(int row, double C) {
         for (const int col : {BoltColumn::C, BoltColumn::CPrime})
             if (Typed_Number(cFlex.Text(row, col)) == 0)
                 cFlex.Set_Remark(row, col, std::string{tooManyBoltsRemark}, RemarkWeight::Caution);
+        Verdicts.Set(row, {"not computed", RemarkWeight::Caution});
         return;
     }
     const auto balanced = Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle);
-    cFlex.Set_Remark(row, BoltColumn::C, Balance_Remark(C, balanced, boltRemarkTolerance));
+    const Advice remark = Balance_Remark(C, balanced, boltRemarkTolerance);
+    cFlex.Set_Remark(row, BoltColumn::C, remark.Text, remark.Weight);
+    if (remark.Text.empty()) {
+        Verdicts.Drop(row);
+        Show_No_Doubt();
+        return;
+    }
+    std::string words = "not checked";
+    if (balanced)
+        words = "use C = " + Format_Number(balanced->C, "0.000") + " (shown " +
+                Trim(cFlex.Text(row, BoltColumn::C)) + ")";
+    Verdicts.Set(row, {std::move(words), remark.Weight});
+}
+
+// What the line under the table says when no row is in doubt.
+void BoltPage::Show_No_Doubt() {
+    bool any = false;
+    for (int row = 1; row < cFlex.Rows() && !any; ++row)
+        any = IsBoltRowComplete(cFlex, row);
+    if (!any)
+        Verdicts.Set_Otherwise(
+            "Type m, n, sv, sh, ex and Ø: a row is computed when it is complete");
+    else if (!unremarked_.empty())
+        Verdicts.Set_Otherwise("Checking the saved rows ...");
+    else
+        Verdicts.Set_Otherwise("All rows in equilibrium within 2.5 %");
+}
+
+void BoltPage::Choose_Row(int row) {
+    if (row < 1 || row >= cFlex.Rows())
+        return;
+    editing_.Leave();
+    cFlex.Move_To(row, BoltColumn::C);
+    cFlex.Focus.Set();
+    Run(cFlex.BringIntoView);
 }
 
 void BoltPage::Empty_Results(int row) {
     cFlex.Set_Text(row, BoltColumn::C, {});
     cFlex.Set_Text(row, BoltColumn::CPrime, {});
+    Verdicts.Drop(row);
+    Show_No_Doubt();
 }
 
 void BoltPage::AddRow_Click() {
@@ -352,6 +396,8 @@ void BoltPage::RemRow_Click() {
     if (cFlex.Row() >= rows)
         editing_.Hide(); // what is being typed there goes with the row
     cFlex.Set_Rows(rows);
+    Verdicts.Drop_From(rows);
+    Show_No_Doubt();
     RemRowButton.Enable(BoltRowCount > leastBoltRowCount);
     Show_Selected();
     Show_Unsaved();
@@ -419,6 +465,8 @@ void BoltPage::Clear_Rows() {
         for (int col = BoltColumn::FirstInput; col < BoltColumn::Count; ++col)
             cFlex.Set_Text(row, col, {});
     }
+    Verdicts.Drop_From(0);
+    Show_No_Doubt();
 }
 
 void BoltPage::Remember_Saved() {

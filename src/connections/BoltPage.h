@@ -4,6 +4,7 @@
 
 #include "connections/BoltFunctions.h"
 #include "connections/DataHandling.h"
+#include "connections/RowVerdicts.h"
 #include "controls/CellEditing.h"
 #include "controls/Controls.h"
 #include "controls/DrawingBox.h"
@@ -52,6 +53,7 @@ class BoltPage {
     FlexGrid ccFlex, xxFlex; // the current row once more
     Label RowRemark;         // what is to be said about it
     DrawingBox GroupSketch;  // its group
+    RowVerdicts Verdicts;    // which rows not to use as they are
     Label UnsavedNote;       // how many complete rows are not in the file as they stand
     TextBox EdiTxt;          // over the cell that is being edited
     Button AddRowButton, RemRowButton, SaveButton, ClearButton;
@@ -93,6 +95,8 @@ class BoltPage {
     double Search(int row, const Inputs& inputs, unsigned search);
     void Show_Results(int row, double C, double CPrime);
     void Remark_On(int row, double C);
+    void Show_No_Doubt();
+    void Choose_Row(int row);
     void Remark_On_Next(); // of the rows that were read
     void Remember_Saved();
     void Show_Unsaved();

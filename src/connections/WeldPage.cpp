@@ -158,6 +158,8 @@ void WeldPage::Empty_Report() {
     IterationDisplayBox.Set_Text({});
     CBox.Set_Text({});
     CRemark.Set_Caption({});
+    BalancedCaption.Set_Caption({});
+    BalancedBox.Set_Text({});
     ElapsedIndicator.Set_Caption({});
 }
 

@@ -38,6 +38,9 @@ class WeldPage {
     ReportBox IterationDisplayBox;
     Label ElapsedIndicator;
     ResultBox CBox;
+    // What the result is held against, where the two part.
+    Label BalancedCaption;
+    ResultBox BalancedBox;
     Label CRemark; // what is to be said about the result
     Button StartIterationButton, StopIterationButton, ClearDisplayButton;
 
@@ -83,7 +86,7 @@ class WeldPage {
     Outcome Search(const Inputs& inputs, unsigned run);
     void Show_Converged(const Inputs& inputs, double C);
     void Show_Aborted(const Inputs& inputs, double C);
-    std::string Balance_Remark(const Inputs& inputs, double C) const;
+    Advice Show_Balance(const Inputs& inputs, double C);
     std::optional<std::array<std::string, 4>> Typed_Inputs() const;
     void Show_Running();
     void Show_Centroid(int row, std::string text, Alignment alignment);

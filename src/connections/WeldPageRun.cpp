@@ -5,6 +5,7 @@
 #include "connections/Numbers.h"
 #include "connections/WeldPage.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Tensarix {
@@ -109,7 +110,8 @@ void WeldPage::Show_Converged(const Inputs& inputs, double C) {
                                       "            Manual, 13th Edition"));
     CBox.Set_Fore(black);
     CBox.Set_Text(Format_Number(C, resultPattern));
-    CRemark.Set_Caption(Balance_Remark(inputs, C));
+    const Advice remark = Show_Balance(inputs, C);
+    CRemark.Set_Caption(remark.Text, remark.Weight);
 }
 
 // Its reference is worded in another way, by which a copied report shows how its run ended.
@@ -119,15 +121,22 @@ void WeldPage::Show_Aborted(const Inputs& inputs, double C) {
                                       "            13th Edition"));
     CBox.Set_Fore(red);
     CBox.Set_Text("** " + Format_Number(C, resultPattern));
-    const std::string balance = Balance_Remark(inputs, C);
+    const Advice balance = Show_Balance(inputs, C);
     CRemark.Set_Caption("Stopped by hand before the search had come to its end." +
-                        (balance.empty() ? balance : "\n" + balance));
+                            (balance.Text.empty() ? balance.Text : "\n" + balance.Text),
+                        std::max(balance.Weight, RemarkWeight::Caution));
 }
 
-std::string WeldPage::Balance_Remark(const Inputs& inputs, double C) const {
-    const auto balanced =
+// The C to hold the result against stands beside it where the two part.
+Advice WeldPage::Show_Balance(const Inputs& inputs, double C) {
+    const auto balance =
         Balanced_Welds(WeldConfigIndex, inputs.L, inputs.kL, inputs.aL, inputs.Angle);
-    return Tensarix::Balance_Remark(C, balanced, weldRemarkTolerance);
+    if (Excess_Over(balance, C, weldRemarkTolerance) != 0) {
+        BalancedCaption.Set_Caption(balance->ByLines ? "C by AISC 360-05 J2.4(c)"
+                                                     : "C in equilibrium");
+        BalancedBox.Set_Text(Format_Number(balance->C, resultPattern));
+    }
+    return Balance_Remark(C, balance, weldRemarkTolerance);
 }
 
 double WeldPage::Centroid(std::int16_t mode) {

@@ -346,7 +346,7 @@ TEST(BalanceRemark, TheBoltSearchIsNeverBelowTheBalancedLoad) {
                     EXPECT_GT(C / balanced.value_or(Balance{1e9}).C, 1.018)
                         << m << " x " << n << " at " << ex;
                     above.Take(C / balanced->C - 1, std::to_string(m) + " x " + std::to_string(n));
-                    remarks += !Balance_Remark(C, balanced, boltRemarkTolerance).empty();
+                    remarks += !Balance_Remark(C, balanced, boltRemarkTolerance).Text.empty();
                 }
         EXPECT_TRUE(angle > 0 || remarks < 5);
         above.Record(std::to_string(int(angle)) + " degrees, " + std::to_string(remarks) +
@@ -372,7 +372,7 @@ TEST(BalanceRemark, TheWeldSearchIsBelowTheBalancedLoadUnderAnUprightLoad) {
                 const std::string at = "item " + std::to_string(item);
                 above.Take(C / balanced->C - 1, at);
                 below.Take(1 - C / balanced->C, at);
-                remarks += !Balance_Remark(C, balanced, weldRemarkTolerance).empty();
+                remarks += !Balance_Remark(C, balanced, weldRemarkTolerance).Text.empty();
                 EXPECT_TRUE(angle > 0 || C < balanced->C) << at;
             }
         const std::string run =
@@ -382,26 +382,30 @@ TEST(BalanceRemark, TheWeldSearchIsBelowTheBalancedLoadUnderAnUprightLoad) {
     }
 }
 
-TEST(BalanceRemark, StandsBeyondTheTolerance) {
+TEST(BalanceRemark, StandsBeyondTheToleranceAndWeighsBySide) {
     CountingTurn turn;
     SearchYield yield(std::ref(turn));
     const BoltGroup group{3, 1, 3, 3};
     const double C = BoltCoefficientC(group, 8, 0, yield);
+    const Advice none;
     EXPECT_EQ(Balance_Remark(C, Balanced_Bolts(group, 8, 0), boltRemarkTolerance),
-              "The centre that satisfies all equilibrium conditions gives C = 0.732 (this value is "
-              "310 % higher)");
+              (Advice{"The centre that satisfies all equilibrium conditions gives C = 0.732 (this "
+                      "value is 310 % higher)",
+                      RemarkWeight::Unsafe}));
     EXPECT_EQ(Balance_Remark(0.9, Balance{1.0}, 0.05),
-              "The centre that satisfies all equilibrium conditions gives C = 1.000 (this value is "
-              "10 % lower)");
-    EXPECT_EQ(
-        Balance_Remark(1.1, Balance{.C = 1, .ByLines = true}, 0.05),
-        "AISC 360-05 J2.4(c), for lines along and across the load, gives C = 1.000 (this value "
-        "is 10 % higher)");
-    EXPECT_EQ(Balance_Remark(4.5584, Balanced_Bolts({6, 1, 3, 3}, 4, 0), 0.025), "");
+              (Advice{"The centre that satisfies all equilibrium conditions gives C = 1.000 (this "
+                      "value is 10 % lower)",
+                      RemarkWeight::Note}));
+    EXPECT_EQ(Balance_Remark(1.1, Balance{.C = 1, .ByLines = true}, 0.05),
+              (Advice{"AISC 360-05 J2.4(c), for lines along and across the load, gives C = 1.000 "
+                      "(this value is 10 % higher)",
+                      RemarkWeight::Unsafe}));
+    EXPECT_EQ(Balance_Remark(4.5584, Balanced_Bolts({6, 1, 3, 3}, 4, 0), 0.025), none);
     EXPECT_EQ(Balance_Remark(1.0, std::nullopt, 0.025),
-              "Not checked: no centre that satisfies all equilibrium conditions was found");
-    EXPECT_EQ(Balance_Remark(0.0, std::nullopt, 0.025), ""); // no group, no load
-    EXPECT_EQ(Balance_Remark(0.0, Balance{}, 0.025), "");
+              (Advice{"Not checked: no centre that satisfies all equilibrium conditions was found",
+                      RemarkWeight::Caution}));
+    EXPECT_EQ(Balance_Remark(0.0, std::nullopt, 0.025), none); // no group, no load
+    EXPECT_EQ(Balance_Remark(0.0, Balance{}, 0.025), none);
 }
 
 } // namespace

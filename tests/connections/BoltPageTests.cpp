@@ -133,6 +133,35 @@ TEST_F(BoltPageTest, AnUnbalancedResultCarriesARemark) {
     EXPECT_TRUE(Remark(1).empty()); // its own
 }
 
+TEST_F(BoltPageTest, TheLineUnderTheTableNamesEachRowNotToUse) {
+    BoltPage& p = Start();
+    EXPECT_EQ(p.Verdicts.Text(),
+              "Type m, n, sv, sh, ex and Ø: a row is computed when it is complete");
+    Type_Row(1, sixInLine);
+    EXPECT_EQ(p.Verdicts.Text(), "All rows in equilibrium within 2.5 %");
+    Type_Row(3, {"3", "1", "3", "3", "8", "0"});
+    Type_Row(4, {"4", "2", "3", "3", "8", "30"});
+    EXPECT_EQ(p.Verdicts.Text(), "Row 3: use C = 0.732 (shown 3.000). Row 4: use C = 3.147 (shown "
+                                 "3.253).");
+    EXPECT_EQ(p.Verdicts.Rows().at(3).Weight, RemarkWeight::Unsafe);
+    p.Verdicts.OnChoose(3);
+    EXPECT_EQ(p.cFlex.Row(), 3);
+    EXPECT_EQ(p.RowRemark.Caption_Weight(), RemarkWeight::Unsafe);
+    std::string meanwhile;
+    machine.Events.OnYield = [&] {
+        meanwhile = p.Verdicts.Text();
+        return true;
+    };
+    Type(3, 5, "9");
+    EXPECT_TRUE(meanwhile.starts_with("Row 3: computing")) << meanwhile;
+    machine.Events.OnYield = nullptr;
+    p.cFlex.Move_To(4, 3);
+    p.cFlex.OnKeyDown(Keys::Delete);
+    p.cFlex.Move_To(3, 3);
+    p.cFlex.OnKeyDown(Keys::Delete);
+    EXPECT_EQ(p.Verdicts.Text(), "All rows in equilibrium within 2.5 %");
+}
+
 TEST_F(BoltPageTest, AddAndRemoveRows) {
     BoltPage& p = Start();
     EXPECT_EQ(p.cFlex.Rows(), 16);

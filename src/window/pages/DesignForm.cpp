@@ -54,6 +54,7 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     Show_Whole(ui.xxFlex);
     Bind(ui.GroupSketch, page.GroupSketch);
     Keep_Room(ui.GroupSketch);
+    ui.Verdicts->Show_Verdicts(page.Verdicts);
     Bind(ui.RowRemark, page.RowRemark);
     Keep_Width(ui.RowRemark);
     Bind(ui.AddRowButton, page.AddRowButton);
@@ -91,6 +92,9 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.ElapsedIndicator, page.ElapsedIndicator);
     Bind(ui.CBox, page.CBox);
     ui.CBox->setMinimumWidth(ui.CBox->fontMetrics().horizontalAdvance(widestResult));
+    Bind(ui.BalancedCaption, page.BalancedCaption);
+    Bind(ui.BalancedBox, page.BalancedBox);
+    ui.BalancedBox->setMinimumWidth(ui.CBox->minimumWidth());
     Bind(ui.CRemark, page.CRemark);
     // Its room is kept, so that nothing moves when a run ends.
     ui.CRemark->setMinimumHeight(remarkLines * ui.CRemark->fontMetrics().lineSpacing());

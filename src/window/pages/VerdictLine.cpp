@@ -1,0 +1,72 @@
+#include "window/pages/VerdictLine.h"
+
+#include "window/Link.h"
+#include "window/Theme.h"
+
+#include <QEvent>
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int lines = 2;
+constexpr int mostShown = 200; // more can't be read in two lines
+
+} // namespace
+
+VerdictLine::VerdictLine(QWidget* parent) : QTextBrowser(parent) {
+    setOpenLinks(false);
+    setTabChangesFocus(true);
+    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& row) {
+        if (verdicts_ && verdicts_->OnChoose)
+            verdicts_->OnChoose(row.toString().toInt());
+    });
+}
+
+void VerdictLine::Show_Verdicts(RowVerdicts& verdicts) {
+    verdicts_ = &verdicts;
+    new Link(this, verdicts.Shown, [this] { Pull(); });
+}
+
+void VerdictLine::Pull() {
+    const int margin = static_cast<int>(document()->documentMargin());
+    setFixedHeight(lines * fontMetrics().lineSpacing() + 2 * (frameWidth() + margin));
+    setHtml(In_Html());
+    setAccessibleDescription(QString::fromStdString(verdicts_->Text()));
+}
+
+QString VerdictLine::In_Html() const {
+    const auto& rows = verdicts_->Rows();
+    if (rows.empty())
+        return QString::fromStdString(verdicts_->Otherwise()).toHtmlEscaped();
+    const QString ink = palette().color(QPalette::Text).name();
+    const QString ground = Tint_Colour(Drawn::Ink::Alert, palette()).name();
+    QString html;
+    int count = 0;
+    for (const auto& [row, verdict] : rows) {
+        if (++count > mostShown)
+            return html + QStringLiteral("...");
+        const QString words = QStringLiteral("Row %1: %2.")
+                                  .arg(row)
+                                  .arg(QString::fromStdString(verdict.Words).toHtmlEscaped());
+        const QString link =
+            QStringLiteral("<a href='%1' style='color:%2'>%3</a>").arg(row).arg(ink, words);
+        if (verdict.Computing)
+            html += QStringLiteral("<i>%1</i> ").arg(words);
+        else if (verdict.Weight == RemarkWeight::Unsafe)
+            html += QStringLiteral("<span style='background-color:%1'>&#9888;&nbsp;%2</span> ")
+                        .arg(ground, link);
+        else
+            html += link + QLatin1Char(' ');
+    }
+    return html;
+}
+
+void VerdictLine::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    const bool look = event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
+    if (look && verdicts_)
+        Pull();
+}
+
+} // namespace Tensarix
