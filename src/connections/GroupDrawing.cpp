@@ -74,11 +74,11 @@ void Add_Centre(Drawing& drawing, Point centre, double near, MarkKind kind, Ink 
         drawing.Add(Mark{centre, kind, name}, ink, name);
         return;
     }
-    constexpr double from = 0.75; // of what counts as near
-    const Point to{centre.X / away, centre.Y / away};
-    drawing.Add(Arrow{{to.X * near * from, to.Y * near * from},
-                      {to.X * near, to.Y * near},
-                      name + " outside (" + Inches(away) + ")"},
+    constexpr double from = 0.45, to = 0.7; // of what counts as near
+    const Point towards{centre.X / away * near, centre.Y / away * near};
+    drawing.Add(Arrow{{towards.X * from, towards.Y * from},
+                      {towards.X * to, towards.Y * to},
+                      name + " outside"},
                 ink, name);
 }
 

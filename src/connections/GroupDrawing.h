@@ -27,12 +27,12 @@ std::string Known_Text(const std::optional<double>& value);
 // The arrow with the vertical and the angle between them, and the eccentricity by its symbol.
 void Add_Load(Drawing& drawing, const GroupLoad& load, const std::string& symbol);
 
-// A centre of rotation: a mark where it is near, else an arrow from the group towards it that tells
-// how far away it is. `near` is in the drawing's units from the centroid.
+// A centre of rotation: a mark where it is near, else an arrow from the group towards it. `near` is
+// in the drawing's units from the centroid.
 void Add_Centre(Drawing& drawing, Drawn::Point centre, double near, Drawn::MarkKind kind,
                 Drawn::Ink ink, const std::string& name);
 
-// "3.2 in. left of the centroid and 0.5 in. above it"
+// "3.2 in. left of the centroid and 0.5 in. above it".
 std::string Place_In_Words(Drawn::Point centre);
 
 } // namespace Tensarix

@@ -160,6 +160,7 @@ void WeldPage::Empty_Report() {
     CRemark.Set_Caption({});
     BalancedCaption.Set_Caption({});
     BalancedBox.Set_Text({});
+    CBox.Set_Remark({});
     ElapsedIndicator.Set_Caption({});
 }
 

@@ -112,6 +112,7 @@ void WeldPage::Show_Converged(const Inputs& inputs, double C) {
     CBox.Set_Text(Format_Number(C, resultPattern));
     const Advice remark = Show_Balance(inputs, C);
     CRemark.Set_Caption(remark.Text, remark.Weight);
+    CBox.Set_Remark(remark.Text, remark.Weight);
 }
 
 // Its reference is worded in another way, by which a copied report shows how its run ended.

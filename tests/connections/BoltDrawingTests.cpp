@@ -85,7 +85,9 @@ TEST(BoltDrawing, CentresNearAndFar) {
     EXPECT_NEAR(centre.At.Y, 0, 1e-6);
     const Arrow outside = Parts_Of<Arrow>(drawing, "Search").at(0);
     EXPECT_LT(outside.Head.X, outside.Tail.X);
-    EXPECT_EQ(outside.Label, "Search outside (1.0E+5 in.)");
+    EXPECT_EQ(outside.Label, "Search outside");
+    EXPECT_NE(drawing.Sentence.find("own centre is 1.0E+5 in. left of the centroid"),
+              std::string::npos);
     picture.SearchRo = -centre.At.X + 0.01; // the same
     EXPECT_TRUE(Parts_Of<Mark>(Bolt_Group_Drawing(picture), "Search").empty());
 }

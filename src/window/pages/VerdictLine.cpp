@@ -1,7 +1,7 @@
 #include "window/pages/VerdictLine.h"
 
 #include "window/Link.h"
-#include "window/Theme.h"
+#include "window/RemarkLook.h"
 
 #include <QEvent>
 
@@ -40,7 +40,7 @@ QString VerdictLine::In_Html() const {
     if (rows.empty())
         return QString::fromStdString(verdicts_->Otherwise()).toHtmlEscaped();
     const QString ink = palette().color(QPalette::Text).name();
-    const QString ground = Tint_Colour(Drawn::Ink::Alert, palette()).name();
+    const QString ground = Remark_Ground(RemarkWeight::Unsafe, palette()).name();
     QString html;
     int count = 0;
     for (const auto& [row, verdict] : rows) {
