@@ -1,5 +1,6 @@
 #include "EveryScreen.h"
 
+#include "window/calculator/CalcResultsDialog.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/grid/GridView.h"
 #include "window/pages/ReportView.h"
@@ -358,6 +359,12 @@ class Walk {
                       Press(form, {"key_AC", "key_1", "key_plus", "key_3", "key_Xy", "key_2",
                                    "key_multiply", "key_4", "key_equal"});
                       Show("calculator, remark", form);
+                      QTest::keyClick(&form, Qt::Key_L, Qt::ControlModifier);
+                      auto& results = *form.findChild<CalcResultsDialog*>();
+                      Activate(results);
+                      Show("calculator, results", results);
+                      Leave(results);
+                      Activate(form);
                       Press(form, {"key_divide", "key_0", "key_equal"});
                       Show("calculator, error", form);
                       Press(form, {"key_AC", "key_6", "key_9", "key_Fact", "key_PM", "key_Min",

@@ -2,6 +2,7 @@
 
 #include "calculator/CalcConversions.h"
 #include "calculator/CalcDisplay.h"
+#include "calculator/CalcResults.h"
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
@@ -295,7 +296,9 @@ void Equals_Step(CalcMainFrm& form) {
         pending.Operands.push_back(Leading_Value(vars.Entry.EntryText));
         pending.Chain.Take_Number(pending.Operands.back());
     }
+    const std::string chain = Chain_To_Compute(vars);
     Evaluation_Step(form);
+    Keep_Result(form, chain);
     pending.Chain.Start(pending.Running);
     pending.Chain.Waiting = pending.ResumeText;
     for (std::string* op : {&pending.Op1, &pending.Op2, &pending.Op3})

@@ -102,6 +102,13 @@ struct StatisticsState {
     bool DataUnsaved = false;
 };
 
+// A result of "=" and how it came about.
+struct CalcResult {
+    std::string Chain;  // "5 + 3 × 7"
+    double Value = 0;   // what the next operator takes
+    std::string Remark; // that stood beside it, or empty
+};
+
 struct CalcVariables {
     EntryState Entry;
     PendingState Pending;
@@ -109,6 +116,7 @@ struct CalcVariables {
     DisplayState Display;
     MemoryState Memory;
     StatisticsState Statistics;
+    std::vector<CalcResult> Results; // the last hundred, the newest first; beside the engine
 };
 
 } // namespace Tensarix

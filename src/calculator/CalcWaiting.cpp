@@ -11,21 +11,6 @@ namespace {
 
 constexpr std::size_t termsShown = 5;
 
-// Its last terms, if they are more than fit.
-std::string Chain_Waiting(const PriorityChain& chain) {
-    if (chain.Lost || chain.Operators.empty())
-        return {};
-    const std::size_t count = chain.Operators.size();
-    const std::size_t first = count - std::min(count, termsShown);
-    std::string text = first > 0 ? "… " : "";
-    for (std::size_t i = first; i < count; ++i)
-        text.append(i > first ? " " : "")
-            .append(Number_Text(chain.Numbers[i]))
-            .append(" ")
-            .append(Operator_Sign(chain.Operators[i]));
-    return text;
-}
-
 std::string Conversion_Waiting(const ConversionState& conversion) {
     if (conversion.PolarActive)
         return "r = " + Number_Text(conversion.PolarRadius.value_or(0)) + ", angle?";
@@ -62,6 +47,20 @@ std::string_view Operator_Sign(std::string_view op) {
                              : op;
 }
 
+std::string Chain_Text(const PriorityChain& chain, std::size_t terms) {
+    if (chain.Lost || chain.Operators.empty())
+        return {};
+    const std::size_t count = chain.Operators.size();
+    const std::size_t first = count - std::min(count, terms);
+    std::string text = first > 0 ? "… " : "";
+    for (std::size_t i = first; i < count; ++i)
+        text.append(i > first ? " " : "")
+            .append(Number_Text(chain.Numbers[i]))
+            .append(" ")
+            .append(Operator_Sign(chain.Operators[i]));
+    return text;
+}
+
 std::string Waiting_Text(const CalcMainFrm& form) {
     const CalcVariables& vars = form.Vars;
     if (vars.Display.ErrorLatched || vars.Display.ClockRunning)
@@ -72,7 +71,7 @@ std::string Waiting_Text(const CalcMainFrm& form) {
             return text;
     if (form.Panel.DataTaken)
         return "n = " + std::to_string(vars.Statistics.DataList.size());
-    return Chain_Waiting(vars.Pending.Chain);
+    return Chain_Text(vars.Pending.Chain, termsShown);
 }
 
 } // namespace Tensarix

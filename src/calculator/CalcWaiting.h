@@ -11,6 +11,9 @@ namespace Tensarix {
 // at rest, behind an error and while the clock runs.
 std::string Waiting_Text(const CalcMainFrm& form);
 
+// The chain up to its last operator, from so many terms behind; empty if there is none.
+std::string Chain_Text(const PriorityChain& chain, std::size_t terms);
+
 // The operator as its key shows it.
 std::string_view Operator_Sign(std::string_view op);
 

@@ -243,6 +243,28 @@ TEST_F(CalcWindowTest, TheListOfDecimalsChangesOnlyInSight) {
     });
 }
 
+TEST_F(CalcWindowTest, AResultOfBeforeGoesIntoTheDisplay) {
+    Calculate([](QWidget& calculator) {
+        Type(calculator, "5+3*7=1/4=2*");
+        QTest::keyClick(&calculator, Qt::Key_L, Qt::ControlModifier);
+        auto& list = Of<QListWidget>(calculator, "ResultBox");
+        ASSERT_EQ(list.count(), 2);
+        EXPECT_EQ(list.item(1)->text(), "5 + 3 × 7 = 26");
+        list.setCurrentRow(1);
+        QTest::keyClick(&list, Qt::Key_Return);
+        EXPECT_EQ(Display(calculator), "26.");
+        QTest::keySequence(&list, QKeySequence::Copy);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "26");
+        Type(calculator, "=");
+        EXPECT_EQ(Display(calculator), "52.");
+        EXPECT_EQ(list.item(0)->text(), "2 × 26 = 52");
+        EXPECT_EQ(list.currentRow(), 2);
+        Click(calculator, "ResultsButton");
+        Settle();
+        EXPECT_EQ(calculator.findChild<QListWidget*>(QStringLiteral("ResultBox")), nullptr);
+    });
+}
+
 TEST_F(CalcWindowTest, AnErrorLatchesUntilAllClear) {
     Calculate([](QWidget& calculator) {
         Type(calculator, "1/0=");

@@ -5,6 +5,7 @@
 #include "calculator/CalcHelpModule.h"
 #include "calculator/CalcMemoryFrm.h"
 #include "calculator/CalcStatistics.h"
+#include "calculator/CalcText.h"
 #include "calculator/CalcWaiting.h"
 #include "shell/Version.h"
 #include "ui_CalcWindow.h"
@@ -17,6 +18,7 @@
 #include "window/calculator/CalcHelpDialog.h"
 #include "window/calculator/CalcKeyLayout.h"
 #include "window/calculator/CalcMemoryDialog.h"
+#include "window/calculator/CalcResultsDialog.h"
 
 #include <QDateTime>
 #include <QEvent>
@@ -131,6 +133,7 @@ CalcWindow::CalcWindow(const Desk& desk, CalcVariables& vars, QWidget* parent)
     for (int page = 0; page < ui_->MultiPage1->count(); ++page)
         ui_->MultiPage1->setTabText(page, Tab_Text(static_cast<CalcPage>(page + 1)));
     Make_Modes();
+    connect(ui_->ResultsButton, &QAbstractButton::clicked, this, &CalcWindow::Toggle_Results);
     for (const CalcPage page :
          {CalcPage::First, CalcPage::Second, CalcPage::Third, CalcPage::Mode, CalcPage::Pad})
         Make_Keys(page);
@@ -203,6 +206,25 @@ void CalcWindow::Show_Help() {
                     desk_.ReadOut, speak);
     CalcHelpDialog dialog(frm, desk_.Host.Speech, this);
     Open_Dialog(dialog);
+}
+
+// It stays open while keys are pressed, as long as the calculator does.
+void CalcWindow::Toggle_Results() {
+    if (results_) {
+        results_->close();
+        return;
+    }
+    const auto use = [this](double value) {
+        Do([&] { Key_In_Number(calc_, Number_Text(value)); });
+    };
+    const auto copy = [this](double value) { desk_.Host.Clip.Set_Text(Number_Text(value)); };
+    results_ = new CalcResultsDialog(calc_.Vars.Results, use, copy, this);
+    results_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(results_, &QObject::destroyed, this, [this] { results_ = nullptr; });
+    const int right = frameGeometry().right();
+    const bool fits = right + results_->width() <= screen()->availableGeometry().right();
+    results_->move(fits ? right : std::max(x() - results_->width(), 0), y());
+    results_->show();
 }
 
 // All parts tell their sizes anew, from the inside.
@@ -324,6 +346,8 @@ void CalcWindow::Show_Panel() {
     for (QLabel* cut : {ui_->PanelRemark, ui_->WaitingLab})
         cut->setToolTip(cut->text());
     Show_Weight(*ui_->PanelRemark, panel.Remark);
+    if (results_)
+        results_->Show_Results();
     const std::pair<QRadioButton*, bool> options[] = {
         {ui_->StdButton, panel.DispMode_Indicator == DisplayMode::Norm},
         {ui_->FxnButton, panel.DispMode_Indicator == DisplayMode::Fix},
@@ -396,6 +420,8 @@ void CalcWindow::keyPressEvent(QKeyEvent* event) {
         Copy();
     else if (event->matches(QKeySequence::Paste))
         Paste();
+    else if (event->keyCombination() == QKeyCombination(Qt::ControlModifier, Qt::Key_L))
+        Toggle_Results();
     else if (const CalcKey* key = Key_For(*event))
         Type(*key);
     else

@@ -19,6 +19,8 @@ class CalcWindow;
 
 namespace Tensarix {
 
+class CalcResultsDialog;
+
 class CalcWindow final : public QDialog {
     Q_OBJECT
 
@@ -59,12 +61,14 @@ class CalcWindow final : public QDialog {
     void Measure_Anew();
     void Fit_Font();
     void Open_Dialog(QDialog& dialog);
+    void Toggle_Results();
     void Show_Help();
 
     const Desk& desk_;
     CalcMainFrm calc_;
     std::unique_ptr<Ui::CalcWindow> ui_;
     std::map<std::string_view, CalcKeyButton*> buttons_; // by the name of the key
+    CalcResultsDialog* results_ = nullptr;               // beside the calculator while it is open
     QEventLoop* clockLoop_ = nullptr;                    // in which the running clock waits
     bool showing_ = false;                               // the panel is being shown
     bool closed_ = false;
