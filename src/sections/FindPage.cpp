@@ -32,7 +32,11 @@ FindPage::FindPage(Desk& desk) : desk_(desk) {
     fProfileOption2.OnClick = [this] { Choose_Profile(Profile::SI); };
     fDimOption1.OnClick = [this] { Choose_Style(DimensionStyle::Decimal); };
     fDimOption2.OnClick = [this] { Choose_Style(DimensionStyle::Imperial); };
-    fShapeFlex.OnSelChange = [this] { Show_Table_Selection(desk_, fShapeFlex); };
+    fShapeFlex.OnSelChange = [this] {
+        Show_Table_Selection(desk_, fShapeFlex);
+        Draw_Table_Selection(SectionDrawing, fShapeFlex, fShapeType.ListIndex(), View());
+    };
+    Show_What_To_Do();
     fShapeFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
 }
 
@@ -156,12 +160,25 @@ void FindPage::Fill_Grid(bool searching) {
     const CurrentCell before = Current_Cell(fShapeFlex);
     Attempt([&] {
         const Family& family = Family_At(fShapeType.ListIndex());
-        count_ = family.Find(fShapeFlex, family.Type, {desk_.Host.Places.Program, profile_, style_},
-                             searching, condition);
+        count_ = family.Find(fShapeFlex, family.Type, View(), searching, condition);
         searched_ = searching;
     });
-    Follow_Current_Cell(desk_, fShapeFlex, before);
+    Show_What_To_Do();
+    if (Follow_Current_Cell(desk_, fShapeFlex, before))
+        Draw_Table_Selection(SectionDrawing, fShapeFlex, fShapeType.ListIndex(), View());
     Run(OnCount);
+}
+
+SectionView FindPage::View() const {
+    return {desk_.Host.Places.Program, profile_, style_};
+}
+
+// In the place of the drawing, until a section is selected.
+void FindPage::Show_What_To_Do() {
+    const std::string_view hint = !searched_          ? "Choose a property and press Go"
+                                  : count_.Found == 0 ? "No section meets the condition"
+                                                      : NoSectionDrawn;
+    SectionDrawing.Set_Drawing({std::string{hint}});
 }
 
 void FindPage::Fill_Values() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/Controls.h"
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 #include "sections/FamilyTable.h"
@@ -20,6 +21,7 @@ class FindPage {
     OptionButton fProfileOption1, fProfileOption2;
     OptionButton fDimOption1, fDimOption2;
     FlexGrid fShapeFlex;
+    DrawingBox SectionDrawing; // of the current row
 
     Handler OnCount; // Count_Text has changed
 
@@ -56,6 +58,8 @@ class FindPage {
     void Fill_Values();
     void Show_Note();
     void Fill_Grid(bool searching);
+    SectionView View() const;
+    void Show_What_To_Do();
 
     Desk& desk_;
     Profile profile_ = Profile::US;

@@ -104,7 +104,7 @@ class SectionPen {
     // Lines and marks with a meaning of their own beside the outline.
     void Plastic_Axis(std::string_view name, Point from, Point to);
     void Place(MarkKind kind, std::string label, Point at);
-    void Tell();
+    void Tell(const std::string& unit);
 
     const SectionRecordset& record_;
     const Family& family_;
@@ -132,8 +132,10 @@ Drawing SectionPen::Draw() {
         Draw_Pair();
     else
         Draw_Beam();
-    drawing_.ScaleUnit = units_ == Profile::US ? "in." : "mm";
-    Tell();
+    const std::string unit = units_ == Profile::US ? "in." : "mm";
+    if (!small_)
+        drawing_.ScaleUnit = unit;
+    Tell(unit);
     return std::move(drawing_);
 }
 
@@ -380,7 +382,7 @@ void SectionPen::Place(MarkKind kind, std::string label, Point at) {
 }
 
 // "W18x50 to scale: d = 18.00 in., bf = 7.50 in."
-void SectionPen::Tell() {
+void SectionPen::Tell(const std::string& unit) {
     std::string text = units_ == Profile::US ? name_ : Trim(record_.Text("xIDE_STD_Nomenclature"));
     text += " to scale";
     std::string_view before = ": ";
@@ -389,7 +391,7 @@ void SectionPen::Tell() {
         if (const auto* dimension = std::get_if<Dimension>(&part.What)) {
             text.append(before).append(dimension->Symbol).append(" = ").append(dimension->Value);
             if (withUnit)
-                text.append(" ").append(drawing_.ScaleUnit);
+                text.append(" ").append(unit);
             before = ", ";
         }
     drawing_.Sentence = text;

@@ -1,6 +1,7 @@
 #include "sections/TableSelection.h"
 
 #include "common/NumberText.h"
+#include "sections/SectionDrawing.h"
 #include "speech/Normalisers.h"
 
 namespace Tensarix {
@@ -60,11 +61,25 @@ CurrentCell Current_Cell(const FlexGrid& grid) {
     return {grid.Row(), grid.Col()};
 }
 
-void Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& before) {
-    if (Current_Cell(grid) == before)
-        desk.StatBar.Set_Remark({}); // of the text that stood there
-    else
+bool Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& before) {
+    const bool moved = Current_Cell(grid) != before;
+    if (moved)
         Show_Table_Selection(desk, grid);
+    else
+        desk.StatBar.Set_Remark({}); // of the text that stood there
+    return moved;
+}
+
+void Draw_Table_Selection(DrawingBox& box, const FlexGrid& grid, int familyPosition,
+                          const SectionView& view) {
+    const std::string name =
+        Trim(grid.Text(grid.Row(), familyPosition == PipeFamily ? siNameColumn : usNameColumn));
+    Drawing drawing;
+    if (grid.Row() >= grid.FixedRows() && !name.empty())
+        drawing = Read_Section_Drawing(familyPosition, name, view, DrawingDetail::Small);
+    if (drawing.Empty())
+        drawing.Sentence = NoSectionDrawn;
+    box.Set_Drawing(std::move(drawing));
 }
 
 } // namespace Tensarix

@@ -1,8 +1,10 @@
 // What the current cell of View All and of Find tells, in the status bar and aloud.
 #pragma once
 
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
+#include "sections/SectionGrids.h"
 
 #include <string>
 
@@ -27,6 +29,12 @@ struct CurrentCell {
     bool operator==(const CurrentCell&) const = default;
 };
 CurrentCell Current_Cell(const FlexGrid& grid);
-void Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& before);
+// True if it has moved.
+bool Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& before);
+
+// Draws the section of the current row, small; a row without one says what to do.
+void Draw_Table_Selection(DrawingBox& box, const FlexGrid& grid, int familyPosition,
+                          const SectionView& view);
+inline constexpr std::string_view NoSectionDrawn = "Select a section to see it here";
 
 } // namespace Tensarix

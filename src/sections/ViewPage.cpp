@@ -18,8 +18,16 @@ ViewPage::ViewPage(Desk& desk) : desk_(desk) {
     xProfileOption2.OnClick = [this] { Choose_Profile(Profile::SI); };
     xDimOption1.OnClick = [this] { Choose_Style(DimensionStyle::Decimal); };
     xDimOption2.OnClick = [this] { Choose_Style(DimensionStyle::Imperial); };
-    xShapeFlex.OnSelChange = [this] { Show_Table_Selection(desk_, xShapeFlex); };
+    xShapeFlex.OnSelChange = [this] {
+        Show_Table_Selection(desk_, xShapeFlex);
+        Draw_Table_Selection(SectionDrawing, xShapeFlex, xShapeType.ListIndex(), View());
+    };
+    SectionDrawing.Set_Drawing({std::string{NoSectionDrawn}});
     xShapeFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
+}
+
+SectionView ViewPage::View() const {
+    return {desk_.Host.Places.Program, profile_, style_};
 }
 
 std::string ViewPage::Count_Text() const {
@@ -35,10 +43,11 @@ void ViewPage::xShapeType_Change() {
     const CurrentCell before = Current_Cell(xShapeFlex);
     Attempt([&] {
         const Family& family = Family_At(xShapeType.ListIndex());
-        count_ =
-            family.ViewAll(xShapeFlex, family.Type, {desk_.Host.Places.Program, profile_, style_});
+        count_ = family.ViewAll(xShapeFlex, family.Type, View());
     });
-    Follow_Current_Cell(desk_, xShapeFlex, before);
+    SectionDrawing.Set_Drawing({std::string{NoSectionDrawn}});
+    if (Follow_Current_Cell(desk_, xShapeFlex, before))
+        Draw_Table_Selection(SectionDrawing, xShapeFlex, xShapeType.ListIndex(), View());
     xShapeFlex.Set_Top_Row(1);
     Run(OnCount);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/Controls.h"
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 #include "sections/FamilyTable.h"
@@ -14,6 +15,7 @@ class ViewPage {
     OptionButton xProfileOption1, xProfileOption2;
     OptionButton xDimOption1, xDimOption2;
     FlexGrid xShapeFlex;
+    DrawingBox SectionDrawing; // of the current row
 
     Handler OnCount; // Count_Text has changed
 
@@ -27,6 +29,7 @@ class ViewPage {
     void xShapeType_Change();
     void Choose_Profile(Profile profile);
     void Choose_Style(DimensionStyle style);
+    SectionView View() const;
 
     Desk& desk_;
     Profile profile_ = Profile::US;

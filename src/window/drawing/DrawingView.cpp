@@ -91,6 +91,8 @@ void DrawingView::paintEvent(QPaintEvent*) {
     const Drawn::Layout& layout = Laid_Out();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (box_ && box_->Shows().Empty())
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, accessibleDescription());
     for (const Drawn::Fill& fill : layout.Fills)
         if (fill.Tint)
             Paint_Fill(painter, fill);

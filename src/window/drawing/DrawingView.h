@@ -1,5 +1,6 @@
 // Paints a drawing as large as fits, its texts in the size of the font and its inks by the palette.
-// Its sentence is the accessible description, and pointing at it tells what is there.
+// Its sentence is the accessible description, and stands in the place of a drawing that is empty.
+// Pointing at a part tells what it is.
 #pragma once
 
 #include "controls/DrawingBox.h"

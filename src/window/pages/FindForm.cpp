@@ -27,6 +27,7 @@ QWidget* Make_Find_Form(FindPage& page, QWidget* parent) {
     Bind(ui.fProfileOption2, page.fProfileOption2);
     Bind(ui.fDimOption1, page.fDimOption1);
     Bind(ui.fDimOption2, page.fDimOption2);
+    Bind(ui.fSectionDrawing, page.SectionDrawing);
     Bind(ui.fShapeFlex, page.fShapeFlex);
     Label_Of(ui.fCriterion, ui.fCriterion->accessibleName());
     Label_Of(ui.fValue, ui.fValue->accessibleName());

@@ -15,6 +15,7 @@ QWidget* Make_View_Form(ViewPage& page, QWidget* parent) {
     Bind(ui.xProfileOption2, page.xProfileOption2);
     Bind(ui.xDimOption1, page.xDimOption1);
     Bind(ui.xDimOption2, page.xDimOption2);
+    Bind(ui.xSectionDrawing, page.SectionDrawing);
     Bind(ui.xShapeFlex, page.xShapeFlex);
     return form;
 }
