@@ -42,6 +42,28 @@ void Change_Of_Section_To_Painted_Grid(benchmark::State& state) {
 }
 BENCHMARK(Change_Of_Section_To_Painted_Grid)->Unit(benchmark::kMillisecond)->UseManualTime();
 
+// The same in processor time, of the whole process and of every section of two families: the table
+// and the drawing, W as the deepest lists have it and the angles with the most dimensions.
+void Change_Of_Section_With_Its_Drawing(benchmark::State& state) {
+    QTemporaryDir home;
+    Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    program.Start();
+    program.Form().Browse.ShapeType.Select(static_cast<int>(state.range(0)));
+    ComboBox& sizes = program.Form().Browse.ShapeSizeUS;
+    int position = 0;
+    for (auto _ : state) {
+        sizes.Select(++position % sizes.Count());
+        QCoreApplication::processEvents(); // takes over the change
+        QCoreApplication::processEvents(); // paints it
+    }
+    program.Window().close();
+}
+BENCHMARK(Change_Of_Section_With_Its_Drawing)
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->Arg(0)
+    ->Arg(13);
+
 // The longest family and another one in turn, so that sizes change as well.
 void View_All_To_Painted_Grid(benchmark::State& state) {
     QTemporaryDir home;

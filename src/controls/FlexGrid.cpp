@@ -76,6 +76,7 @@ void FlexGrid::Keep_Position_Inside() {
 }
 
 void FlexGrid::Clear() {
+    markedCol_ = -1;
     std::fill(cells_.begin(), cells_.end(), Cell{});
     remarks_.clear();
     Shown.Changed();
@@ -198,6 +199,11 @@ void FlexGrid::Set_Top_Row(int row) {
         return;
     Shown.Changed();
     Run(OnScroll);
+}
+
+void FlexGrid::Set_Marked_Col(int col) {
+    markedCol_ = col < cols_ ? col : -1;
+    Shown.Changed();
 }
 
 void FlexGrid::Set_Left_Col(int col) {

@@ -117,6 +117,10 @@ class FlexGrid {
     int Left_Col() const { return leftCol_; }
     void Set_Top_Row(int row);
     void Set_Left_Col(int col);
+    // A column that is looked at: on a tinted ground, and in view once it has become it. -1: none,
+    // which clearing the grid makes it.
+    int Marked_Col() const { return markedCol_; }
+    void Set_Marked_Col(int col);
 
     // Where the grid lies on its form.
     const Placement& Place() const { return place_; }
@@ -152,7 +156,7 @@ class FlexGrid {
     std::map<std::pair<int, int>, Advice> remarks_;
     int rows_ = 2, cols_ = 2, fixedRows_ = 1, fixedCols_ = 1;
     int row_ = 1, col_ = 1, rowSel_ = 1, colSel_ = 1;
-    int topRow_ = 1, leftCol_ = 1;
+    int topRow_ = 1, leftCol_ = 1, markedCol_ = -1;
     double heightMin_ = 0;
     bool wordWrap_ = false, highlight_ = true;
     Placement place_;

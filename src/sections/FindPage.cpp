@@ -162,6 +162,9 @@ void FindPage::Fill_Grid(bool searching) {
         const Family& family = Family_At(fShapeType.ListIndex());
         count_ = family.Find(fShapeFlex, family.Type, View(), searching, condition);
         searched_ = searching;
+        if (searching)
+            fShapeFlex.Set_Marked_Col(
+                Value_Column(family.Find.Columns, TableVariant::Find, condition.Property));
     });
     Show_What_To_Do();
     if (Follow_Current_Cell(desk_, fShapeFlex, before))

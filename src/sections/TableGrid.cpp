@@ -79,6 +79,16 @@ int Count_Of(const SectionRecordset& records) {
     return count;
 }
 
+int Value_Column(const Layout& layout, TableVariant variant, std::string_view symbol) {
+    for (std::size_t i = 0; i < layout.Entries.size(); ++i)
+        if (const Property& property = Of_Variant(layout.Entries[i], variant);
+            property.Symbol == symbol) {
+            const int col = Column_Of(layout.ValueColumns, i);
+            return Last_In(layout, variant, layout.ValueColumns, col) == &property ? col : -1;
+        }
+    return -1;
+}
+
 SectionRecordset Family_Records(std::string_view familyCode, const SectionView& view) {
     SectionRecordset records;
     Attempt(

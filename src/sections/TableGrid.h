@@ -34,6 +34,9 @@ int Table_Rows(int sections);
 void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Layout& layout,
                      TableVariant variant, const SectionView& view);
 
+// The column where the values of a property stand; -1: none, as where others are written over them.
+int Value_Column(const Layout& layout, TableVariant variant, std::string_view symbol);
+
 // All sections of a family, closed if they can't be read, and how many there are.
 SectionRecordset Family_Records(std::string_view familyCode, const SectionView& view);
 int Count_Of(const SectionRecordset& records);

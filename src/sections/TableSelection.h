@@ -4,7 +4,7 @@
 #include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
-#include "sections/SectionGrids.h"
+#include "sections/PropertyTable.h"
 
 #include <string>
 

@@ -15,6 +15,7 @@ namespace Tensarix {
 
 namespace {
 
+constexpr int iconSizes[] = {16, 24, 32, 48, 64, 128, 256};
 constexpr int typedSearchMs = 1500; // a designation is typed slower than a word
 
 } // namespace
@@ -25,7 +26,10 @@ void Program::Prepare_Application() {
     QApplication::setOrganizationName(title);
     QApplication::setDesktopFileName(QStringLiteral("tensarix"));
     QApplication::setStyle(new ProgramStyle);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/tensarix.svg")));
+    QIcon icon;
+    for (const int size : iconSizes)
+        icon.addFile(QStringLiteral(":/pictures/tensarix-%1.png").arg(size));
+    QApplication::setWindowIcon(icon);
     QApplication::setKeyboardInputInterval(typedSearchMs);
     QLocale::setDefault(QLocale::c());
     Let_Reports_Be_Read();

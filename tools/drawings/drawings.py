@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the program's pictures, or checks them.
+"""Writes the pictures of the welds and the icons, or checks them.
 
     python3 tools/drawings/drawings.py            writes src/window/pictures/*.svg
     python3 tools/drawings/drawings.py --check    checks that the files are those this program
@@ -15,12 +15,11 @@ from pathlib import Path
 sys.dont_write_bytecode = True    # leaves no caches among the sources
 
 import icons
-import profiles
 import welds
 from canvas import KEY_COLOURS
 
 FOLDER = Path(__file__).resolve().parents[2] / "src" / "window" / "pictures"
-PICTURES = {**profiles.PICTURES, **welds.PICTURES, **icons.PICTURES}
+PICTURES = {**welds.PICTURES, **icons.PICTURES}
 OWN_COLOURS = {"tensarix"}    # the application icon brings its own colours
 TAGS = {"svg", "title", "path", "line", "polygon", "circle", "text", "rect",
         "defs", "linearGradient", "stop"}

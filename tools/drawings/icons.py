@@ -2,10 +2,32 @@
 
 from canvas import INK, Canvas, path_of
 from outline import Outline
-from profiles import Frame, i_outline
 
 SHADES = (("#2c7fc9", "0"), ("#153e6f", "1"))    # of the badge, from the top down
 STEEL, EDGE, TICK = "#f4f8fc", "#0d2c52", "#ffb454"
+
+
+class Frame:
+    """The outer box of a profile."""
+
+    def __init__(self, left, top, width, depth):
+        self.left, self.top, self.right, self.bottom = left, top, left + width, top + depth
+        self.mid_x, self.mid_y = left + width / 2, top + depth / 2
+
+
+def i_outline(frame, tw, tf, fillet, slope=0.0, toe=0.0):
+    """Corners clockwise from the upper left; tf is the thickness halfway out on the flange."""
+    left, right = frame.mid_x - tw / 2, frame.mid_x + tw / 2
+    rise = (frame.right - right) * slope / 2
+    tip, root = tf - rise, tf + rise
+    upper, lower = (lambda t: frame.top + t), (lambda t: frame.bottom - t)
+    return Outline([
+        (frame.left, frame.top), (frame.right, frame.top),
+        (frame.right, upper(tip), toe), (right, upper(root), fillet),
+        (right, lower(root), fillet), (frame.right, lower(tip), toe),
+        (frame.right, frame.bottom), (frame.left, frame.bottom),
+        (frame.left, lower(tip), toe), (left, lower(root), fillet),
+        (left, upper(root), fillet), (frame.left, upper(tip), toe)])
 
 
 def gradient(canvas):

@@ -1,4 +1,4 @@
-"""Closed outlines with rounded corners, and what they weigh: area, centroid, neutral axes.
+"""Closed outlines with rounded corners.
 
 Coordinates are those of the picture, y pointing down.
 """
@@ -48,56 +48,3 @@ def unit(x, y):
 def bezier(p, t):
     weights = ((1 - t) ** 3, 3 * t * (1 - t) ** 2, 3 * t * t * (1 - t), t ** 3)
     return tuple(sum(w * q[axis] for w, q in zip(weights, p)) for axis in (0, 1))
-
-
-def moments(polygon):
-    """Area, first moments and second moments (A, Sx, Sy, Ixx, Iyy, Ixy) about the origin."""
-    sums = [0.0] * 6
-    for (x0, y0), (x1, y1) in zip(polygon, polygon[1:] + polygon[:1]):
-        cross = x0 * y1 - x1 * y0
-        sums[0] += cross / 2
-        sums[1] += cross * (y0 + y1) / 6
-        sums[2] += cross * (x0 + x1) / 6
-        sums[3] += cross * (y0 * y0 + y0 * y1 + y1 * y1) / 12
-        sums[4] += cross * (x0 * x0 + x0 * x1 + x1 * x1) / 12
-        sums[5] += cross * (x0 * y1 + 2 * x0 * y0 + 2 * x1 * y1 + x1 * y0) / 24
-    return [s * math.copysign(1, sums[0]) for s in sums]
-
-
-def centroid(polygon):
-    area, sx, sy = moments(polygon)[:3]
-    return sy / area, sx / area
-
-
-def below(polygon, axis, limit):
-    """The part of the polygon whose coordinate on the axis (0 x, 1 y) is at most the limit."""
-    kept = []
-    for p, q in zip(polygon, polygon[1:] + polygon[:1]):
-        if p[axis] <= limit:
-            kept.append(p)
-        if (p[axis] <= limit) != (q[axis] <= limit):
-            t = (limit - p[axis]) / (q[axis] - p[axis])
-            kept.append((p[0] + t * (q[0] - p[0]), p[1] + t * (q[1] - p[1])))
-    return kept
-
-
-def half_area(polygon, axis):
-    """Where the plastic neutral axis lies: the coordinate that halves the area."""
-    values = [p[axis] for p in polygon]
-    low, high, half = min(values), max(values), moments(polygon)[0] / 2
-    for _ in range(60):
-        middle = (low + high) / 2
-        if moments(below(polygon, axis, middle))[0] < half:
-            low = middle
-        else:
-            high = middle
-    return low
-
-
-def weak_axis(polygon):
-    """The unit direction of the principal axis about which the second moment is smallest."""
-    area, sx, sy, ixx, iyy, ixy = moments(polygon)
-    ixx, iyy, ixy = ixx - sx * sx / area, iyy - sy * sy / area, ixy - sx * sy / area
-    # Iyy and Ixx are spreads along x and y; the weak axis runs along the widest spread.
-    angle = 0.5 * math.atan2(2 * ixy, iyy - ixx)
-    return math.cos(angle), math.sin(angle)

@@ -136,6 +136,8 @@ QVariant GridModel::Ground(int row, int col) const {
         return QBrush(Remark_Ground(weight, view_->palette()));
     if (style.Back != Colours::Standard)
         return QBrush(Shown_Colour(style.Back, view_->palette()));
+    if (col == grid_.Marked_Col())
+        return QBrush(Tint_Colour(Drawn::Ink::Measure, view_->palette()));
     if (row == grid_.Row() && !head && grid_.Highlight())
         return QBrush(Current_Row_Ground(view_->palette()));
     return {};

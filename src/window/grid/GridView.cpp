@@ -152,6 +152,11 @@ void GridView::Pull() {
     Pull_Scroll();
     Pull_Selection();
     pulling_ = false;
+    if (const int marked = grid_->Marked_Col(); marked != revealed_) {
+        revealed_ = marked;
+        if (marked >= grid_->FixedCols())
+            scrollTo(Index(grid_->Top_Row(), marked));
+    }
 }
 
 void GridView::Measure() {

@@ -93,6 +93,7 @@ class GridView : public QTableView {
     QTableView* frozen_ = nullptr;
     QPoint popupPoint_;
     unsigned measured_ = ~0u, fitted_ = ~0u;
+    int revealed_ = -1; // the marked column that has been brought into view
     bool pulling_ = false;
     bool allColumns_ = false, allRows_ = false, onlyNeeded_ = false;
 };
