@@ -40,7 +40,7 @@ if(GZIP)
       COMMAND ${GZIP} -9nc ${package}/${page} > ${made}/${page}.gz
       DEPENDS ${package}/${page} VERBATIM)
   endforeach()
-  add_custom_target(package_pages ALL DEPENDS ${made}/changelog.gz ${made}/tensarix.1.gz)
+  add_custom_target(tensarix_package_pages ALL DEPENDS ${made}/changelog.gz ${made}/tensarix.1.gz)
   tensarix_system(FILES ${made}/changelog.gz DESTINATION share/doc/tensarix)
   tensarix_system(FILES ${made}/tensarix.1.gz DESTINATION share/man/man1)
 endif()

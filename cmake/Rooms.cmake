@@ -2,7 +2,7 @@
 
 add_library(tensarix_flags INTERFACE)
 target_compile_options(tensarix_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+  $<IF:$<CXX_COMPILER_ID:MSVC>,/W4;/utf-8,-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow>)
 if(TENSARIX_SANITIZE)
   target_compile_options(tensarix_flags INTERFACE
     -Wno-maybe-uninitialized # false alarms of this compiler in instrumented code
@@ -24,18 +24,20 @@ function(tensarix_room_includes room target scope)
 endfunction()
 
 # tensarix_room(name [USES rooms...] [LIBRARIES targets...])
-# builds src/name/*.cpp into the library of that name, and tests/name/*.cpp into name_tests.
+# builds src/name/*.cpp into the library tensarix_name, and tests/name/*.cpp into name_tests.
 function(tensarix_room name)
   cmake_parse_arguments(ROOM "" "" "USES;LIBRARIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
+  list(TRANSFORM ROOM_USES PREPEND tensarix_)
+  set(room tensarix_${name})
   if(sources)
-    add_library(${name} STATIC ${sources})
-    tensarix_room_includes(${name} ${name} PUBLIC)
-    target_link_libraries(${name} PUBLIC ${ROOM_USES} PRIVATE ${ROOM_LIBRARIES} tensarix_flags)
+    add_library(${room} STATIC ${sources})
+    tensarix_room_includes(${name} ${room} PUBLIC)
+    target_link_libraries(${room} PUBLIC ${ROOM_USES} PRIVATE ${ROOM_LIBRARIES} tensarix_flags)
   else()
-    add_library(${name} INTERFACE)
-    tensarix_room_includes(${name} ${name} INTERFACE)
-    target_link_libraries(${name} INTERFACE ${ROOM_USES})
+    add_library(${room} INTERFACE)
+    tensarix_room_includes(${name} ${room} INTERFACE)
+    target_link_libraries(${room} INTERFACE ${ROOM_USES})
   endif()
   if(TENSARIX_TESTS)
     tensarix_tests(${name})
@@ -52,7 +54,7 @@ function(tensarix_tests name)
   target_include_directories(${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(${name}_tests PRIVATE
     TENSARIX_SOURCE_DIR="${CMAKE_SOURCE_DIR}" TENSARIX_PROGRAM_DIR="${CMAKE_BINARY_DIR}/program")
-  target_link_libraries(${name}_tests PRIVATE ${name} ${ARGN} GTest::gtest GTest::gtest_main
+  target_link_libraries(${name}_tests PRIVATE $<TARGET_NAME_IF_EXISTS:tensarix_${name}> ${ARGN} GTest::gtest GTest::gtest_main
     tensarix_flags)
   # Tests compile faster so; under the sanitizers what they call is still optimized.
   target_compile_options(${name}_tests PRIVATE $<IF:$<BOOL:${TENSARIX_SANITIZE}>,-O0,-O1>)

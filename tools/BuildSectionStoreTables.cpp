@@ -1,6 +1,6 @@
 #include "BuildSectionStoreTables.h"
 
-#include "common/FileImage.h"
+#include "common/ReplaceFile.h"
 
 #include <algorithm>
 #include <optional>

@@ -8,6 +8,7 @@
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "common/ReplaceFile.h"
 #include "common/Utf8.h"
 #include "platform/Settings.h"
 

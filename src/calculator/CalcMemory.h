@@ -3,7 +3,7 @@
 #pragma once
 
 #include "calculator/CalcMainFrm.h"
-#include "common/FileImage.h"
+#include "common/Bytes.h"
 
 namespace Tensarix {
 

@@ -5,6 +5,7 @@
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
+#include "common/ReplaceFile.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,7 @@
 
 #include "calculator/CalcMainFrm.h"
 #include "calculator/CalcMemoryFrm.h"
-#include "common/FileImage.h"
+#include "common/Bytes.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "connections/DataHandling.h"
 
 #include "common/Failure.h"
-#include "common/FileImage.h"
+#include "common/ReplaceFile.h"
 
 #include <optional>
 #include <system_error>

@@ -2,7 +2,6 @@
 // the tests bring stand-ins that record.
 #pragma once
 
-#include "controls/View.h"
 #include "platform/Settings.h"
 
 #include <filesystem>
@@ -33,7 +32,7 @@ class Voice {
     std::function<void(std::size_t at, std::size_t length)> OnWord;
     // What was being spoken has come to its end, the last text of its turn too, or was cut short
     // by the service. Not called for what the program itself silenced or replaced.
-    Handler OnEnd;
+    std::function<void()> OnEnd;
 };
 
 enum class MessageIcon { Stop, Exclamation, Information };

@@ -4,6 +4,7 @@
 #include "calculator/CalcTestSupport.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "common/ReplaceFile.h"
 
 #include <gtest/gtest.h>
 

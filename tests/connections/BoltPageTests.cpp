@@ -1,5 +1,5 @@
 #include "StandIns.h"
-#include "common/FileImage.h"
+#include "common/ReplaceFile.h"
 #include "connections/BoltPage.h"
 
 #include <gtest/gtest.h>

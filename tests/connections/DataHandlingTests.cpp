@@ -1,5 +1,5 @@
 #include "StandIns.h"
-#include "common/FileImage.h"
+#include "common/ReplaceFile.h"
 #include "connections/DataHandling.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // The program that builds the store: the same tables give the same bytes, and a fault in a table is
 // told with its file and line instead of becoming a store.
-#include "common/FileImage.h"
+#include "common/ReplaceFile.h"
 #include "sections/StoreFormat.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "sections/SectionStore.h"
 
 #include "common/Failure.h"
-#include "common/FileImage.h"
+#include "common/ReplaceFile.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>

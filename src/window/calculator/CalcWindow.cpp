@@ -13,6 +13,7 @@
 #include "window/FittingArea.h"
 #include "window/KeyCodes.h"
 #include "window/Theme.h"
+#include "window/To_Qt.h"
 #include "window/calculator/CalcConstantDialog.h"
 #include "window/calculator/CalcDataDialog.h"
 #include "window/calculator/CalcHelpDialog.h"
@@ -49,10 +50,6 @@ constexpr int dialogOffset = 90, pointsPerInch = 72; // of the memory dialog, to
 // The display's own colours.
 constexpr QRgb panelLight = 0xFFDFE8D6, inkLight = 0xFF10200F;
 constexpr QRgb panelDark = 0xFF0E1410, inkDark = 0xFFCDE9C6;
-
-QString To_Qt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // Local time, to what the machine's clock tells.
 CalcTime Local_Now() {

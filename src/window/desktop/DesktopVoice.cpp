@@ -1,5 +1,7 @@
 #include "window/desktop/DesktopVoice.h"
 
+#include "controls/View.h"
+
 #include <QByteArrayList>
 #include <QDir>
 #include <QElapsedTimer>

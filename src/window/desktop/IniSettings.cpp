@@ -1,6 +1,7 @@
 #include "window/desktop/IniSettings.h"
 
-#include "common/FileImage.h"
+#include "common/ReplaceFile.h"
+#include "window/To_Qt.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,10 +13,6 @@
 namespace Tensarix {
 
 namespace {
-
-QString To_Qt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // As the file has it: a section that is a path begins without its slash.
 QString Setting_Path(std::string_view section, std::string_view key) {

@@ -1,5 +1,7 @@
 #include "window/desktop/Services.h"
 
+#include "window/To_Qt.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
@@ -23,10 +25,6 @@ constexpr qint64 turnEveryMs = 8;      // a yield turns the event loop at most t
 constexpr int raisePatienceMs = 20000; // the first instance may still be starting, or be ending
 constexpr int raiseWaitMs = 50;        // between two tries
 constexpr char raisedAnswer[] = "raised";
-
-QString To_Qt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QMessageBox::Icon Box_Icon(MessageIcon icon) {
     switch (icon) {

@@ -4,6 +4,7 @@
 #include "ui_WtCalcsDialogA.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
+#include "window/To_Qt.h"
 #include "window/grid/CellOverlay.h"
 
 namespace Tensarix {
@@ -11,10 +12,6 @@ namespace Tensarix {
 namespace {
 
 constexpr int firstLines = 46;
-
-QString To_Qt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // The caption as it stands, with the key that chooses it.
 QString With_Mnemonic(QString caption, char key) {

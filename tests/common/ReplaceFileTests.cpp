@@ -1,13 +1,17 @@
 #include "common/Failure.h"
-#include "common/FileImage.h"
+#include "common/NewFile.h"
+#include "common/ReplaceFile.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <fstream>
 #include <map>
 #include <string>
+#include <thread>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Tensarix;
@@ -15,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class FileImageTest : public testing::Test {
+class ReplaceFileTest : public testing::Test {
   protected:
     void SetUp() override {
         folder = fs::temp_directory_path() / ("tensarix-file-" + std::to_string(getpid()));
@@ -68,7 +72,7 @@ class BoundByPermissions {
 
 } // namespace
 
-TEST_F(FileImageTest, WhatIsWrittenIsReadBack) {
+TEST_F(ReplaceFileTest, WhatIsWrittenIsReadBack) {
     ByteWriter writer;
     writer.Int16(-2);
     writer.Int32(0x01020304);
@@ -89,7 +93,7 @@ TEST_F(FileImageTest, WhatIsWrittenIsReadBack) {
     EXPECT_EQ(reader.Left(), 0u);
 }
 
-TEST_F(FileImageTest, AReadPastTheEndFailsAndTakesNothing) {
+TEST_F(ReplaceFileTest, AReadPastTheEndFailsAndTakesNothing) {
     const Bytes bytes{5, 0, 'a', 'b'};
     ByteReader reader(bytes);
     EXPECT_THROW(reader.Text_With_Length(), Failure);
@@ -100,11 +104,8 @@ TEST_F(FileImageTest, AReadPastTheEndFailsAndTakesNothing) {
     EXPECT_THROW(writer.Text_With_Length(std::string(70000, 'x')), Failure);
 }
 
-TEST_F(FileImageTest, AFailedReplacementLeavesTheOldFile) {
+TEST_F(ReplaceFileTest, WhatCanBeRead) {
     ASSERT_TRUE(Replace_File(folder / "a.dat", {1, 2, 3}));
-    fs::create_directory(folder / "a.dat.new"); // stands in the way of the new file
-    EXPECT_FALSE(Replace_File(folder / "a.dat", {4}));
-    EXPECT_EQ(Read_Whole_File(folder / "a.dat"), (Bytes{1, 2, 3}));
     ASSERT_TRUE(Replace_File(folder / "empty", {}));
     EXPECT_EQ(Read_Whole_File(folder / "empty"), Bytes{});
     EXPECT_FALSE(Read_Whole_File(folder / "none"));
@@ -112,7 +113,7 @@ TEST_F(FileImageTest, AFailedReplacementLeavesTheOldFile) {
     EXPECT_FALSE(Read_Whole_File(folder / "a.dat", 2));
 }
 
-TEST_F(FileImageTest, OnAFullDiskTheOldFileStaysAlone) {
+TEST_F(ReplaceFileTest, OnAFullDiskTheOldFileStaysAlone) {
     ASSERT_TRUE(Replace_File(folder / "a.dat", {1, 2, 3}));
     const auto before = All();
     struct {
@@ -130,7 +131,7 @@ TEST_F(FileImageTest, OnAFullDiskTheOldFileStaysAlone) {
     }
 }
 
-TEST_F(FileImageTest, InAFolderThatCannotBeWrittenTheOldFileStays) {
+TEST_F(ReplaceFileTest, InAFolderThatCannotBeWrittenTheOldFileStays) {
     ASSERT_TRUE(Replace_File(folder / "a.dat", {1, 2, 3}));
     const auto before = All();
     fs::permissions(folder, fs::perms(0555));
@@ -143,14 +144,58 @@ TEST_F(FileImageTest, InAFolderThatCannotBeWrittenTheOldFileStays) {
     EXPECT_EQ(All(), before);
 }
 
-// A killed program has left its new file, which may be longer.
-TEST_F(FileImageTest, WhatAKillLeftIsOverwritten) {
-    ASSERT_TRUE(Replace_File(folder / "a.dat.new", Bytes(1000)));
+// A killed program has left its new file; that of a program that runs is still held.
+TEST_F(ReplaceFileTest, WhatAKillLeftGoes) {
+    const OpenFile held = Make_New_File(folder / "a.dat.00000001.new", {});
+    ASSERT_TRUE(held);
+    ASSERT_TRUE(Make_New_File(folder / "a.dat.00000002.new", {}));
+    ASSERT_FALSE(Make_New_File(folder / "a.dat.00000002.new", {}));
+    ASSERT_TRUE(Make_New_File(folder / "a.dat.old.new", {}));
     ASSERT_TRUE(Replace_File(folder / "a.dat", {1}));
-    EXPECT_EQ(All(), (std::map<std::string, Bytes>{{"a.dat", {1}}}));
+    EXPECT_EQ(All(), (std::map<std::string, Bytes>{
+                         {"a.dat", {1}}, {"a.dat.00000001.new", {}}, {"a.dat.old.new", {}}}));
 }
 
-TEST_F(FileImageTest, ALinkAndThePermissionsStay) {
+// Nothing that stands there is opened, followed or waited for.
+TEST_F(ReplaceFileTest, WhatIsNoFileIsLeftAlone) {
+    fs::create_directory(folder / "folder");
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(Replace_File(folder / "folder", {1}));
+    EXPECT_FALSE(Replace_File(folder / "pipe", {1}));
+    EXPECT_FALSE(Read_Whole_File(folder / "pipe"));
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+
+    ASSERT_TRUE(Replace_File(folder / "other", {9}));
+    for (const char* name : {"a.dat.new", "a.dat.00000001.new"})
+        fs::create_symlink("other", folder / name);
+    ASSERT_EQ(mkfifo((folder / "a.dat.00000002.new").c_str(), 0600), 0);
+    EXPECT_FALSE(Make_New_File(folder / "a.dat.new", {}));
+    EXPECT_TRUE(Replace_File(folder / "a.dat", {1}));
+    EXPECT_EQ(Read_Whole_File(folder / "other"), Bytes{9});
+    EXPECT_TRUE(fs::is_symlink(folder / "a.dat.new"));
+    EXPECT_TRUE(fs::is_fifo(folder / "a.dat.00000002.new"));
+}
+
+// Each writer has a file of its own: who reads sees the whole of one.
+TEST_F(ReplaceFileTest, TwoWritersTearNothing) {
+    const Bytes one(20000, 1), two(30000, 2);
+    ASSERT_TRUE(Replace_File(folder / "a.dat", one));
+    const auto write = [this](const Bytes& bytes) {
+        for (int i = 0; i < 100; ++i)
+            EXPECT_TRUE(Replace_File(folder / "a.dat", bytes));
+    };
+    std::thread first(write, one), second(write, two);
+    for (int i = 0; i < 200; ++i) {
+        std::ifstream file(folder / "a.dat", std::ios::binary);
+        const Bytes seen{std::istreambuf_iterator<char>(file), {}};
+        EXPECT_TRUE(seen == one || seen == two) << seen.size() << " bytes";
+    }
+    first.join();
+    second.join();
+    EXPECT_EQ(All().size(), 1u);
+}
+
+TEST_F(ReplaceFileTest, ALinkAndThePermissionsStay) {
     ASSERT_TRUE(Replace_File(folder / "a.dat", {1}));
     fs::permissions(folder / "a.dat", fs::perms(0600));
     fs::create_symlink("a.dat", folder / "link");

@@ -1,10 +1,8 @@
-// Whole files as bytes, little-endian. Files are read whole and replaced whole.
+// What a file holds as bytes, numbers little-endian.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,15 +46,5 @@ class ByteReader {
     const Bytes& bytes_;
     std::size_t at_ = 0;
 };
-
-// None if there is no such regular file, it can't be read, or it is longer than the limit.
-std::optional<Bytes> Read_Whole_File(const std::filesystem::path& path,
-                                     std::size_t limit = 64u << 20);
-
-// Writes the new file beside the old one, under its name with ".new" behind it, then gives it the
-// name; the old one's permissions stay, and so does a link to it. False: the old file is as it was.
-// A program that is killed meanwhile leaves the old file or the new one, and at most one ".new",
-// which the next replacement overwrites.
-bool Replace_File(const std::filesystem::path& path, const Bytes& bytes);
 
 } // namespace Tensarix

@@ -1,0 +1,95 @@
+#include "common/NewFile.h"
+
+#include <system_error>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#else
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace Tensarix {
+
+namespace fs = std::filesystem;
+
+#ifdef _WIN32
+
+OpenFile Make_New_File(const fs::path& path, std::optional<fs::perms>) {
+    const int file = _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_EXCL | _O_NOINHERIT,
+                            _S_IREAD | _S_IWRITE);
+    return OpenFile{file < 0 ? nullptr : _fdopen(file, "wb")};
+}
+
+bool Put_On_Disk(std::FILE* file) {
+    return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
+}
+
+bool Give_Name(OpenFile file, const fs::path& path, const fs::path& name) {
+    file.reset(); // an open one keeps its name
+    std::error_code error;
+    fs::rename(path, name, error);
+    return !error;
+}
+
+void Remove_If_Left(const fs::path& path) {
+    std::error_code error;
+    if (fs::is_regular_file(fs::symlink_status(path, error)))
+        fs::remove(path, error); // fails while a program has it open
+}
+
+#else
+
+namespace {
+
+// Whoever takes away what was left holds it for that moment: then the file has no name any more.
+bool Hold(int file) {
+    struct stat found {};
+    flock(file, LOCK_EX | LOCK_NB); // some disks know no locks
+    return fstat(file, &found) == 0 && found.st_nlink > 0;
+}
+
+} // namespace
+
+OpenFile Make_New_File(const fs::path& path, std::optional<fs::perms> permissions) {
+    const auto mode = static_cast<mode_t>(permissions.value_or(fs::perms(0666)) & fs::perms::all);
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+    if (file < 0)
+        return nullptr;
+    if (permissions)
+        fchmod(file, mode); // what the user's mask has taken; some disks know no permissions
+    OpenFile made{Hold(file) ? fdopen(file, "wb") : nullptr};
+    if (!made)
+        close(file);
+    return made;
+}
+
+bool Put_On_Disk(std::FILE* file) {
+    return std::fflush(file) == 0 && fsync(fileno(file)) == 0;
+}
+
+// It is held until it has its name, and is no left-over then.
+bool Give_Name(OpenFile, const fs::path& path, const fs::path& name) {
+    std::error_code error;
+    fs::rename(path, name, error);
+    return !error;
+}
+
+void Remove_If_Left(const fs::path& path) {
+    const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0)
+        return;
+    struct stat found {};
+    if (fstat(file, &found) == 0 && S_ISREG(found.st_mode) && found.st_uid == geteuid() &&
+        flock(file, LOCK_EX | LOCK_NB) == 0)
+        unlink(path.c_str());
+    close(file);
+}
+
+#endif
+
+} // namespace Tensarix
