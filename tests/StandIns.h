@@ -21,7 +21,9 @@ class MapSettings final : public SettingsStore {
   public:
     std::map<std::pair<std::string, std::string>, std::string> Kept;
     std::vector<std::string> Written; // "key=text", in order
+    std::string Doubt;
 
+    std::string Remark() const override { return Doubt; }
     std::optional<std::string> Read(std::string_view section, std::string_view key) override {
         const auto found = Kept.find({std::string{section}, std::string{key}});
         if (found == Kept.end())
@@ -56,7 +58,9 @@ class KeptClipboard final : public Clipboard {
 class RecordedVoice final : public Voice {
   public:
     std::vector<std::string> Spoken;
+    int Reaches = 0;
     void Speak(std::string_view text) override { Spoken.emplace_back(text); }
+    void Reach() override { ++Reaches; }
 };
 
 class ScriptedMessages final : public Messages {
@@ -115,16 +119,24 @@ class RecordedWindow final : public MainWindow {
   public:
     std::vector<bool> OnTop;
     int Closes = 0;
-    void Set_On_Top(bool onTop) override { OnTop.push_back(onTop); }
+    bool Obeys = true; // the desktop lets programs decide
+    bool SetWindowOnTop(bool onTop) override {
+        OnTop.push_back(onTop);
+        return Obeys;
+    }
     void Close() override { ++Closes; }
 };
 
 class TestInstance final : public Instance {
   public:
     bool Other = false;
+    bool Answers = true;
     int Raises = 0;
     bool Other_Runs() override { return Other; }
-    void Raise_Other() override { ++Raises; }
+    bool Raise_Other() override {
+        ++Raises;
+        return Answers;
+    }
 };
 
 // A folder of its own, gone with it.

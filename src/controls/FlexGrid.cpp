@@ -247,6 +247,13 @@ void FlexGrid::Press(int row, int col) {
     Run(OnMouseDown);
 }
 
+void FlexGrid::Press_Beside() {
+    if (!OnPopup)
+        return;
+    Run(OnSelChange);
+    Run(OnMouseDown);
+}
+
 void FlexGrid::Go_To(int row, int col, bool extend) {
     if (extend)
         Extend_To(row, col);

@@ -132,7 +132,10 @@ class FlexGrid {
     std::string Clip() const;
 
     // What the user does, for the view and for tests.
-    void Press(int row, int col);              // left button down on a cell
+    void Press(int row, int col); // left button down on a cell
+    // Left button down on the head row, or below the last one: a grid that has a popup takes it for
+    // a click on its current cell.
+    void Press_Beside();
     void Go_To(int row, int col, bool extend); // by the keys; extend: the selection alone
 
     // Counts the changes of size, heights and widths, so that a view knows when to measure again.

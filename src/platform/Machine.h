@@ -33,6 +33,10 @@ class Voice {
     // What was being spoken has come to its end, the last text of its turn too, or was cut short
     // by the service. Not called for what the program itself silenced or replaced.
     std::function<void()> OnEnd;
+    // Looks for the speech service without saying anything.
+    virtual void Reach() = 0;
+    // No service was found, for a text or by Reach.
+    std::function<void()> OnMissing;
 };
 
 enum class MessageIcon { Stop, Exclamation, Information };
@@ -67,7 +71,8 @@ class EventLoop {
 class MainWindow {
   public:
     virtual ~MainWindow() = default;
-    virtual void Set_On_Top(bool onTop) = 0;
+    // Above all other windows, or back among them. False: the desktop decides that itself.
+    virtual bool SetWindowOnTop(bool onTop) = 0;
     virtual void Close() = 0;
 };
 
@@ -76,9 +81,9 @@ class Instance {
   public:
     virtual ~Instance() = default;
     virtual bool Other_Runs() = 0;
-    // Returns when the other one has been raised, or doesn't answer for long, or has ended: then
-    // no other runs.
-    virtual void Raise_Other() = 0;
+    // Returns when the other one has been raised or has ended: then no other runs. False: it runs,
+    // and doesn't answer for long.
+    virtual bool Raise_Other() = 0;
 };
 
 // The store lies in the program's folder. The data files lie there too, or in the user's data

@@ -15,6 +15,8 @@ class SettingsStore {
     virtual std::optional<std::string> Read(std::string_view section, std::string_view key) = 0;
     // A store that can't be written is left as it is.
     virtual void Write(std::string_view section, std::string_view key, std::string_view text) = 0;
+    // What the user has to know about the store as a whole; empty: nothing.
+    virtual std::string Remark() const { return {}; }
 };
 
 struct SettingKey {
@@ -52,7 +54,8 @@ inline constexpr SettingKey WeldStrip{"WeldStrip", "1"};
 inline constexpr SettingKey WeldView{"WeldView", "1"};
 inline constexpr SettingKey CalcWtShapeType{"CalcWtShapeType", "0"};
 inline constexpr SettingKey CalcWtShapeSize{"CalcWtShapeSize", "0"}; // (family)
-// The calculator's place on the screen, in base 64.
+// Where the windows were, in base 64.
+inline constexpr SettingKey MainWindowPlace{"Geometry", "", "Window"};
 inline constexpr SettingKey CalculatorPlace{"Calculator", "", "Window"};
 // Filed by the calculator under the program's folder.
 inline constexpr SettingKey MemoryIn{"MemoryIn", "0", "Setting"};

@@ -4,12 +4,19 @@
 #include "common/NumberText.h"
 #include "shell/Version.h"
 
+#include <utility>
+
 namespace Tensarix {
 
 namespace {
 
 constexpr std::array<std::string_view, ModeCount> modeCaptions{
     "Browse Sections", "Find Sections", "View All", "Allowable Beam Load", "Connection Design"};
+
+constexpr std::string_view noAnswer =
+    "Tensarix is running already but does not answer. End it, then start it again.";
+constexpr std::string_view desktopDecides = "This desktop decides itself which windows stay on top";
+constexpr std::string_view noVoice = "No speech service was found: nothing is read out loud";
 
 // Zero is the first choice, anything else the second; a text that is no number leaves both alone.
 void Choose(const Settings& saved, const SettingKey& key, OptionButton& first,
@@ -46,6 +53,7 @@ MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
     Wire_Menu();
     Find.OnCount = ViewAll.OnCount = [this] { Show_Count(); };
     Shared.StatBar.OnMouseMove = [this] { Browse.Snap_Back(); };
+    Shared.Host.Speech.OnMissing = [this] { Tell_No_Voice(); };
 }
 
 void MainFrm::Wire_Menu() {
@@ -68,11 +76,16 @@ void MainFrm::Wire_Menu() {
 
 bool MainFrm::Load() {
     if (Shared.Host.Guard.Other_Runs()) {
-        Shared.Host.Guard.Raise_Other();
+        Launcher();
         return false;
     }
     StartUp();
     return true;
+}
+
+void MainFrm::Launcher() {
+    if (!Shared.Host.Guard.Raise_Other())
+        Shared.Host.Boxes.Show(noAnswer, "Warning", MessageIcon::Exclamation);
 }
 
 void MainFrm::StartUp() {
@@ -85,12 +98,15 @@ void MainFrm::StartUp() {
     Beam.Start_Inputs();
     Find.Restore_Search(); // again, now that the criteria exist
     Design.Start();
+    Tell_Who_Decides();
+    if (const std::string remark = Shared.Host.Store.Remark(); !remark.empty())
+        Shared.StatBar.Set_Remark(remark);
 }
 
 void MainFrm::Start_Flags() {
     Attempt([&] { Shared.ReadOut = Shared.Saved.Flag(Setting::ReadOutLoud); });
     Attempt([&] { Shared.OnTop = Shared.Saved.Flag(Setting::AlwaysOnTop); });
-    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+    SetWindowOnTop(Shared.OnTop);
     mnuReadOut.Check(Shared.ReadOut);
     mnuOnTop.Check(Shared.OnTop);
 }
@@ -145,16 +161,32 @@ void MainFrm::Show_Count() {
 void MainFrm::Open_Dialog(void (Dialogs::*show)()) {
     Shared.Say("");
     // Out of the top-most state, so that the dialog can come above the window.
-    Shared.Host.Window.Set_On_Top(false);
+    SetWindowOnTop(false);
     (dialogs_.*show)();
-    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+    SetWindowOnTop(Shared.OnTop);
+}
+
+void MainFrm::SetWindowOnTop(bool onTop) {
+    onTopRefused_ = !Shared.Host.Window.SetWindowOnTop(onTop) && onTop;
+}
+
+// Once is enough.
+void MainFrm::Tell_Who_Decides() {
+    if (onTopRefused_ && !std::exchange(toldWhoDecides_, true))
+        Shared.StatBar.Set_Remark(std::string{desktopDecides});
+}
+
+void MainFrm::Tell_No_Voice() {
+    if (Shared.ReadOut && !std::exchange(toldNoVoice_, true))
+        Shared.StatBar.Set_Remark(std::string{noVoice});
 }
 
 void MainFrm::mnuOnTop_Click() {
     Shared.OnTop = !Shared.OnTop;
     mnuOnTop.Check(Shared.OnTop);
     Shared.Saved.Save(Setting::AlwaysOnTop, Shared.OnTop ? "1" : "0");
-    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+    SetWindowOnTop(Shared.OnTop);
+    Tell_Who_Decides();
 }
 
 void MainFrm::mnuReadOut_Click() {
@@ -162,14 +194,16 @@ void MainFrm::mnuReadOut_Click() {
     mnuReadOut.Check(Shared.ReadOut);
     Shared.Saved.Save(Setting::ReadOutLoud, Shared.ReadOut ? "1" : "0");
     Shared.Host.Speech.Speak(""); // silence, also when it has just been switched off
+    if (Shared.ReadOut)
+        Shared.Host.Speech.Reach();
 }
 
 void MainFrm::Resized() {
-    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+    SetWindowOnTop(Shared.OnTop);
 }
 
 void MainFrm::Activated() {
-    Shared.Host.Window.Set_On_Top(Shared.OnTop);
+    SetWindowOnTop(Shared.OnTop);
     Shared.Say("");
 }
 
@@ -202,15 +236,15 @@ void MainFrm::Save_Sizes() const {
 }
 
 void MainFrm::Save_Options() const {
-    const auto save = [this](const SettingKey& key, const OptionButton& first) {
-        Shared.Saved.Save(key, first.Value() ? "0" : "1");
+    const auto save = [this](const SettingKey& key, const OptionButton& second) {
+        Shared.Saved.Save(key, second.Value() ? "1" : "0"); // neither may be chosen
     };
-    save(Setting::ProfileOption, Browse.ProfileOption1);
-    save(Setting::DimOption, Browse.DimOption1);
-    save(Setting::xProfileOption, ViewAll.xProfileOption1);
-    save(Setting::xDimOption, ViewAll.xDimOption1);
-    save(Setting::fProfileOption, Find.fProfileOption1);
-    save(Setting::fDimOption, Find.fDimOption1);
+    save(Setting::ProfileOption, Browse.ProfileOption2);
+    save(Setting::DimOption, Browse.DimOption2);
+    save(Setting::xProfileOption, ViewAll.xProfileOption2);
+    save(Setting::xDimOption, ViewAll.xDimOption2);
+    save(Setting::fProfileOption, Find.fProfileOption2);
+    save(Setting::fDimOption, Find.fDimOption2);
 }
 
 void MainFrm::Save_Span() const {

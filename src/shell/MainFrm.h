@@ -43,6 +43,8 @@ class MainFrm {
     // False: another instance ran and was asked to come up. This one has to end, without a window,
     // unless the other has ended instead.
     bool Load();
+    // The guard: raises the instance that runs, or tells that it doesn't answer.
+    void Launcher();
     // Reads the settings, selects the first mode and fills each page, in this fixed order.
     void StartUp();
     // The window is going to close: settings are saved.
@@ -59,6 +61,9 @@ class MainFrm {
     void OptButton_Click(int index);
     void Show_Count();
     void Open_Dialog(void (Dialogs::*show)());
+    void SetWindowOnTop(bool onTop);
+    void Tell_Who_Decides();
+    void Tell_No_Voice();
     void mnuOnTop_Click();
     void mnuReadOut_Click();
     void Save_Families() const;
@@ -67,6 +72,8 @@ class MainFrm {
     void Save_Span() const;
 
     Dialogs& dialogs_;
+    bool onTopRefused_ = false; // the desktop decides itself which window is above
+    bool toldWhoDecides_ = false, toldNoVoice_ = false;
 };
 
 } // namespace Tensarix

@@ -19,6 +19,7 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         label->setObjectName(QLatin1String(name));
         label->setAccessibleDescription(QLatin1String(description)); // its name is its text
         widget->addWidget(label, stretch);
+        label->setMouseTracking(true); // else the bar doesn't learn of a mouse over it
         return label;
     };
     QLabel* panel1 = panel("Panel1", "Selection", 5);

@@ -3,6 +3,7 @@
 #include "shell/AboutFrm.h"
 #include "shell/Version.h"
 #include "window/ProgramStyle.h"
+#include "window/To_Qt.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/pages/AboutDialog.h"
 #include "window/pages/ReportText.h"
@@ -21,7 +22,7 @@ constexpr int typedSearchMs = 1500; // a designation is typed slower than a word
 } // namespace
 
 void Program::Prepare_Application() {
-    const QString title = QString::fromUtf8(ApplicationTitle.data(), ApplicationTitle.size());
+    const QString title = To_Qt(ApplicationTitle);
     QApplication::setApplicationName(title);
     QApplication::setOrganizationName(title);
     QApplication::setDesktopFileName(QStringLiteral("tensarix"));
@@ -35,8 +36,9 @@ void Program::Prepare_Application() {
     Let_Reports_Be_Read();
 }
 
-Program::Program(const Folders& folders, std::unique_ptr<Clock> clock)
-    : clock_(std::move(clock)), machine_{settings_, clipboard_,  voice_,    messages_, *clock_,
+Program::Program(const Folders& folders, std::unique_ptr<Clock> clock, QByteArray activationToken)
+    : instance_(std::move(activationToken)),
+      clock_(std::move(clock)), machine_{settings_, clipboard_,  voice_,    messages_, *clock_,
                                          events_,   mainWindow_, instance_, folders},
       form_(machine_, *this) {}
 
@@ -48,11 +50,11 @@ bool Program::Start() {
             return false;
         settings_.Read_Again(); // the other one has ended meanwhile
     }
-    window_ = std::make_unique<ProgramWindow>(form_, settings_, events_);
+    window_ = std::make_unique<ProgramWindow>(form_, events_);
     mainWindow_.Set_Widget(window_.get());
-    mainWindow_.Set_On_Top(form_.Shared.OnTop);
+    mainWindow_.SetWindowOnTop(form_.Shared.OnTop);
     window_->show();
-    instance_.On_Raise([this] { return window_->Raise(); });
+    instance_.On_Raise([this](const QByteArray& token) { return window_->Raise(token); });
     return true;
 }
 

@@ -5,8 +5,13 @@
 #include "calculator/CalcVariables.h"
 #include "weights/WtCalcsFrm.h"
 #include "weights/WtCalcsFrmA.h"
+#include "window/desktop/APIModule.h"
+#include "window/desktop/DesktopClipboard.h"
 #include "window/desktop/DesktopVoice.h"
 #include "window/desktop/IniSettings.h"
+#include "window/desktop/MessageBoxes.h"
+#include "window/desktop/SingleInstance.h"
+#include "window/desktop/UserFolders.h"
 #include "window/pages/ProgramWindow.h"
 
 #include <memory>
@@ -15,8 +20,10 @@ namespace Tensarix {
 
 class Program final : public Dialogs {
   public:
+    // The token is what the desktop gave this start (Activation_Token).
     explicit Program(const Folders& folders = Program_Folders(),
-                     std::unique_ptr<Clock> clock = std::make_unique<SteadyClock>());
+                     std::unique_ptr<Clock> clock = std::make_unique<SteadyClock>(),
+                     QByteArray activationToken = {});
     ~Program() override;
 
     // Application-wide ways: names, icon, how long a typed search goes on.

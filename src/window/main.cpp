@@ -3,8 +3,10 @@
 #include <QApplication>
 
 int main(int argc, char** argv) {
+    using namespace Tensarix;
+    const QByteArray activationToken = Activation_Token();
     QApplication application(argc, argv);
-    Tensarix::Program::Prepare_Application();
-    Tensarix::Program program;
+    Program::Prepare_Application();
+    Program program(Program_Folders(), std::make_unique<SteadyClock>(), activationToken);
     return program.Start() ? QApplication::exec() : 0;
 }

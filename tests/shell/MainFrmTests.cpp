@@ -59,6 +59,44 @@ TEST_F(MainFrmTest, ASecondInstanceRaisesTheFirstAndDoesNothingElse) {
     EXPECT_EQ(machine.Guard.Raises, 1);
     EXPECT_EQ(second.Browse.ShapeType.Count(), 0);
     EXPECT_TRUE(machine.Store.Written.empty());
+    EXPECT_TRUE(machine.Boxes.Shown.empty());
+    machine.Guard.Answers = false;
+    EXPECT_FALSE(second.Load());
+    EXPECT_EQ(machine.Boxes.Shown,
+              (std::vector<std::string>{"Warning|Tensarix is running already but does not answer. "
+                                        "End it, then start it again.|exclamation"}));
+}
+
+// What the user has to know of the desktop stands beside the selection, once.
+TEST_F(MainFrmTest, RemarksOfTheDesktop) {
+    machine.Store.Doubt = "unreadable";
+    EXPECT_EQ(Start().Shared.StatBar.Remark(), "unreadable");
+    machine.Store.Doubt = "";
+    machine.Store.Set("AlwaysOnTop", "1");
+    EXPECT_EQ(Start().Shared.StatBar.Remark(), "");
+    machine.Window.Obeys = false;
+    MainFrm& f = Start();
+    StatusBar& bar = f.Shared.StatBar;
+    const std::string decides = "This desktop decides itself which windows stay on top";
+    EXPECT_EQ(bar.Remark(), decides);
+    EXPECT_EQ(bar.Panel1(), " SELECTION:   None");
+    bar.Set_Remark("");
+    f.mnuOnTop.Click();
+    f.mnuOnTop.Click();
+    EXPECT_EQ(bar.Remark(), "");
+    EXPECT_EQ(machine.Store.Get("AlwaysOnTop"), "1");
+
+    machine.Speech.OnMissing(); // while it is off
+    EXPECT_EQ(bar.Remark(), "");
+    f.mnuReadOut.Click();
+    EXPECT_EQ(machine.Speech.Reaches, 1);
+    machine.Speech.OnMissing();
+    EXPECT_EQ(bar.Remark(), "No speech service was found: nothing is read out loud");
+    bar.Set_Remark("");
+    f.mnuReadOut.Click();
+    f.mnuReadOut.Click();
+    machine.Speech.OnMissing();
+    EXPECT_EQ(bar.Remark(), "");
 }
 
 TEST_F(MainFrmTest, ChoicesComeBackAtTheNextStart) {
@@ -94,7 +132,9 @@ TEST_F(MainFrmTest, GarbageInTheSettingsNeverStopsTheStart) {
         machine.Store.Set("ShapeSize0", garbage);
         MainFrm& f = Start();
         EXPECT_EQ(f.Browse.ShapeType.Count(), 17) << garbage;
+        const bool second = f.Browse.ProfileOption2.Value(); // or neither
         f.Query_Unload();
+        EXPECT_EQ(machine.Store.Get("ProfileOption"), second ? "1" : "0") << garbage;
     }
 }
 

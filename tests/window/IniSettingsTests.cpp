@@ -2,6 +2,11 @@
 #include "window/desktop/IniSettings.h"
 
 #include <QDir>
+#include <QFileInfo>
+
+#include <functional>
+
+#include <sys/stat.h>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -75,6 +80,37 @@ TEST_F(IniSettingsTest, ATurnOfTheEventLoopSaves) {
     settings.Write("TensarixSetting", "AlwaysOnTop", "1");
     QCoreApplication::processEvents();
     EXPECT_EQ(Text(), "missing");
+}
+
+// A pipe, say, would keep who reads it waiting for ever.
+TEST_F(IniSettingsTest, WhatIsNoSettingsFileIsNeitherReadNorOverwritten) {
+    ASSERT_TRUE(QDir().mkpath(home.filePath("Tensarix")));
+    const std::function<bool()> make[] = {
+        [this] { return mkfifo(path.toLocal8Bit(), 0600) == 0; },
+        [this] { return QDir().mkpath(path); },
+        [this] { return QFile::link("/dev/zero", path); },
+        [this] {
+            Set_Text("[TensarixSetting]\nShapeType=3\n" + QByteArray(5 << 20, ';'));
+            return true;
+        },
+    };
+    for (const auto& each : make) {
+        ASSERT_TRUE(each());
+        const QFileInfo before(path);
+        {
+            IniSettings settings;
+            EXPECT_NE(settings.Remark(), "");
+            EXPECT_EQ(settings.Read("TensarixSetting", "ShapeType"), std::nullopt);
+            settings.Write("TensarixSetting", "ShapeType", "4");
+            EXPECT_EQ(settings.Read("TensarixSetting", "ShapeType"), "4");
+        }
+        const QFileInfo after(path);
+        EXPECT_EQ(after.size(), before.size());
+        EXPECT_EQ(after.isFile(), before.isFile());
+        EXPECT_EQ(after.isSymLink(), before.isSymLink());
+        ASSERT_TRUE(QFile::remove(path) || QDir().rmdir(path));
+    }
+    EXPECT_EQ(IniSettings().Remark(), "");
 }
 
 // No folder can be made there: nothing is saved, nothing hangs, and the next change tries again.

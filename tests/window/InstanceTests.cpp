@@ -6,6 +6,10 @@
 
 #include <vector>
 
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Tensarix;
 using namespace Tensarix::Tests;
 
@@ -82,12 +86,54 @@ TEST_F(InstanceTest, WhatStandsInTheLockFileDoesNotCount) {
 TEST_F(InstanceTest, TheFirstWindowIsRaised) {
     Program first({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
     ASSERT_TRUE(first.Start());
+    first.Window().showMaximized();
     first.Window().showMinimized();
     const Process second = Launch_Tensarix();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !first.Window().isMinimized(); }, patienceMs));
+    EXPECT_TRUE(first.Window().isMaximized());
     EXPECT_TRUE(!Runs(second) || second->waitForFinished(patienceMs));
     EXPECT_TRUE(Ended_Well(second));
     first.Window().close();
+}
+
+// The desktop's leave to raise a window goes from the second to the first.
+TEST_F(InstanceTest, TheTokenIsPassedOn) {
+    std::vector<QByteArray> tokens;
+    SingleInstance first;
+    first.On_Raise([&tokens](const QByteArray& token) {
+        tokens.push_back(token);
+        return true;
+    });
+    for (const char* name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
+        qputenv(name, name);
+        const Process second = Launch_Tensarix();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !Runs(second); }, patienceMs));
+        qunsetenv(name);
+    }
+    EXPECT_EQ(tokens, (std::vector<QByteArray>{"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}));
+}
+
+TEST_F(InstanceTest, OneThatDoesNotAnswerIsGivenUp) {
+    const SingleInstance first; // nobody handles its wishes
+    SingleInstance second({}, 50);
+    EXPECT_TRUE(second.Other_Runs());
+    EXPECT_FALSE(second.Raise_Other());
+    EXPECT_TRUE(second.Other_Runs());
+}
+
+// What another user has put there, and folders that others can write, count for nothing.
+TEST_F(InstanceTest, OtherUsers) {
+    if (geteuid() == 0) {
+        QFile lock(home.filePath("tensarix.lock"));
+        ASSERT_TRUE(lock.open(QIODevice::WriteOnly) && flock(lock.handle(), LOCK_EX) == 0);
+        ASSERT_EQ(fchown(lock.handle(), 65534, 65534), 0);
+        EXPECT_FALSE(SingleInstance().Other_Runs());
+    }
+    EXPECT_EQ(Runtime_Folder(), home.path());
+    ASSERT_EQ(chmod(home.path().toLocal8Bit(), 0777), 0);
+    EXPECT_EQ(Runtime_Folder(), home.filePath("Tensarix"));
+    qunsetenv("XDG_RUNTIME_DIR");
+    EXPECT_EQ(Runtime_Folder(), home.filePath("Tensarix"));
 }
 
 // The first is closing: it takes no more wishes, and who asks must not end with it.

@@ -1,9 +1,13 @@
 // Real processes of the program, and how they are asked whether they are up.
 #pragma once
 
+#include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <gtest/gtest.h>
 
 #include <memory>
 
@@ -17,7 +21,22 @@ inline std::unique_ptr<QProcess> Launch(const QString& program, const QStringLis
     return process;
 }
 
-inline std::unique_ptr<QProcess> Launch_Tensarix(const QString& folder = TENSARIX_PROGRAM_DIR) {
+inline bool Copy_Program(const QString& folder) {
+    for (const char* name : {"/tensarix", "/ShapeDataBase.mdb"})
+        if (!QFile::copy(TENSARIX_PROGRAM_DIR + QString(name), folder + name))
+            return false;
+    return true;
+}
+
+// A copy of the program for several tests, whose data files lie beside it.
+inline QString Shared_Copy() {
+    static const QTemporaryDir folder;
+    static const bool copied = Copy_Program(folder.path());
+    EXPECT_TRUE(copied);
+    return folder.path();
+}
+
+inline std::unique_ptr<QProcess> Launch_Tensarix(const QString& folder = Shared_Copy()) {
     return Launch(folder + QStringLiteral("/tensarix"));
 }
 
@@ -32,7 +51,10 @@ inline bool Comes_Up(const QString& home) {
         [&home] {
             QLocalSocket socket;
             socket.connectToServer(home + QStringLiteral("/tensarix.socket"));
-            return socket.waitForConnected(patienceMs) && socket.waitForReadyRead(patienceMs);
+            if (!socket.waitForConnected(patienceMs))
+                return false;
+            socket.write("\n"); // the wish, without a token
+            return socket.waitForReadyRead(patienceMs);
         },
         patienceMs);
 }

@@ -17,7 +17,6 @@ namespace Tensarix::Tests {
 inline void Use_Home(const QString& folder) {
     for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
         qputenv(name, folder.toLocal8Bit());
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
 }
 
 class WindowTest : public testing::Test {

@@ -85,6 +85,7 @@ DesktopVoice::DesktopVoice() {
 DesktopVoice::~DesktopVoice() {
     OnWord = nullptr;
     OnEnd = nullptr;
+    OnMissing = nullptr;
     Silence();
     QElapsedTimer timer;
     timer.start();
@@ -116,6 +117,11 @@ void DesktopVoice::Speak(std::string_view text) {
         Reach_Service();
 }
 
+void DesktopVoice::Reach() {
+    if (!connected_)
+        Reach_Service();
+}
+
 void DesktopVoice::Silence() {
     due_.clear();
     if (Is_Busy())
@@ -133,7 +139,7 @@ void DesktopVoice::Reach_Service() {
     if (retry_.isActive() || socket_.state() != QLocalSocket::UnconnectedState)
         return;
     if (Service_Address().isEmpty()) {
-        due_.clear();
+        Give_Up();
         return;
     }
     tries_ = 0;
@@ -149,7 +155,12 @@ void DesktopVoice::Not_Reached() {
     if (canCome && ++tries_ <= reachTries)
         retry_.start(reachWaitMs);
     else
-        due_.clear();
+        Give_Up();
+}
+
+void DesktopVoice::Give_Up() {
+    due_.clear();
+    Run(OnMissing);
 }
 
 void DesktopVoice::Connected() {

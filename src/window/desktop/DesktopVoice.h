@@ -17,13 +17,15 @@ namespace Tensarix {
 
 // Nothing here waits: whatever the service has to say comes by the event loop, on whose thread the
 // callbacks run too. The service is looked for at the first text, and started if it isn't there;
-// a text that finds none is dropped. After its death the next text looks for it again.
+// a text that finds none is dropped, and OnMissing runs. After its death the next text looks for it
+// again.
 class DesktopVoice final : public Voice {
   public:
     DesktopVoice();
     // Silences what is being spoken; takes a fraction of a second at the most.
     ~DesktopVoice() override;
     void Speak(std::string_view text) override;
+    void Reach() override;
 
   private:
     struct Utterance {
@@ -39,6 +41,7 @@ class DesktopVoice final : public Voice {
     void Reach_Service();
     void Connect();
     void Not_Reached();
+    void Give_Up();
     void Connected();
     void Lost();
 

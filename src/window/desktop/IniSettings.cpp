@@ -2,6 +2,7 @@
 
 #include "common/ReplaceFile.h"
 #include "window/To_Qt.h"
+#include "window/desktop/UserFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,6 +14,17 @@
 namespace Tensarix {
 
 namespace {
+
+constexpr std::size_t mostBytes = 4u << 20; // far more than the program ever writes
+
+std::filesystem::path File_Path(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+// A pipe would keep the program waiting for ever. No file is as good as an empty one.
+bool Can_Be_Read(const QString& path) {
+    return !QFileInfo::exists(path) || Read_Whole_File(File_Path(path), mostBytes);
+}
 
 // As the file has it: a section that is a path begins without its slash.
 QString Setting_Path(std::string_view section, std::string_view key) {
@@ -86,17 +98,23 @@ QByteArray Ini_Image(const QMap<QString, QString>& texts) {
 
 } // namespace
 
-IniSettings::IniSettings()
-    : file_(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tensarix"),
-            QStringLiteral("Tensarix")) {}
+IniSettings::IniSettings() : path_(Settings_Folder() + QStringLiteral("/Tensarix.ini")) {
+    if (Can_Be_Read(path_))
+        file_.emplace(path_, QSettings::IniFormat);
+}
+
+std::string IniSettings::Remark() const {
+    return file_ ? std::string{}
+                 : "The settings can't be read, and won't be saved: " + path_.toStdString();
+}
 
 std::optional<std::string> IniSettings::Read(std::string_view section, std::string_view key) {
     const QString path = Setting_Path(section, key);
     if (const auto found = changed_.constFind(path); found != changed_.constEnd())
         return found->toStdString();
-    if (!file_.contains(path))
+    if (!file_ || !file_->contains(path))
         return std::nullopt;
-    return Text_Of(file_.value(path)).toStdString();
+    return Text_Of(file_->value(path)).toStdString();
 }
 
 void IniSettings::Write(std::string_view section, std::string_view key, std::string_view text) {
@@ -115,29 +133,27 @@ void IniSettings::Write(std::string_view section, std::string_view key, std::str
         Qt::QueuedConnection);
 }
 
-// The user's own file, without what stands for all users.
-IniSettings::Texts IniSettings::All() {
+IniSettings::Texts IniSettings::All() const {
     Texts all;
-    file_.setFallbacksEnabled(false);
-    const QStringList keys = file_.allKeys();
+    const QStringList keys = file_->allKeys();
     for (const QString& key : keys)
-        all[key] = Text_Of(file_.value(key));
-    file_.setFallbacksEnabled(true);
+        all[key] = Text_Of(file_->value(key));
     all.insert(changed_);
     return all;
 }
 
+void IniSettings::Read_Again() {
+    if (file_ && Can_Be_Read(path_))
+        file_->sync();
+}
+
 void IniSettings::Save() {
-    if (!unsaved_)
+    if (!unsaved_ || !file_ || !Can_Be_Read(path_)) // what stands there would be lost
         return;
-    Read_Again();
-    const QFileInfo place(file_.fileName());
-    const std::filesystem::path path = QFile::encodeName(place.filePath()).toStdString();
-    if (place.exists() && !Read_Whole_File(path))
-        return; // what stands there would be lost
+    file_->sync();
     const QByteArray image = Ini_Image(All());
-    QDir().mkpath(place.path());
-    unsaved_ = !Replace_File(path, Bytes(image.begin(), image.end()));
+    QDir().mkpath(QFileInfo(path_).path());
+    unsaved_ = !Replace_File(File_Path(path_), Bytes(image.begin(), image.end()));
 }
 
 } // namespace Tensarix

@@ -1,12 +1,13 @@
 #include "window/desktop/ProcessLock.h"
 
-#if __has_include(<sys/file.h>)
+#ifndef _WIN32
 #include <QFile>
 
 #include <cerrno>
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #else
 #include <QLockFile>
@@ -14,20 +15,26 @@
 
 namespace Tensarix {
 
-#if __has_include(<sys/file.h>)
+#ifndef _WIN32
 
 struct ProcessLock::Held {
     int File;
 
     explicit Held(const QString& path)
-        : File(open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {}
+        : File(open(QFile::encodeName(path).constData(),
+                    O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600)) {}
     Held(const Held&) = delete;
     ~Held() {
         if (File >= 0)
             close(File);
     }
     bool Take() const {
-        return File < 0 || flock(File, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+        return !Is_Own() || flock(File, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    }
+    // What another user has put there locks nobody out.
+    bool Is_Own() const {
+        struct stat found {};
+        return File >= 0 && fstat(File, &found) == 0 && found.st_uid == geteuid();
     }
 };
 

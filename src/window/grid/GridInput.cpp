@@ -154,8 +154,12 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void GridView::Press(QTableView& pane, QMouseEvent* event) {
     const QModelIndex index = pane.indexAt(event->position().toPoint());
-    if (event->button() != Qt::LeftButton || !index.isValid())
+    if (event->button() != Qt::LeftButton)
         return;
+    if (!index.isValid()) {
+        grid_->Press_Beside();
+        return;
+    }
     const int row = index.row() + grid_->FixedRows();
     if ((event->modifiers() & Qt::ShiftModifier) != 0) {
         grid_->Extend_To(row, index.column());
@@ -167,13 +171,17 @@ void GridView::Press(QTableView& pane, QMouseEvent* event) {
 }
 
 void GridView::Drag(QMouseEvent* event) {
-    const QPoint inside = mapFromGlobal(event->globalPosition().toPoint());
-    if (grid_->OnMouseMove)
-        grid_->OnMouseMove(inside.x() / Twip_Scale());
-    const QModelIndex index = Index_At(inside); // also in the columns that the drag didn't begin in
+    Mouse_Moved(*event);
+    // Also in the columns that the drag didn't begin in.
+    const QModelIndex index = Index_At(mapFromGlobal(event->globalPosition().toPoint()));
     if ((event->buttons() & Qt::LeftButton) == 0 || !index.isValid())
         return;
     grid_->Extend_To(index.row() + grid_->FixedRows(), index.column());
+}
+
+void GridView::Mouse_Moved(const QMouseEvent& event) const {
+    if (grid_->OnMouseMove)
+        grid_->OnMouseMove(mapFromGlobal(event.globalPosition().toPoint()).x() / Twip_Scale());
 }
 
 void GridView::Release(QMouseEvent* event) {

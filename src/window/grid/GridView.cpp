@@ -81,6 +81,10 @@ GridView::GridView(QWidget* parent) : QTableView(parent), frozen_(new FixedColum
     frozen_->verticalHeader()->hide();
     frozen_->viewport()->setMouseTracking(true);
     frozen_->viewport()->installEventFilter(this);
+    for (QTableView* pane : {static_cast<QTableView*>(this), frozen_}) {
+        pane->horizontalHeader()->viewport()->setMouseTracking(true);
+        pane->horizontalHeader()->viewport()->installEventFilter(this);
+    }
 }
 
 GridView::~GridView() {
@@ -427,6 +431,9 @@ void GridView::Tell_Current_Cell() {
 bool GridView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == frozen_->viewport() && grid_)
         return Frozen_Event(event);
+    if (grid_ && (watched == horizontalHeader()->viewport() ||
+                  watched == frozen_->horizontalHeader()->viewport()))
+        return Head_Event(event);
     return QTableView::eventFilter(watched, event);
 }
 
@@ -449,6 +456,18 @@ bool GridView::Frozen_Event(QEvent* event) {
     default:
         return false;
     }
+}
+
+// The head row answers the mouse as the cells do, and does besides what a head does.
+bool GridView::Head_Event(QEvent* event) {
+    const auto mouse = [event] { return static_cast<QMouseEvent*>(event); };
+    if (event->type() == QEvent::MouseMove)
+        Mouse_Moved(*mouse());
+    else if (event->type() == QEvent::MouseButtonRelease)
+        Release(mouse());
+    else if (event->type() == QEvent::MouseButtonPress && mouse()->button() == Qt::LeftButton)
+        grid_->Press_Beside();
+    return false;
 }
 
 bool GridView::viewportEvent(QEvent* event) {

@@ -81,9 +81,11 @@ class GridView : public QTableView {
     bool Go_To(int row, int col, bool extend);
     void Press(QTableView& pane, QMouseEvent* event);
     void Drag(QMouseEvent* event);
+    void Mouse_Moved(const QMouseEvent& event) const;
     void Release(QMouseEvent* event);
     void Popup_By_Key();
     bool Frozen_Event(QEvent* event);
+    bool Head_Event(QEvent* event);
     QModelIndex Index(int row, int col) const;
     QModelIndex Index_At(QPoint inside) const;
 

@@ -11,14 +11,20 @@
 #include "window/pages/FindForm.h"
 #include "window/pages/ViewForm.h"
 
+#include <QAction>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <algorithm>
 
 namespace Tensarix {
 
 namespace {
 
-constexpr std::string_view geometrySection = "Window", geometryKey = "Geometry"; // Base64
+constexpr char tokenVariable[] = "XDG_ACTIVATION_TOKEN"; // where the toolkit looks for it
 constexpr QSize firstSize{1240, 700}; // fits a screen of 1366 x 768 with its task bar
 
 // The mode that shows is told by more than a shade.
@@ -30,10 +36,46 @@ void Show_Chosen_In_Bold(QPushButton* button) {
     });
 }
 
+// A text box keeps for itself what it knows as a key of its own. The menu's keys are the menu's,
+// but for the one that cuts while something is chosen to be cut.
+class MenuKeys final : public QObject {
+  public:
+    explicit MenuKeys(QWidget& window)
+        : QObject(&window), actions_(window.findChildren<QAction*>()) {
+        for (auto* box : window.findChildren<QLineEdit*>())
+            box->installEventFilter(this);
+        for (auto* list : window.findChildren<QComboBox*>()) // asks its box by itself
+            if (list->isEditable())
+                list->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::ShortcutOverride)
+            return false;
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        const auto* list = qobject_cast<QComboBox*>(watched);
+        const auto* box = list ? list->lineEdit() : qobject_cast<QLineEdit*>(watched);
+        const bool cuts = key.matches(QKeySequence::Cut) && box && box->hasSelectedText();
+        if (cuts || !Is_Of_Menu(key))
+            return false;
+        event->ignore();
+        return true;
+    }
+
+  private:
+    bool Is_Of_Menu(const QKeyEvent& key) const {
+        return std::any_of(actions_.begin(), actions_.end(), [&key](const QAction* action) {
+            return action->shortcut() == QKeySequence(key.keyCombination());
+        });
+    }
+
+    QList<QAction*> actions_; // the window's own, as long as it is
+};
+
 } // namespace
 
-ProgramWindow::ProgramWindow(MainFrm& form, SettingsStore& settings, DesktopEvents& events)
-    : form_(form), settings_(settings), events_(events) {
+ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form), events_(events) {
     Ui::ProgramWindow ui;
     ui.setupUi(this);
     setWindowTitle(QString::fromStdString(form.Caption));
@@ -65,27 +107,30 @@ ProgramWindow::ProgramWindow(MainFrm& form, SettingsStore& settings, DesktopEven
     Bind(ui.mnuOnTop, form.mnuOnTop);
     Bind(ui.mnuReadOut, form.mnuReadOut);
     Bind(ui.mnuAbout, form.mnuAbout);
+    new MenuKeys(*this);
     Restore_Place();
 }
 
 void ProgramWindow::Restore_Place() {
-    const std::string saved = settings_.Read(geometrySection, geometryKey).value_or("");
+    const std::string saved = form_.Shared.Saved.Text(Setting::MainWindowPlace);
     if (!restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(saved))))
         Fit_To_Screen(*this, firstSize);
 }
 
-bool ProgramWindow::Raise() {
+bool ProgramWindow::Raise(const QByteArray& activationToken) {
     if (!isVisible()) // closed, and the program is about to end
         return false;
-    if (isMinimized())
-        showNormal();
+    setWindowState(windowState() & ~Qt::WindowMinimized); // maximised stays so
     raise();
+    if (!activationToken.isEmpty())
+        qputenv(tokenVariable, activationToken);
     activateWindow();
+    qunsetenv(tokenVariable); // it is good for once
     return true;
 }
 
 void ProgramWindow::closeEvent(QCloseEvent* event) {
-    settings_.Write(geometrySection, geometryKey, saveGeometry().toBase64().toStdString());
+    form_.Shared.Saved.Save(Setting::MainWindowPlace, saveGeometry().toBase64().toStdString());
     form_.Query_Unload();
     events_.Close();
     event->accept();

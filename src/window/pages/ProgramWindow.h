@@ -2,7 +2,7 @@
 #pragma once
 
 #include "shell/MainFrm.h"
-#include "window/desktop/Services.h"
+#include "window/desktop/EventsAndClock.h"
 
 #include <QMainWindow>
 
@@ -12,10 +12,11 @@ class ProgramWindow final : public QMainWindow {
     Q_OBJECT
 
   public:
-    ProgramWindow(MainFrm& form, SettingsStore& settings, DesktopEvents& events);
+    ProgramWindow(MainFrm& form, DesktopEvents& events);
 
-    // Un-minimises the window and brings it to the front.
-    bool Raise();
+    // Un-minimises the window and brings it to the front, by the token that the desktop gave the
+    // one who asks for it. False: the window has been closed.
+    bool Raise(const QByteArray& activationToken);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -26,7 +27,6 @@ class ProgramWindow final : public QMainWindow {
     void Restore_Place();
 
     MainFrm& form_;
-    SettingsStore& settings_;
     DesktopEvents& events_;
 };
 

@@ -1,0 +1,111 @@
+#include "window/desktop/SingleInstance.h"
+
+#include "window/desktop/UserFolders.h"
+
+#include <QElapsedTimer>
+#include <QLocalSocket>
+#include <QThread>
+
+#include <utility>
+
+#ifdef __linux__
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
+
+namespace Tensarix {
+
+namespace {
+
+constexpr int raiseWaitMs = 50; // between two tries
+constexpr char raisedAnswer[] = "raised";
+
+bool Is_Own_Peer([[maybe_unused]] const QLocalSocket& socket) {
+#ifdef __linux__
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer,
+                      &size) == 0 &&
+           peer.uid == geteuid();
+#else
+    return true; // the system keeps others away
+#endif
+}
+
+} // namespace
+
+QByteArray Activation_Token() {
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+SingleInstance::SingleInstance(QByteArray activationToken, int patienceMs)
+    : token_(std::move(activationToken)), patienceMs_(patienceMs),
+      lock_(Runtime_Folder() + QStringLiteral("/tensarix.lock")),
+      socket_(Runtime_Folder() + QStringLiteral("/tensarix.socket")) {
+    QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { Take_Wishes(); });
+    Take_Place();
+}
+
+bool SingleInstance::Take_Place() {
+    first_ = lock_.Take(); // none can be kept: rather a second window than none
+    if (first_) {
+        server_.setSocketOptions(QLocalServer::UserAccessOption);
+        QLocalServer::removeServer(socket_); // what a crashed run left behind
+        server_.listen(socket_);
+    }
+    return first_;
+}
+
+bool SingleInstance::Other_Runs() {
+    return !first_;
+}
+
+bool SingleInstance::Raise_Other() {
+    QElapsedTimer waited;
+    waited.start();
+    while (!waited.hasExpired(patienceMs_)) {
+        if (Other_Answers(patienceMs_ - static_cast<int>(waited.elapsed())) || Take_Place())
+            return true;
+        QThread::msleep(raiseWaitMs);
+    }
+    return false;
+}
+
+// A connection alone says nothing: the system makes it for a program that is ending, too.
+bool SingleInstance::Other_Answers(int patienceMs) const {
+    QLocalSocket socket;
+    socket.connectToServer(socket_);
+    if (!socket.waitForConnected(patienceMs) || !Is_Own_Peer(socket))
+        return false;
+    socket.write(token_ + '\n');
+    return socket.waitForReadyRead(patienceMs);
+}
+
+void SingleInstance::On_Raise(std::function<bool(const QByteArray&)> raise) {
+    raise_ = std::move(raise);
+    Take_Wishes(); // of those who asked during the start
+}
+
+void SingleInstance::Take_Wishes() {
+    if (!raise_)
+        return;
+    while (QLocalSocket* socket = server_.nextPendingConnection()) {
+        QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        QObject::connect(socket, &QLocalSocket::readyRead, socket,
+                         [this, socket] { Answer(*socket); });
+        Answer(*socket);
+    }
+}
+
+void SingleInstance::Answer(QLocalSocket& socket) {
+    if (!socket.canReadLine())
+        return;
+    if (Is_Own_Peer(socket) && raise_(socket.readLine().trimmed())) {
+        socket.write(raisedAnswer);
+        socket.flush(); // whatever becomes of the event loop
+    }
+    socket.disconnectFromServer();
+}
+
+} // namespace Tensarix
