@@ -42,6 +42,7 @@ class BeamPage {
     Label UniWTLab, LimSpanLab, BeamReactionLab;
     // Advice beside the results: on the span in force, and on what the rules leave out.
     Label SpanRemark, RuleRemark;
+    Label LoadNotes;                 // where the load holds, and how far the beam bends under it
     DrawingBox BeamSketch, LoadPlot; // the beam with its load; load against span
 
     explicit BeamPage(Desk& desk);
@@ -85,7 +86,11 @@ class BeamPage {
     void Show_Results(const BeamLoad& load);
     void Show_Span_Remark();
     void Show_Drawings(const BeamInput& input, const BeamLoad& load);
-    std::string Rule_Remark(const BeamInput& input) const;
+    Advice Rule_Remark(const BeamInput& input, const BeamLoad& load) const;
+    std::string Left_Out(const BeamInput& input) const;
+    BeamLoad By_Whole_Rules(const BeamInput& input, double spanFeet) const;
+    std::string Unsaid(const BeamInput& input, const BeamLoad& load) const;
+    bool Is_Channel() const { return zShapeType.ListIndex() >= FirstChannelFamily; }
 
     static std::string Length_Text(double feet);
     BeamSection Read_Section() const;

@@ -4,6 +4,7 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "measures/FeetInchFormatting.h"
+#include "measures/FeetInchParsing.h"
 #include "sections/SectionStore.h"
 
 namespace Tensarix {
@@ -12,8 +13,11 @@ namespace {
 
 constexpr std::string_view loadPattern = "0.00";
 
+constexpr double sameReaction = 0.995; // a part of the one shown
+
 void Add_Line(std::string& text, std::string_view line) {
-    text.append(text.empty() ? "" : "\n").append(line);
+    if (!line.empty())
+        text.append(text.empty() ? "" : "\n").append(line);
 }
 
 } // namespace
@@ -36,6 +40,10 @@ BeamSection BeamPage::Read_Section() const {
         keep(section.tw, "TW");
         keep(section.h_tw, "H_TW");
         keep(section.bf_2tf, "BF_2TF");
+        keep(section.Ix, "IX");
+        keep(section.bf, "BF");
+        keep(section.tf, "TF");
+        keep(section.ry, "RY");
     });
     return section;
 }
@@ -54,7 +62,9 @@ void BeamPage::CalculateValues() {
     boundary_ = load.BoundaryFeet;
     Show_Results(load);
     Show_Span_Remark();
-    RuleRemark.Set_Caption(Rule_Remark(input));
+    Advice remark = Rule_Remark(input, load);
+    RuleRemark.Set_Caption(std::move(remark.Text), remark.Weight);
+    LoadNotes.Set_Caption(Unsaid(input, load));
     Show_Drawings(input, load);
 }
 
@@ -97,20 +107,18 @@ void BeamPage::Show_Span_Remark() {
         text = "No valid span: results are those at " + Length_Text(span_);
     else if (*typed < boundary_ && Length_Text(*typed) != boundary)
         text = "Span below the boundary: results are those at " + boundary;
-    SpanRemark.Set_Caption(text);
+    SpanRemark.Set_Caption(text, typed ? RemarkWeight::Note : RemarkWeight::Caution);
 }
 
-std::string BeamPage::Rule_Remark(const BeamInput& input) const {
+// What the rules leave out of this section.
+std::string BeamPage::Left_Out(const BeamInput& input) const {
     const BeamSection& section = input.Section;
     const float yield = input.YieldKsi;
     std::string text;
-    if (section.d == 0 || yield == 0) // nothing was computed
-        return text;
     if (Is_9th_Edition() && !Is_Compact_Flange(section, yield))
         Add_Line(text, "The 9th Edition page makes no compactness check: by the 13th Edition this "
                        "flange is not compact");
-    if (!Is_9th_Edition() && zShapeType.ListIndex() >= FirstChannelFamily &&
-        Is_Stocky_Web(section, yield))
+    if (!Is_9th_Edition() && Is_Channel() && Is_Stocky_Web(section, yield))
         Add_Line(text, Method() == DesignMethod::ASD
                            ? "The factor used for shear, 1.5, is that of I-shaped rolled webs: the "
                              "13th Edition gives channels 1.67"
@@ -119,6 +127,50 @@ std::string BeamPage::Rule_Remark(const BeamInput& input) const {
     if (Is_9th_Edition() ? Web_Buckles_9th(section, yield) : Web_Buckles_13th(section, yield))
         Add_Line(text, "Web shear buckling is left out: h/tw of this web is above the limit to "
                        "which the edition takes its full shear strength");
+    return text;
+}
+
+BeamLoad BeamPage::By_Whole_Rules(const BeamInput& input, double spanFeet) const {
+    if (Is_9th_Edition())
+        return Whole_Rules_9th(input.Section, input.YieldKsi, spanFeet);
+    return Whole_Rules_13th(input.Section, input.YieldKsi, spanFeet, Method(), Is_Channel());
+}
+
+// Where what is left out makes the load at this span too high, the one to use comes first.
+Advice BeamPage::Rule_Remark(const BeamInput& input, const BeamLoad& load) const {
+    if (input.Section.d == 0 || input.YieldKsi == 0) // nothing was computed
+        return {};
+    Advice remark{Left_Out(input)};
+    if (remark.Text.empty())
+        return remark;
+    const BeamLoad whole = By_Whole_Rules(input, load.SpanFeet);
+    if (whole.EndReactionKips < sameReaction * load.EndReactionKips)
+        Attempt([&] {
+            const double reaction = (1.0 + Magnification()) * whole.EndReactionKips;
+            remark = {"Use w = " + Format_Number(whole.LoadKipsPerFoot, loadPattern) +
+                          " Kip/ft, end reaction " + Format_Number(reaction, loadPattern) +
+                          " Kips\n" + remark.Text,
+                      RemarkWeight::Unsafe};
+        });
+    return remark;
+}
+
+// Where the load holds, and how far the beam bends under it. A factored load bends no beam.
+std::string BeamPage::Unsaid(const BeamInput& input, const BeamLoad& load) const {
+    const BeamSection& section = input.Section;
+    const double braced = Is_9th_Edition() ? Braced_Feet_9th(section, input.YieldKsi)
+                                           : Braced_Feet_13th(section, input.YieldKsi);
+    if (braced == 0)
+        return {};
+    std::string text =
+        "Holds where the compression flange is braced at least every " + Length_Text(braced);
+    const double deflection = Deflection_Inches(load.LoadKipsPerFoot, load.SpanFeet, section.Ix);
+    if ((Is_9th_Edition() || Method() == DesignMethod::ASD) && deflection > 0)
+        Attempt([&] {
+            const double ratio = load.SpanFeet * InchesPerFoot / deflection;
+            Add_Line(text, "Deflection under this load: " + Format_Number(deflection, loadPattern) +
+                               " in., L/" + Format_Number(ratio, "0"));
+        });
     return text;
 }
 

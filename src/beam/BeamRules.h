@@ -17,6 +17,8 @@ struct BeamSection {
     double Zx = 0, Sx = 0; // in^3
     double d = 0, tw = 0;  // in.
     double h_tw = 0, bf_2tf = 0;
+    double Ix = 0;                 // in^4
+    double bf = 0, tf = 0, ry = 0; // in.
 };
 
 struct BeamInput {
@@ -55,5 +57,21 @@ bool Is_Stocky_Web(const BeamSection& section, float yieldKsi);
 // above don't: h/tw beyond 380 / sqrt(Fy) (9th Edition, F4), beyond 1.10 sqrt(5 E/Fy) (G2.1(b)).
 bool Web_Buckles_9th(const BeamSection& section, float yieldKsi);
 bool Web_Buckles_13th(const BeamSection& section, float yieldKsi);
+
+// What the two rules above leave out: compactness (9th Edition F1-3, F1-5) and web shear buckling
+// (F4-2 with kv = 5.34; 13th Edition G2.1(b) with kv = 5), and that the higher shear factors of
+// G2.1(a) hold for I-shapes alone. The reaction and load at a span, which is not replaced.
+BeamLoad Whole_Rules_9th(const BeamSection& section, float yieldKsi, double spanFeet);
+BeamLoad Whole_Rules_13th(const BeamSection& section, float yieldKsi, double spanFeet,
+                          DesignMethod method, bool isChannel);
+
+// The longest distance between braces of the compression flange at which the flexural strength
+// above holds, in feet. 9th Edition, F1-2: the smaller of 76 bf / sqrt(Fy) and
+// 20,000 / ((d / Af) Fy) inches. 13th Edition, F2-5: Lp = 1.76 ry sqrt(E / Fy).
+double Braced_Feet_9th(const BeamSection& section, float yieldKsi);
+double Braced_Feet_13th(const BeamSection& section, float yieldKsi);
+
+// 5 w L^4 / (384 E Ix), in inches, with E = 29,000 ksi (Manual, table 3-23, case 1).
+double Deflection_Inches(double loadKipsPerFoot, double spanFeet, double Ix);
 
 } // namespace Tensarix

@@ -52,6 +52,7 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     Bind(ui.BeamReactionLab, page.BeamReactionLab);
     Bind(ui.SpanRemark, page.SpanRemark);
     Bind(ui.RuleRemark, page.RuleRemark);
+    Bind(ui.LoadNotes, page.LoadNotes);
     Bind(ui.CodeNote, page.CodeNote);
     Bind(ui.BeamSketch, page.BeamSketch);
     Bind(ui.LoadPlot, page.LoadPlot);
