@@ -83,12 +83,6 @@ void Add_Moment(Drawing& drawing, double span, const std::string& words) {
     drawing.Add(Label{{span / 2, axis + height}, words}, Ink::Measure, "M");
 }
 
-// The least round number that is not below a value, by the steps of an axis.
-double Round_Up(double value) {
-    const double step = Round_Step(value / 6);
-    return std::ceil(value / step) * step;
-}
-
 BeamInput At_Span(BeamInput input, double span) {
     input.TypedSpanFeet = span;
     return input;

@@ -121,12 +121,6 @@ void Add_Forces(Drawing& drawing, const Group& group, const GroupLoad& load,
     }
 }
 
-// The search's centre lies level with the centroid as the load is made vertical.
-Point Search_Centre(const GroupLoad& load, double Ro) {
-    const double side = load.X() * std::cos(load.Radians()) < 0 ? -1 : 1;
-    return {-side * Ro * std::cos(load.Radians()), side * Ro * std::sin(load.Radians())};
-}
-
 std::string Sentence(const BoltPicture& picture) {
     const auto known = [](const char* words, const std::optional<double>& value,
                           const char* unit) -> std::string {
@@ -159,7 +153,7 @@ Drawing Bolt_Group_Drawing(const BoltPicture& picture) {
         if (picture.Balanced->Turns) {
             centre = Point{picture.Balanced->X, picture.Balanced->Y};
             Add_Centre(drawing, *centre, nearby * load.Size, MarkKind::Dot, Ink::Result, "Centre");
-            drawing.Sentence += "; it turns about a centre " + Place_In_Words(*centre);
+            drawing.Sentence += "; it turns about a centre " + Place_In_Words(*centre, " in.");
         }
     }
     if (picture.SearchRo && picture.ex.value_or(0) != 0) {
@@ -168,7 +162,7 @@ Drawing Bolt_Group_Drawing(const BoltPicture& picture) {
             !centre || std::hypot(search.X - centre->X, search.Y - centre->Y) > sameCentre * size;
         if (apart) {
             Add_Centre(drawing, search, nearby * load.Size, MarkKind::Hollow, Ink::Alert, "Search");
-            drawing.Sentence += "; the search's own centre is " + Place_In_Words(search);
+            drawing.Sentence += "; the search's own centre is " + Place_In_Words(search, " in.");
         }
     }
     Add_Sizes(drawing, group, picture);

@@ -15,8 +15,8 @@ constexpr double usualEccentricity = 1.1, usualAngle = 25; // of the size; degre
 constexpr double arrowLength = 0.6, arcPlace = 0.62;       // of the size; of the arrow
 constexpr int arcPieces = 24;
 
-std::string Inches(double value) {
-    return Format_Number(value, std::abs(value) < 1000 ? "0.0" : "0.0E+0") + " in.";
+std::string Short_Text(double value) {
+    return Format_Number(value, std::abs(value) < 1000 ? "0.0" : "0.0E+0");
 }
 
 } // namespace
@@ -82,10 +82,15 @@ void Add_Centre(Drawing& drawing, Point centre, double near, MarkKind kind, Ink 
                 ink, name);
 }
 
-std::string Place_In_Words(Point centre) {
-    return Inches(std::abs(centre.X)) + (centre.X < 0 ? " left" : " right") +
-           " of the centroid and " + Inches(std::abs(centre.Y)) +
+std::string Place_In_Words(Point centre, const std::string& unit) {
+    return Short_Text(std::abs(centre.X)) + unit + (centre.X < 0 ? " left" : " right") +
+           " of the centroid and " + Short_Text(std::abs(centre.Y)) + unit +
            (centre.Y < 0 ? " below it" : " above it");
+}
+
+Point Search_Centre(const GroupLoad& load, double Ro) {
+    const double side = load.X() * std::cos(load.Radians()) < 0 ? -1 : 1;
+    return {-side * Ro * std::cos(load.Radians()), side * Ro * std::sin(load.Radians())};
 }
 
 } // namespace Tensarix

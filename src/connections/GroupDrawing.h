@@ -32,7 +32,11 @@ void Add_Load(Drawing& drawing, const GroupLoad& load, const std::string& symbol
 void Add_Centre(Drawing& drawing, Drawn::Point centre, double near, Drawn::MarkKind kind,
                 Drawn::Ink ink, const std::string& name);
 
-// "3.2 in. left of the centroid and 0.5 in. above it".
-std::string Place_In_Words(Drawn::Point centre);
+// "3.2 in. left of the centroid and 0.5 in. above it"; the unit is " in." there.
+std::string Place_In_Words(Drawn::Point centre, const std::string& unit);
+
+// The centre of a search that moves it so far out on the level of the centroid, where the load is
+// vertical: away from the load.
+Drawn::Point Search_Centre(const GroupLoad& load, double Ro);
 
 } // namespace Tensarix

@@ -162,6 +162,10 @@ double Weld_Scale(double L) {
     return L > largestScaledLength ? 1 : Finite(largestScaledLength / L);
 }
 
+double Weld_Display_Unit(int item, double L) {
+    return Row_Of(Figure_Of_Item(item)).shownScaled ? Weld_Scale(L) : 1;
+}
+
 // The two divisions cancel to within rounding; both are made.
 double Weld_Coefficient(double raw, double base) {
     return Finite(Finite((raw / base) / 16.0) / weldSize);

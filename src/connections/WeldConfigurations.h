@@ -46,6 +46,10 @@ std::vector<WeldLine> Weld_Configuration_Lines(int item, double base, double leg
 // a base length up to 100 becomes 100. Fails where L is 0.
 double Weld_Scale(double L);
 
+// So many of the units of the report make one of L: 1, but for the configuration that is reported
+// scaled.
+double Weld_Display_Unit(int item, double L);
+
 // C of a raw load over the scaled base length.
 double Weld_Coefficient(double raw, double base);
 

@@ -48,6 +48,8 @@ class WeldDisplay {
     virtual void Replace_Text(std::string_view text) = 0;
     virtual void Append_Text(std::string_view text) = 0;
     virtual void Show_Elapsed(std::string_view caption) = 0;
+    // The numbers of a pass of a search, as they are displayed; beside the texts, for a plot.
+    virtual void Show_Loads(double /*Ro*/, double /*Fv*/, double /*Fm*/) {}
 };
 
 // All that a run needs from outside.

@@ -161,10 +161,13 @@ void WeldPage::Empty_Report() {
     BalancedCaption.Set_Caption({});
     BalancedBox.Set_Text({});
     CBox.Set_Remark({});
+    passes_.Clear();
+    SearchPlot.Set_Drawing({});
     ElapsedIndicator.Set_Caption({});
 }
 
 void WeldPage::UpdateWeldCentroids() {
+    Draw_Group();
     const bool complete =
         !Trim(WeldFlex.Text(WeldRow::L, 1)).empty() && !Trim(WeldFlex.Text(WeldRow::kL, 1)).empty();
     const bool hasX = WeldConfigIndex > lastWithoutCentroid;

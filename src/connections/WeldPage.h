@@ -3,9 +3,11 @@
 #pragma once
 
 #include "connections/WeldConfigurations.h"
+#include "connections/WeldDrawing.h"
 #include "connections/WeldFunctions.h"
 #include "controls/CellEditing.h"
 #include "controls/Controls.h"
+#include "controls/DrawingBox.h"
 #include "controls/FlexGrid.h"
 #include "controls/ListView.h"
 #include "controls/ReportBox.h"
@@ -31,7 +33,9 @@ void ModifyTextWeld(TextBox& editor);
 class WeldPage {
   public:
     ListView WeldView;
-    Picture WeldImage;
+    Picture WeldImage;     // of the configuration, by its name
+    DrawingBox WeldSketch; // the group of the inputs
+    DrawingBox SearchPlot; // the loads of the passes so far
     FlexGrid WeldFlex;
     TextBox EdiTxtA; // over the cell that is being edited
     ComboBox WeldStripBox;
@@ -86,6 +90,8 @@ class WeldPage {
     Outcome Search(const Inputs& inputs, unsigned run);
     void Show_Converged(const Inputs& inputs, double C);
     void Show_Aborted(const Inputs& inputs, double C);
+    void Draw_Group();
+    void Plot_Pass(const WeldPassLoads& pass);
     Advice Show_Balance(const Inputs& inputs, double C);
     std::optional<std::array<std::string, 4>> Typed_Inputs() const;
     void Show_Running();
@@ -99,6 +105,8 @@ class WeldPage {
     int WeldStripIndex = 0;
     std::array<Parameters, weldConfigurationCount> WeldParameters;
     WeldState state_;
+    WeldPasses passes_;    // of the run that shows
+    double plotted_ = 0;   // seconds, when the plot was drawn last
     unsigned newest_ = 0;  // the run whose result is wanted
     unsigned started_ = 0; // the run that the buttons speak of
     CellEditing editing_;

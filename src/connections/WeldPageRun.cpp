@@ -49,6 +49,7 @@ class WeldPage::Display final : public WeldDisplay {
     void Show_Elapsed(std::string_view caption) override {
         page_.ElapsedIndicator.Set_Caption(std::string{caption});
     }
+    void Show_Loads(double Ro, double Fv, double Fm) override { page_.Plot_Pass({Ro, Fv, Fm}); }
 
   private:
     WeldPage& page_;
@@ -96,6 +97,8 @@ WeldPage::Outcome WeldPage::Search(const Inputs& inputs, unsigned run) {
     WeldSearch search{state_, display, yield};
     const double C = Weld_Configuration_Result(WeldConfigIndex, inputs.L, inputs.kL, inputs.aL,
                                                inputs.Angle, weldModeC, search);
+    SearchPlot.Set_Drawing(Weld_Search_Plot(passes_));
+    Draw_Group();
     if (state_.StopRequested) {
         Show_Aborted(inputs, C);
         return Outcome::Stopped;
@@ -138,6 +141,41 @@ Advice WeldPage::Show_Balance(const Inputs& inputs, double C) {
         BalancedBox.Set_Text(Format_Number(balance->C, resultPattern));
     }
     return Balance_Remark(C, balance, weldRemarkTolerance);
+}
+
+// A few times a second: a search makes thousands of passes in one.
+void WeldPage::Plot_Pass(const WeldPassLoads& pass) {
+    constexpr double secondsBetween = 0.25;
+    passes_.Add(pass);
+    const double now = desk_.Host.Time.Seconds();
+    if (now - plotted_ >= secondsBetween || now < plotted_) {
+        plotted_ = now;
+        SearchPlot.Set_Drawing(Weld_Search_Plot(passes_));
+    }
+}
+
+void WeldPage::Draw_Group() {
+    WeldPicture picture;
+    picture.Item = WeldConfigIndex;
+    const auto take = [this](std::optional<double>& target, int row) {
+        const std::string text = Trim(WeldFlex.Text(row, 1));
+        if (!text.empty())
+            target = Typed_Number(text);
+    };
+    take(picture.L, WeldRow::L);
+    take(picture.kL, WeldRow::kL);
+    take(picture.aL, WeldRow::aL);
+    take(picture.Angle, WeldRow::Angle);
+    Attempt([&] {
+        if (const auto typed = Typed_Inputs())
+            picture.Balanced = Balanced_Welds(WeldConfigIndex, *picture.L, *picture.kL, *picture.aL,
+                                              *picture.Angle);
+        // The report of one configuration is in scaled units.
+        if (!passes_.Kept().empty())
+            picture.SearchRo =
+                passes_.Kept().back().Ro / Weld_Display_Unit(WeldConfigIndex, *picture.L);
+    });
+    Attempt([&] { WeldSketch.Set_Drawing(Weld_Group_Drawing(picture)); });
 }
 
 double WeldPage::Centroid(std::int16_t mode) {

@@ -54,6 +54,8 @@ void ShowIterationStep(double angle, double Ro, double Fv, double Fm, double sca
         display.Append_Text("    Fy[m] = N.A.");
     else
         Append_Force("    Fy[m] = ", Fm / scale, "", display);
+    if (!noMoment)
+        display.Show_Loads(Ro / scale, Fv / scale, Fm / scale);
     display.Show_Elapsed("Iteration Time »  " + FormatIterationTime(state.ElapsedSeconds));
 }
 

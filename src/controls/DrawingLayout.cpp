@@ -218,6 +218,12 @@ std::vector<Point> Polygon_Of(const Ring& ring, int pieces) {
     return points;
 }
 
+double Round_Up(double value) {
+    constexpr double steps = 6;
+    const double step = Round_Step(value / steps);
+    return std::ceil(value / step) * step;
+}
+
 double Round_Step(double least) {
     const double power = std::pow(10, std::floor(std::log10(least)));
     for (const double factor : {1.0, 2.0, 5.0})

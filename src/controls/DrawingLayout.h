@@ -96,6 +96,8 @@ std::vector<Point> Polygon_Of(const Ring& ring, int pieces = 12);
 
 // The least step of 1, 2 or 5 times a power of ten that is not under a length.
 double Round_Step(double least);
+// The end of an axis that a value fits under: a few round steps, not less than the value.
+double Round_Up(double value);
 
 } // namespace Drawn
 

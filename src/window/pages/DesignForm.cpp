@@ -82,7 +82,9 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Ui::WeldForm ui;
     ui.setupUi(form);
     Bind(ui.WeldView, page.WeldView);
-    Bind(ui.WeldImage, page.WeldImage);
+    Bind(ui.WeldSketch, page.WeldSketch);
+    Keep_Room(ui.WeldSketch);
+    Bind(ui.SearchPlot, page.SearchPlot);
     Bind(ui.WeldFlex, page.WeldFlex);
     Lay_Over(ui.WeldFlex, page.WeldFlex, page.EdiTxtA, QStringLiteral("EdiTxtA"),
              QStringLiteral("Weld parameter"));

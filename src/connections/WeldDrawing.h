@@ -1,0 +1,45 @@
+// The weld group of the page, drawn to scale with its load and with the centre it turns about; and
+// the two loads of a search against the place of its centre.
+#pragma once
+
+#include "connections/Balance.h"
+#include "controls/Drawing.h"
+
+#include <optional>
+#include <vector>
+
+namespace Tensarix {
+
+// The inputs as far as they are known: lengths in any one unit, the angle in degrees.
+struct WeldPicture {
+    int Item = 1; // 1 to 9
+    std::optional<double> L, kL, aL, Angle;
+    std::optional<Balance> Balanced; // of complete inputs
+    std::optional<double> SearchRo;  // where a search ended, in the unit of the inputs
+};
+
+// From the centroid. Until L and kL are known, the configuration as it is in general, by its
+// symbols alone. Empty where there are no lines of any length.
+Drawing Weld_Group_Drawing(const WeldPicture& picture);
+
+// One pass of a search: the place of its centre, and the loads by vertical forces and by moments.
+struct WeldPassLoads {
+    double Ro = 0, Fv = 0, Fm = 0;
+};
+
+// The passes of a run, thinned out where there are many: the last one always stays.
+class WeldPasses {
+  public:
+    void Clear() { kept_.clear(), every_ = 1, count_ = 0; }
+    void Add(const WeldPassLoads& pass);
+    const std::vector<WeldPassLoads>& Kept() const { return kept_; }
+
+  private:
+    std::vector<WeldPassLoads> kept_;
+    std::size_t every_ = 1, count_ = 0;
+};
+
+// Fy[v] and Fy[m] against Ro: two curves that meet where the search ends. Empty before two passes.
+Drawing Weld_Search_Plot(const WeldPasses& passes);
+
+} // namespace Tensarix

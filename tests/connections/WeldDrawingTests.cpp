@@ -1,0 +1,114 @@
+#include "LaidOut.h"
+#include "connections/SearchStandIns.h"
+#include "connections/WeldConfigurations.h"
+#include "connections/WeldDrawing.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace Tensarix {
+namespace {
+
+using namespace Drawn;
+using namespace Tests;
+
+WeldPicture Complete(int item, double L, double kL, double aL, double angle) {
+    return {item, L, kL, aL, angle, Balanced_Welds(item, L, kL, aL, angle), {}};
+}
+
+TEST(WeldDrawing, EachConfigurationIsToScaleAboutItsCentroid) {
+    for (int item = 1; item <= weldConfigurationCount; ++item) {
+        SCOPED_TRACE(item);
+        const Drawing drawing = Weld_Group_Drawing(Complete(item, 10, 5, 8, 30));
+        double length = 0, x = 0, y = 0;
+        for (const Curve& line : Parts_Of<Curve>(drawing, "Weld")) {
+            const Point from = line.Points.at(0), to = line.Points.at(1);
+            const double part = std::hypot(to.X - from.X, to.Y - from.Y);
+            length += part;
+            x += part * (from.X + to.X) / 2;
+            y += part * (from.Y + to.Y) / 2;
+        }
+        const double lengths[] = {20, 20, 20, 30, 30, 20, 20, 15, 15};
+        EXPECT_NEAR(length, lengths[item - 1], 1e-9);
+        EXPECT_NEAR(x, 0, 1e-9);
+        EXPECT_NEAR(y, 0, 1e-9);
+        const Arrow load = Parts_Of<Arrow>(drawing, "P").at(0);
+        EXPECT_EQ(load.Head, (Point{8, 0}));
+        EXPECT_GT(load.Tail.X, load.Head.X); // 30 degrees clockwise from straight down
+        EXPECT_GT(load.Tail.Y, load.Head.Y);
+        EXPECT_LT(Parts_Of<Mark>(drawing, "Centre").at(0).At.X, 0);
+    }
+}
+
+TEST(WeldDrawing, DistancesOfTheCentroidAreThoseOfTheTable) {
+    const auto value = [](int item, const std::string& name) {
+        const auto found =
+            Parts_Of<Dimension>(Weld_Group_Drawing(Complete(item, 8, 8, 3, 0)), name);
+        return found.empty() ? "none" : found[0].Value;
+    };
+    EXPECT_EQ(value(5, "xL") + value(7, "yL"), "nonenone");
+    EXPECT_EQ(value(6, "xL"), "2.667"); // 2 x 8 x 4 / 24
+    EXPECT_EQ(value(7, "xL"), "2.667");
+    EXPECT_EQ(value(8, "xL") + " " + value(8, "yL"), "2 2");
+    EXPECT_EQ(value(9, "xL") + " " + value(9, "yL"), "2 2");
+}
+
+TEST(WeldDrawing, BeforeTheInputsAreCompleteOnlySymbols) {
+    WeldPicture picture;
+    picture.Item = 6;
+    picture.L = 10;
+    const Drawing drawing = Weld_Group_Drawing(picture);
+    EXPECT_FALSE(Parts_Of<Curve>(drawing, "Weld").empty());
+    EXPECT_EQ(Parts_Of<Dimension>(drawing, "kL").at(0).Value, "");
+    EXPECT_EQ(Parts_Of<Dimension>(drawing, "xL").at(0).Value, "");
+    EXPECT_TRUE(Parts_Of<Mark>(drawing, "Centre").empty());
+    EXPECT_TRUE(Weld_Group_Drawing(Complete(6, 0, 0, 3, 0)).Empty());
+    EXPECT_EQ(Parts_Of<Drawn::Label>(Weld_Group_Drawing(Complete(1, 10, 0, 3, 0)), "Weld").size(),
+              1); // tells that it is two lines
+}
+
+TEST(WeldDrawing, TextsStayApart) {
+    std::mt19937 random(11);
+    const auto between = [&random](double low, double high) {
+        return std::round((low + (high - low) * static_cast<double>(random() % 1000) / 999) * 100) /
+               100;
+    };
+    for (int i = 0; i < 90; ++i) {
+        WeldPicture picture = Complete(i % weldConfigurationCount + 1, between(1, 40),
+                                       between(0, 40), between(0, 60), between(-80, 100));
+        picture.SearchRo = between(0, 60);
+        for (const Size view : {Size{330, 300}, Size{800, 700}}) {
+            const Drawing drawing = Weld_Group_Drawing(picture);
+            SCOPED_TRACE(drawing.Sentence);
+            const Layout layout = Laid_Out(drawing, view);
+            Expect_Texts_Apart(layout, view);
+            EXPECT_TRUE(layout.LeftOut.empty() || view.Width < 400);
+        }
+    }
+}
+
+// A thousand passes are thinned out, but for the first and the last.
+TEST(WeldDrawing, TheCurvesOfASearchMeetAtItsEnd) {
+    WeldPasses passes;
+    EXPECT_TRUE(Weld_Search_Plot(passes).Empty());
+    for (int i = 0; i <= 5000; ++i) {
+        passes.Add({i * 0.001, i * 0.01, 100 - i * 0.01});
+        ASSERT_EQ(passes.Kept().front().Ro, 0);
+        ASSERT_EQ(passes.Kept().back().Ro, i * 0.001);
+    }
+    EXPECT_LT(passes.Kept().size(), 600);
+    for (std::size_t i = 1; i < passes.Kept().size(); ++i)
+        EXPECT_LT(passes.Kept()[i - 1].Ro, passes.Kept()[i].Ro);
+    const Drawing plot = Weld_Search_Plot(passes);
+    const Curve vertical = Parts_Of<Curve>(plot, "Fy[v]").at(0);
+    const Curve moments = Parts_Of<Curve>(plot, "Fy[m]").at(0);
+    EXPECT_EQ(vertical.Points.back(), (Point{5, 50}));
+    EXPECT_EQ(moments.Points.back(), (Point{5, 50}));
+    const Size view{300, 220};
+    Expect_Texts_Apart(Laid_Out(plot, view), view);
+}
+
+} // namespace
+} // namespace Tensarix
