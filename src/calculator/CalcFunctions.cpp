@@ -11,6 +11,7 @@
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "common/Utf8.h"
 
 #include <cmath>
 
@@ -120,22 +121,15 @@ void Key_Sexa(CalcMainFrm& form) {
     Show_Result(form, form.SexaSum);
 }
 
-std::size_t Characters(std::string_view utf8) {
-    std::size_t count = 0;
-    for (const char c : utf8)
-        count += (static_cast<unsigned char>(c) & 0xC0) != 0x80 ? 1 : 0;
-    return count;
-}
-
 // The angle is shown in place of the number; a longer text than the display takes is not.
 void Key_Asex(CalcMainFrm& form) {
-    constexpr std::size_t displayCharacters = 14;
+    constexpr int displayCharacters = 14;
     CalcVariables& vars = form.Vars;
     const double x = Shown_Value(vars);
     const std::string text = Angular_Text(x);
     if (!vars.Entry.EntryText.empty())
         Entry_To_Operand(vars);
-    if (Characters(text) > displayCharacters)
+    if (Utf8_Length(text) > displayCharacters)
         return;
     ShowValue(form, x, text);
     if (IsNegative(x) && !text.starts_with('-'))
