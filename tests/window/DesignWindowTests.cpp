@@ -73,15 +73,6 @@ class DesignWindowTest : public WindowTest {
         Settle();
         Click("StartIterationButton");
     }
-    // As soon as it holds, inside whatever runs then.
-    static void When(const std::function<bool()>& holds, const std::function<void()>& what) {
-        QTimer::singleShot(1, [=] { // at 0 it would be of the same turn of the event loop
-            if (holds())
-                what();
-            else
-                When(holds, what);
-        });
-    }
     bool Computing(int row) {
         return Design().Bolts.cFlex.Remark(row, BoltColumn::C) == "Computing ...";
     }

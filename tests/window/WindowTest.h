@@ -6,9 +6,11 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 namespace Tensarix::Tests {
@@ -52,6 +54,16 @@ class WindowTest : public testing::Test {
         return *widget;
     }
     static void Settle() { QCoreApplication::processEvents(); }
+    // As soon as it holds, inside whatever runs then; never once the program has ended.
+    void When(const std::function<bool()>& holds, const std::function<void()>& what) {
+        // At 0 it would be of the same turn of the event loop.
+        QTimer::singleShot(1, &program->Window(), [=, this] {
+            if (holds())
+                what();
+            else
+                When(holds, what);
+        });
+    }
 };
 
 } // namespace Tensarix::Tests

@@ -66,13 +66,14 @@ class WtCalcsWindowTest : public WindowTest {
     }
     // Answers the next message.
     void Expect_Message() {
-        QTimer::singleShot(50, qApp, [this] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            ++messages;
-            box->accept();
-        });
+        const auto box = [] {
+            return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        };
+        When([box] { return box() != nullptr; },
+             [this, box] {
+                 ++messages;
+                 box()->accept();
+             });
     }
 };
 
