@@ -3,6 +3,7 @@
 #include "ui_BrowseForm.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
+#include "window/LabelOf.h"
 #include "window/MouseWatch.h"
 
 namespace Tensarix {
@@ -21,6 +22,10 @@ QWidget* Make_Browse_Form(BrowsePage& page, QWidget* parent) {
     Bind(ui.BaseImage, page.SectionDrawing);
     Watch_Mouse(ui.BaseImage, [&page] { Run(page.BaseImage.OnMouseMove); });
     Bind(ui.ShapeLabel, page.ShapeLabel);
+    for (QWidget* option : {ui.ProfileOption1, ui.ProfileOption2})
+        Label_Of(option, ui.ProfileFrame->accessibleName());
+    for (QWidget* option : {ui.DimOption1, ui.DimOption2})
+        Label_Of(option, ui.DimFrame->accessibleName());
     Bind(ui.ShapeFlex, page.ShapeFlex);
     ui.ShapeFlex->Take_What_Is_Needed();
     const Handler snapBack = [&page] { page.Snap_Back(); };
