@@ -234,6 +234,27 @@ TEST_F(FindTest, ThePanelFollowsAFillThatMovesTheCurrentCell) {
     EXPECT_EQ(desk.StatBar.Panel1(), " SELECTION:   None");
 }
 
+TEST_F(FindTest, TheSearchedColumnIsMarkedAndTheSectionOfTheRowDrawn) {
+    Start();
+    const auto drawn = [this] { return page.SectionDrawing.Shows().Sentence; };
+    EXPECT_EQ(drawn(), "Choose a property and press Go");
+    Ask("Zx", ">=", "500");
+    page.FindButton.Click();
+    EXPECT_EQ(page.fShapeFlex.Marked_Col(), 15);
+    page.fShapeFlex.Press(2, 15);
+    EXPECT_EQ(drawn(), "W44x290 to scale: d = 43.60 in., bf = 15.80 in.");
+    Ask("Zx", ">=", "99999");
+    page.FindButton.Click();
+    EXPECT_EQ(drawn(), "No section meets the condition");
+    // Where the values of one property are written over those of another, no column is the first's.
+    page.fShapeType.Select(4);
+    for (const auto& [property, column] : {std::pair{"x", -1}, {"xp", 12}, {"Ix", 13}}) {
+        Ask(property, ">=", "0");
+        page.FindButton.Click();
+        EXPECT_EQ(page.fShapeFlex.Marked_Col(), column) << property;
+    }
+}
+
 TEST_F(FindTest, WithoutAStoreThereAreHeadsAndNoValues) {
     machine.Host.Places.Program = "/nowhere";
     Start();

@@ -28,6 +28,10 @@ QWidget* Make_Browse_Form(BrowsePage& page, QWidget* parent) {
         Label_Of(option, ui.DimFrame->accessibleName());
     Bind(ui.ShapeFlex, page.ShapeFlex);
     ui.ShapeFlex->Take_What_Is_Needed();
+    for (QWidget* option : {ui.ProfileOption1, ui.ProfileOption2})
+        Label_Of(option, ui.ProfileFrame->accessibleName());
+    for (QWidget* option : {ui.DimOption1, ui.DimOption2})
+        Label_Of(option, ui.DimFrame->accessibleName());
     const Handler snapBack = [&page] { page.Snap_Back(); };
     for (QWidget* around : std::initializer_list<QWidget*>{ui.choices, ui.ProfileFrame, ui.DimFrame,
                                                            ui.ProfileOption1, ui.ProfileOption2,
