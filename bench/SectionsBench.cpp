@@ -4,6 +4,7 @@
 #include "Compare.h"
 #include "StandIns.h"
 #include "sections/BrowsePage.h"
+#include "sections/DesignationSearch.h"
 #include "sections/FindPage.h"
 
 using namespace Tensarix;
@@ -86,6 +87,29 @@ void Change_Of_Section(benchmark::State& state) {
         });
 }
 BENCHMARK(Change_Of_Section)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+// A designation typed key by key, each with its list.
+void Search_Of_A_Designation(benchmark::State& state) {
+    const DesignationSearch search(programFolder);
+    const std::string typed = "hss8x8x1/2";
+    std::size_t length = 0;
+    Bench::Compare(
+        state, ratioToRead,
+        [&] {
+            benchmark::DoNotOptimize(
+                search.Find(std::string_view{typed}.substr(0, ++length % typed.size() + 1), 50));
+        },
+        [] { Read_Family("W"); });
+}
+BENCHMARK(Search_Of_A_Designation)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+void Names_For_The_Search(benchmark::State& state) {
+    Bench::Compare(
+        state, ratioToRead,
+        [] { benchmark::DoNotOptimize(DesignationSearch(programFolder).Count()); },
+        [] { Read_Family("W"); });
+}
+BENCHMARK(Names_For_The_Search)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 } // namespace
 

@@ -2,9 +2,11 @@
 #include "Compare.h"
 #include "window/Program.h"
 #include "window/calculator/CalcWindow.h"
+#include "window/pages/AnySectionDialog.h"
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 namespace {
@@ -63,6 +65,34 @@ BENCHMARK(Change_Of_Section_With_Its_Drawing)
     ->MeasureProcessCPUTime()
     ->Arg(0)
     ->Arg(13);
+
+// A key typed in the field of any section, to the painted list.
+void Search_Keystroke_To_Painted_List(benchmark::State& state) {
+    QTemporaryDir home;
+    Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    program.Start();
+    AnySectionFrm field(program.Form().Shared);
+    AnySectionDialog dialog(field, &program.Window());
+    dialog.show();
+    dialog.grab();
+    auto* box = dialog.findChild<QLineEdit*>(QStringLiteral("SearchBox"));
+    const std::string typed = "hss8x8x1/2";
+    std::size_t at = 0;
+    for (auto _ : state) {
+        if (at == typed.size()) {
+            state.PauseTiming();
+            box->selectAll();
+            at = 0;
+            state.ResumeTiming();
+        }
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QLatin1Char(typed[at++])));
+        QCoreApplication::sendEvent(box, &press);
+        QCoreApplication::processEvents(); // takes over the list
+        QCoreApplication::processEvents(); // paints it
+    }
+    program.Window().close();
+}
+BENCHMARK(Search_Keystroke_To_Painted_List)->Unit(benchmark::kMillisecond);
 
 // The longest family and another one in turn, so that sizes change as well.
 void View_All_To_Painted_Grid(benchmark::State& state) {

@@ -1,6 +1,6 @@
 # Two ways to install:
-#   portable  what `cmake --install` does: program and store beside each other in one folder of the
-#             user's, so that the data files stay there too
+#   portable  what `cmake --install` does: program, store and guide beside each other in one folder
+#             of the user's, so that the data files stay there too
 #   system    what the Debian package holds: `cmake --build build/release --target package`
 
 if(CMAKE_INSTALL_PREFIX_INITIALIZED_TO_DEFAULT) # /usr/local is no place for a portable folder
@@ -16,12 +16,21 @@ set_target_properties(tensarix PROPERTIES INSTALL_RPATH "") # the libraries are 
 install(TARGETS tensarix DESTINATION . COMPONENT portable)
 install(FILES ${section_store} ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION . COMPONENT portable)
 
+# The guide lies beside the program; while it is being built, as a link to docs/.
+set(guide_pages ${CMAKE_SOURCE_DIR}/docs/guide.md ${CMAKE_SOURCE_DIR}/docs/calculator.md
+  ${CMAKE_SOURCE_DIR}/docs/validation.md)
+file(CREATE_LINK ${CMAKE_SOURCE_DIR}/docs ${CMAKE_BINARY_DIR}/program/guide SYMBOLIC)
+install(FILES ${guide_pages} DESTINATION guide COMPONENT portable)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures DESTINATION guide COMPONENT portable)
+
 macro(tensarix_system what)
   install(${what} ${ARGN} COMPONENT system EXCLUDE_FROM_ALL)
 endmacro()
 
 tensarix_system(TARGETS tensarix DESTINATION lib/tensarix)
 tensarix_system(FILES ${section_store} DESTINATION lib/tensarix)
+tensarix_system(FILES ${guide_pages} DESTINATION lib/tensarix/guide)
+tensarix_system(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures DESTINATION lib/tensarix/guide)
 # Relative, so that it holds wherever the whole is put.
 file(CREATE_LINK ../lib/tensarix/tensarix ${made}/tensarix SYMBOLIC)
 tensarix_system(FILES ${made}/tensarix DESTINATION bin)

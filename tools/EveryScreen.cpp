@@ -3,6 +3,7 @@
 #include "window/calculator/CalcResultsDialog.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/grid/GridView.h"
+#include "window/pages/GuideWindow.h"
 #include "window/pages/ReportView.h"
 
 #include <QApplication>
@@ -39,6 +40,8 @@ class Walk {
 
     std::vector<std::string> All() {
         Browse();
+        Any_Section();
+        Guide();
         Find();
         View_All();
         Beam();
@@ -152,6 +155,24 @@ class Walk {
         page.ShapeFlex.Extend_To(5, 2);
         page.ShapeFlex.OnPopup();
         Menu("popup", *program_.Window().findChild<QMenu*>(QStringLiteral("mnuEdit1")));
+    }
+
+    void Any_Section() {
+        In_Dialog([this] { program_.Form().AnySectionButton.Click(); },
+                  [this](QWidget& dialog) {
+                      Show("any section", dialog);
+                      Keys_To(dialog, "SearchBox", "hss8x8x");
+                      Show("any section, found", dialog);
+                  });
+    }
+
+    void Guide() {
+        program_.Form().mnuGuide.Click();
+        QWidget& guide = *program_.Window().findChild<GuideWindow*>();
+        Show("guide", guide);
+        Keys_To(guide, "SearchBox", "status bar");
+        Show("guide, searched", guide);
+        Leave(guide);
     }
 
     void Find() {

@@ -7,6 +7,7 @@ set -euo pipefail
 # name in docs/pictures, name in the tour
 pictures="
 browse       browse-W-Shape
+any-section  any-section-found
 find         find-found
 view         view-all-C-Shape
 beam         beam-13th

@@ -112,6 +112,7 @@ void BoltPage::Start() {
     Init_valFlex();
     Show_No_Doubt();
     LoadBoltEntries();
+    editing_.History.Start();
     Show_Selected();
 }
 
@@ -397,6 +398,7 @@ void BoltPage::RemRow_Click() {
         editing_.Hide(); // what is being typed there goes with the row
     cFlex.Set_Rows(rows);
     Verdicts.Drop_From(rows);
+    editing_.History.Forget_Rows(rows);
     Show_No_Doubt();
     RemRowButton.Enable(BoltRowCount > leastBoltRowCount);
     Show_Selected();
@@ -452,6 +454,7 @@ void BoltPage::Clear_Click() {
         return;
     editing_.Hide();
     Clear_Rows();
+    editing_.History.Note();
     std::error_code ignored;
     if (std::filesystem::remove(File(), ignored) || !std::filesystem::exists(File(), ignored))
         saved_.clear();

@@ -25,9 +25,11 @@ class Held {
 } // namespace
 
 CellEditing::CellEditing(FlexGrid& grid, Handler letEventsRun)
-    : grid_(grid), letEventsRun_(std::move(letEventsRun)) {
+    : History(grid, [this](int row, int col) { return Can_Edit(row, col); }), grid_(grid),
+      letEventsRun_(std::move(letEventsRun)) {
     grid_.OnKeyPress = [this](int keyAscii) { Key_Press(keyAscii); };
     grid_.OnKeyDown = [this](int keyCode) { Key_Down(keyCode); };
+    grid_.OnUndo = [this] { Undo(); };
     grid_.OnDblClick = [this] { Open_With_Old_Text(); };
     grid_.OnLeaveCell = [this] { Leave(); };
     grid_.OnScroll = [this] { Scrolled(); };
@@ -166,6 +168,7 @@ void CellEditing::Commit(const TextCells& cells) {
     const std::string before = grid_.Text(row, col);
     grid_.Set_Text(row, col, cells.Editor.Text());
     cells.Editor.Show(false);
+    History.Note(); // what is computed now may take long, and other cells be edited meanwhile
     cells.Committed(before);
 }
 
@@ -173,6 +176,7 @@ void CellEditing::Commit(const ComboCells& cells) {
     if (!Trim(cells.Editor.Text()).empty())
         grid_.Set_Text(grid_.Row(), grid_.Col(), cells.Editor.Text());
     cells.Editor.Show(false);
+    History.Note();
     cells.Compute(true);
 }
 

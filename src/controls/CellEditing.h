@@ -12,6 +12,7 @@
 // edited, row by row, and Shift+Tab to the one before.
 #pragma once
 
+#include "controls/EditHistory.h"
 #include "controls/FlexProcedures.h"
 
 #include <functional>
@@ -51,6 +52,8 @@ class CellEditing {
         Pasted Accepts = {};
     };
 
+    EditHistory History; // of the cells that can be edited; Note it where they change otherwise
+
     CellEditing(FlexGrid& grid, Handler letEventsRun);
     CellEditing(const CellEditing&) = delete;
 
@@ -89,9 +92,11 @@ class CellEditing {
 
     struct NewText {
         int Row, Col;
-        std::string Text;
+        std::string Text, Before = {};
     };
     void Write(const std::vector<NewText>& texts);
+    void Undo();
+    void Tell_All_Written(const std::vector<NewText>& texts);
     void Tell_Written(const std::string& before);
     std::optional<std::string> Accepted(int row, int col, const std::string& text) const;
     int First_Paste_Col(int row, int col) const;

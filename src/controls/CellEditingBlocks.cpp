@@ -1,4 +1,4 @@
-// Delete and paste over a block of cells.
+// Delete and paste over a block of cells, and undo.
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "controls/CellEditing.h"
@@ -46,20 +46,36 @@ void CellEditing::Empty_Cells() {
     Write(texts);
 }
 
-// All cells first, then what follows each. That may take long, and the user may go on meanwhile:
-// his place stands, otherwise the marking does.
+// All cells first, then what follows each.
 void CellEditing::Write(const std::vector<NewText>& texts) {
-    std::vector<std::string> before;
-    for (const NewText& cell : texts) {
-        before.push_back(grid_.Text(cell.Row, cell.Col));
+    std::vector<NewText> written = texts;
+    for (NewText& cell : written) {
+        cell.Before = grid_.Text(cell.Row, cell.Col);
         grid_.Set_Text(cell.Row, cell.Col, cell.Text);
     }
+    History.Note();
+    Tell_All_Written(written);
+}
+
+// The last step comes back, and each of its rows is computed once.
+void CellEditing::Undo() {
+    Leave();
+    std::vector<NewText> written;
+    for (const auto& [row, col] : History.Undo())
+        if (written.empty() || written.back().Row != row)
+            written.push_back({row, col, grid_.Text(row, col)});
+    Tell_All_Written(written);
+}
+
+// That may take long, and the user may go on meanwhile: his place stands, otherwise the marking
+// does.
+void CellEditing::Tell_All_Written(const std::vector<NewText>& texts) {
     auto marking = Marking(grid_);
-    for (std::size_t i = 0; i < texts.size(); ++i)
+    for (const NewText& text : texts)
         Attempt([&] { // the grid may have become smaller
-            const std::tuple cell{texts[i].Row, texts[i].Col, texts[i].Row, texts[i].Col};
+            const std::tuple cell{text.Row, text.Col, text.Row, text.Col};
             std::apply([this](auto... at) { grid_.Select_Range(at...); }, cell);
-            Tell_Written(before[i]);
+            Tell_Written(text.Before);
             if (Marking(grid_) != cell)
                 marking = Marking(grid_);
         });

@@ -186,7 +186,8 @@ void StatusBar::Set_Panel1(std::string text) {
 void StatusBar::Set_Remark(std::string text, RemarkWeight weight) {
     Change(remark_, {std::move(text), weight}, Shown);
 }
-void StatusBar::Set_Count(std::string text) {
+void StatusBar::Set_Count(std::string text, Handler leadsTo) {
+    countLeadsTo_ = std::move(leadsTo);
     Change(count_, std::move(text), Shown);
 }
 

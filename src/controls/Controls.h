@@ -102,6 +102,7 @@ class ComboBox {
     Handler OnChange;     // the position or, typed in, the text has changed
     KeyFilter OnKeyPress; // of a list that can be typed in
     KeyHandler OnKeyDown;
+    std::function<void(const std::string& typed)> OnTypedInVain; // no item begins so
     FocusPoint Focus;
     View Shown;
 
@@ -233,11 +234,14 @@ class StatusBar {
     RemarkWeight Remark_Weight() const { return remark_.Weight; }
     void Set_Remark(std::string text, RemarkWeight weight = RemarkWeight::Note);
     const std::string& Count() const { return count_; }
-    void Set_Count(std::string text);
+    // leadsTo: where a click on it goes; empty: nowhere.
+    void Set_Count(std::string text, Handler leadsTo = {});
+    const Handler& Count_Leads_To() const { return countLeadsTo_; }
 
   private:
     std::string panel1_, count_;
     Advice remark_;
+    Handler countLeadsTo_;
 };
 
 } // namespace Tensarix

@@ -79,6 +79,7 @@ void FlexGrid::Clear() {
     markedCol_ = -1;
     std::fill(cells_.begin(), cells_.end(), Cell{});
     remarks_.clear();
+    sortCol_ = -1;
     Shown.Changed();
 }
 
@@ -123,6 +124,29 @@ void FlexGrid::Set_Remark(int row, int col, std::string remark, RemarkWeight wei
         remarks_.erase({row, col});
     else
         remarks_[{row, col}] = {std::move(remark), weight};
+    Shown.Changed();
+}
+
+void FlexGrid::Reorder_Rows(const std::vector<int>& order) {
+    const auto cells = cells_;
+    const auto remarks = std::exchange(remarks_, {});
+    std::map<int, int> places; // by the row that it was
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        const int from = fixedRows_ + order[i], to = fixedRows_ + static_cast<int>(i);
+        std::copy_n(cells.begin() + static_cast<std::ptrdiff_t>(At(from, 0)), cols_,
+                    cells_.begin() + static_cast<std::ptrdiff_t>(At(to, 0)));
+        places[from] = to;
+    }
+    for (const auto& [cell, remark] : remarks) {
+        const auto place = places.find(cell.first);
+        remarks_[{place == places.end() ? cell.first : place->second, cell.second}] = remark;
+    }
+    Shown.Changed();
+}
+
+void FlexGrid::Set_Sort(int col, bool descends) {
+    sortCol_ = col;
+    sortDescends_ = descends;
     Shown.Changed();
 }
 
@@ -227,9 +251,9 @@ Placement FlexGrid::Cell_Place() const {
     return place;
 }
 
-std::string FlexGrid::Clip() const {
-    const auto [firstRow, lastRow] = std::minmax({row_, rowSel_});
-    const auto [firstCol, lastCol] = std::minmax({col_, colSel_});
+std::string FlexGrid::Clip_Of(int row1, int col1, int row2, int col2) const {
+    const auto [firstRow, lastRow] = std::minmax({row1, row2});
+    const auto [firstCol, lastCol] = std::minmax({col1, col2});
     std::string clip;
     for (int row = firstRow; row <= lastRow; ++row) {
         for (int col = firstCol; col <= lastCol; ++col)
@@ -252,6 +276,11 @@ void FlexGrid::Press_Beside() {
         return;
     Run(OnSelChange);
     Run(OnMouseDown);
+}
+
+void FlexGrid::Select_All() {
+    Go_To(fixedRows_, OnKeyPress ? fixedCols_ : 0, false);
+    Go_To(rows_ - 1, cols_ - 1, true);
 }
 
 void FlexGrid::Go_To(int row, int col, bool extend) {

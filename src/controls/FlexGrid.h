@@ -50,9 +50,12 @@ class FlexGrid {
     Handler OnMouseDown; // left button, after the cell under it has become current
     Handler OnKeyMove;   // after the keys have moved the current cell or the selection
     Handler OnPopup;     // right button up, or the keyboard's menu key
+    Handler OnMenu;      // the same, of a grid that takes no click beside its cells
     Handler OnCopy;      // Ctrl+C
     Handler OnPaste;     // Ctrl+V
+    Handler OnUndo;      // Ctrl+Z
     Handler OnDblClick;
+    std::function<void(int col)> OnHeadClick; // a head was clicked, and is no longer pressed
     Handler OnScroll;
     std::function<void(double xTwips)> OnMouseMove; // from the grid's left edge
     std::function<void(int keyAscii)> OnKeyPress;
@@ -83,6 +86,14 @@ class FlexGrid {
     const std::string& Remark(int row, int col) const;
     RemarkWeight Remark_Weight(int row, int col) const; // Note where there is no remark
     void Set_Remark(int row, int col, std::string remark, RemarkWeight weight = RemarkWeight::Note);
+
+    // The row at a place below the head takes what the one at order[place] held: texts, styles and
+    // remarks. order: every place once, from 0; rows behind them stay.
+    void Reorder_Rows(const std::vector<int>& order);
+    // The column that the rows are sorted by; -1: none. Clearing the grid ends it.
+    int Sort_Col() const { return sortCol_; }
+    bool Sort_Descends() const { return sortDescends_; }
+    void Set_Sort(int col, bool descends);
 
     double Row_Height(int row) const;
     void Set_Row_Height(int row, double twips);
@@ -129,7 +140,9 @@ class FlexGrid {
     Placement Cell_Place() const;
 
     // The selected cells, a tab between cells and a carriage return between rows.
-    std::string Clip() const;
+    std::string Clip() const { return Clip_Of(row_, col_, rowSel_, colSel_); }
+    // The same of the cells between these two.
+    std::string Clip_Of(int row, int col, int rowSel, int colSel) const;
 
     // What the user does, for the view and for tests.
     void Press(int row, int col); // left button down on a cell
@@ -137,6 +150,7 @@ class FlexGrid {
     // a click on its current cell.
     void Press_Beside();
     void Go_To(int row, int col, bool extend); // by the keys; extend: the selection alone
+    void Select_All();                         // by the keys; where cells are edited, without heads
 
     // Counts the changes of size, heights and widths, so that a view knows when to measure again.
     unsigned Layout_Version() const { return layoutVersion_; }
@@ -162,6 +176,8 @@ class FlexGrid {
     int topRow_ = 1, leftCol_ = 1, markedCol_ = -1;
     double heightMin_ = 0;
     bool wordWrap_ = false, highlight_ = true;
+    int sortCol_ = -1;
+    bool sortDescends_ = false;
     Placement place_;
     unsigned layoutVersion_ = 0, textsVersion_ = 0;
 };

@@ -13,7 +13,11 @@
 
 namespace Tensarix {
 
-FindPage::FindPage(Desk& desk) : desk_(desk) {
+FindPage::FindPage(Desk& desk)
+    : desk_(desk), sort_(fShapeFlex, [this] {
+          const Family& family = Family_At(fShapeType.ListIndex());
+          return TableSort::Rows{family.Type, family.Find.Columns, TableVariant::Find, View()};
+      }) {
     OptionButton::Group({&fProfileOption1, &fProfileOption2});
     OptionButton::Group({&fDimOption1, &fDimOption2});
     FindButton.Set_Caption("Go");

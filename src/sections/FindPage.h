@@ -6,6 +6,7 @@
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 #include "sections/FamilyTable.h"
+#include "sections/TableSort.h"
 
 namespace Tensarix {
 
@@ -39,6 +40,8 @@ class FindPage {
 
     // How many sections there are and how many of them were found, in words.
     std::string Count_Text() const;
+    // Of the sections that the grid shows; empty if nothing was searched or found.
+    const std::string& Lightest() const { return count_.Lightest; }
 
   private:
     void fShapeType_Change();
@@ -68,6 +71,7 @@ class FindPage {
     bool searched_ = false;    // the grid shows a result, maybe of a condition since changed
     FindCount count_;
     Advice propertyNote_;
+    TableSort sort_;
 };
 
 } // namespace Tensarix

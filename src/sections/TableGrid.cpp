@@ -5,6 +5,8 @@
 #include "common/NumberText.h"
 #include "sections/BrowseGrid.h"
 
+#include <optional>
+
 namespace Tensarix {
 
 namespace {
@@ -133,6 +135,19 @@ void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, co
         if (!Attempt([&] { Write_Value(grid, row, col, record, property, view); }))
             Mark_Left(grid, row, col, EarlierValueRemark);
     }
+}
+
+double Table_Number(const SectionRecordset& record, const Layout& layout, TableVariant variant,
+                    int col, Profile profile) {
+    std::optional<double> number;
+    for (std::size_t i = 0; i < layout.Entries.size(); ++i)
+        if (Column_Of(layout.ValueColumns, i) == col)
+            Attempt([&] {
+                number = Value_Number(record, Of_Variant(layout.Entries[i], variant), profile);
+            });
+    if (!number)
+        throw Failure("no number in this column");
+    return *number;
 }
 
 int TableInitializer::operator()(FlexGrid& grid, std::string_view familyCode,

@@ -5,7 +5,14 @@
 
 namespace Tensarix {
 
-ViewPage::ViewPage(Desk& desk) : desk_(desk) {
+ViewPage::ViewPage(Desk& desk)
+    : desk_(desk), sort_(xShapeFlex, [this] {
+          const Family& family = Family_At(xShapeType.ListIndex());
+          return TableSort::Rows{family.Type,
+                                 family.ViewAll.Columns,
+                                 TableVariant::ViewAll,
+                                 {desk_.Host.Places.Program, profile_, style_}};
+      }) {
     OptionButton::Group({&xProfileOption1, &xProfileOption2});
     OptionButton::Group({&xDimOption1, &xDimOption2});
     xProfileOption1.Set_Caption("US Standard Profile");

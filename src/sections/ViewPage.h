@@ -6,6 +6,7 @@
 #include "controls/FlexGrid.h"
 #include "desk/Desk.h"
 #include "sections/FamilyTable.h"
+#include "sections/TableSort.h"
 
 namespace Tensarix {
 
@@ -35,6 +36,7 @@ class ViewPage {
     Profile profile_ = Profile::US;
     DimensionStyle style_ = DimensionStyle::Decimal;
     int count_ = 0;
+    TableSort sort_;
 };
 
 } // namespace Tensarix

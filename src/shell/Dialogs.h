@@ -1,7 +1,13 @@
-// The modal dialogs that the menu opens. Each returns when it has been closed.
+// What the menu and the pages open. The modal dialogs return when they have been closed.
 #pragma once
 
+#include "sections/DesignationSearch.h"
+
+#include <string_view>
+
 namespace Tensarix {
+
+class AnySectionFrm;
 
 class Dialogs {
   public:
@@ -10,6 +16,11 @@ class Dialogs {
     virtual void Show_WtCalcsFrm() = 0;
     virtual void Show_WtCalcsFrmA() = 0;
     virtual void Show_AboutFrm() = 0;
+    // Type 1, with this section chosen.
+    virtual void Show_WtCalcsFrm_Of(SectionPlace place) = 0;
+    virtual void Show_AnySectionFrm(AnySectionFrm& form) = 0;
+    // Stays open beside the program, at the chapter with this head.
+    virtual void Show_Guide(std::string_view chapter) = 0;
 };
 
 } // namespace Tensarix

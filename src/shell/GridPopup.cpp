@@ -83,6 +83,7 @@ FlexGrid& GridPopup::Grid_In_Use() const {
 
 void GridPopup::Open() {
     Prepare();
+    Run(OnPrepare);
     Run(OnOpen);
 }
 

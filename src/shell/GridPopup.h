@@ -22,7 +22,8 @@ class GridPopup {
     MenuItem mnuCopySelection1d; // the whole grid with its heads
     MenuItem mnuDummyExit;       // closes the popup and does nothing else
 
-    Handler OnOpen; // the view's: shows the menu, whose items are ready
+    Handler OnPrepare; // what else the menu shows is to be made ready
+    Handler OnOpen;    // the view's: shows the menu, whose items are ready
 
     // The grid of each mode; none for a page that isn't there. All of them outlive the popup.
     using Grids = std::array<FlexGrid*, ModeCount>;

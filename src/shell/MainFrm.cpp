@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "shell/AnySectionFrm.h"
 #include "shell/Version.h"
 
 #include <utility>
@@ -41,7 +42,7 @@ MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
                    &Beam.zShapeFlex,
                    &Design.Bolts.cFlex,
                }),
-      dialogs_(dialogs) {
+      Sections(*this), dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
     for (int i = 0; i < ModeCount; ++i) {
         OptionButton& button = OptButton[static_cast<std::size_t>(i)];
@@ -65,13 +66,18 @@ void MainFrm::Wire_Menu() {
     mnuReadOut.Set_Caption("Read Out Loud          ");
     mnuAbout.Set_Caption("About        ");
 
-    mnuCalc.OnClick = [this] { Open_Dialog(&Dialogs::Show_CalcMainFrm); };
-    mnuWtCalc.OnClick = [this] { Open_Dialog(&Dialogs::Show_WtCalcsFrm); };
-    mnuWtCalcA.OnClick = [this] { Open_Dialog(&Dialogs::Show_WtCalcsFrmA); };
+    mnuCalc.OnClick = [this] { Open_Dialog([this] { dialogs_.Show_CalcMainFrm(); }); };
+    mnuWtCalc.OnClick = [this] { Open_Dialog([this] { dialogs_.Show_WtCalcsFrm(); }); };
+    mnuWtCalcA.OnClick = [this] { Open_Dialog([this] { dialogs_.Show_WtCalcsFrmA(); }); };
     mnuTerminate.OnClick = [this] { Shared.Host.Window.Close(); };
     mnuOnTop.OnClick = [this] { mnuOnTop_Click(); };
     mnuReadOut.OnClick = [this] { mnuReadOut_Click(); };
-    mnuAbout.OnClick = [this] { Open_Dialog(&Dialogs::Show_AboutFrm); };
+    mnuGuide.Set_Caption("User Guide");
+    mnuGuide.OnClick = [this] { dialogs_.Show_Guide(Guide_Chapter()); };
+    AnySectionButton.Set_Caption("Find Any Section  (Ctrl+K)");
+    AnySectionButton.OnClick = [this] { Find_Any_Section(); };
+    mnuEdit1.OnPrepare = [this] { Sections.Prepare(); };
+    mnuAbout.OnClick = [this] { Open_Dialog([this] { dialogs_.Show_AboutFrm(); }); };
 }
 
 bool MainFrm::Load() {
@@ -155,14 +161,17 @@ void MainFrm::Show_Count() {
     const auto mode = static_cast<Mode>(SelectionTab.Tab());
     Shared.StatBar.Set_Count(mode == Mode::Find      ? Find.Count_Text()
                              : mode == Mode::ViewAll ? ViewAll.Count_Text()
-                                                     : std::string{});
+                                                     : std::string{},
+                             mode == Mode::Find && !Find.Lightest().empty()
+                                 ? Handler{[this] { Sections.Go_To_Lightest(); }}
+                                 : Handler{});
 }
 
-void MainFrm::Open_Dialog(void (Dialogs::*show)()) {
+void MainFrm::Open_Dialog(const std::function<void()>& show) {
     Shared.Say("");
     // Out of the top-most state, so that the dialog can come above the window.
     SetWindowOnTop(false);
-    (dialogs_.*show)();
+    show();
     SetWindowOnTop(Shared.OnTop);
 }
 
@@ -179,6 +188,32 @@ void MainFrm::Tell_Who_Decides() {
 void MainFrm::Tell_No_Voice() {
     if (Shared.ReadOut && !std::exchange(toldNoVoice_, true))
         Shared.StatBar.Set_Remark(std::string{noVoice});
+}
+
+void MainFrm::Find_Any_Section() {
+    AnySectionFrm field(Shared);
+    Open_Dialog([&] { dialogs_.Show_AnySectionFrm(field); });
+    if (field.Chosen)
+        Sections.Show(field.Page, *field.Chosen);
+}
+
+void MainFrm::Show_Weights_Of(SectionPlace place) {
+    Open_Dialog([&] { dialogs_.Show_WtCalcsFrm_Of(place); });
+}
+
+std::string_view MainFrm::Guide_Chapter() const {
+    switch (static_cast<Mode>(SelectionTab.Tab())) {
+    case Mode::Browse:
+        return "Browse: one section";
+    case Mode::Find:
+        return "Find: sections by a property";
+    case Mode::ViewAll:
+        return "View All: a whole family";
+    case Mode::BeamLoad:
+        return "Beam load";
+    default:
+        return Design.DesignSSTab.Tab() == boltTab ? "Bolt groups" : "Weld groups";
+    }
 }
 
 void MainFrm::mnuOnTop_Click() {

@@ -11,8 +11,10 @@
 #include "shell/Dialogs.h"
 #include "shell/GridPopup.h"
 #include "shell/Modes.h"
+#include "shell/Travel.h"
 
 #include <array>
+#include <functional>
 #include <string>
 
 namespace Tensarix {
@@ -32,10 +34,13 @@ class MainFrm {
     DesignPage Design;
 
     GridPopup mnuEdit1; // of the pages' grids
+    Travel Sections;    // from page to page
 
     MenuItem mnuCalc, mnuWtCalc, mnuWtCalcA, mnuTerminate;
     MenuItem mnuOnTop, mnuReadOut;
     MenuItem mnuAbout;
+    MenuItem mnuGuide; // at the chapter of the page in view
+    Button AnySectionButton;
 
     MainFrm(Machine& machine, Dialogs& dialogs);
     MainFrm(const MainFrm&) = delete;
@@ -52,6 +57,12 @@ class MainFrm {
     // The window has another size, or has become the active one.
     void Resized();
     void Activated();
+    // The field that finds any section; then shows what was chosen there.
+    void Find_Any_Section();
+    // Weight calculator type 1 with this section chosen.
+    void Show_Weights_Of(SectionPlace place);
+    // The head of the guide's chapter on the page in view.
+    std::string_view Guide_Chapter() const;
 
   private:
     void Wire_Menu();
@@ -60,7 +71,7 @@ class MainFrm {
     void Start_Families();
     void OptButton_Click(int index);
     void Show_Count();
-    void Open_Dialog(void (Dialogs::*show)());
+    void Open_Dialog(const std::function<void()>& show);
     void SetWindowOnTop(bool onTop);
     void Tell_Who_Decides();
     void Tell_No_Voice();

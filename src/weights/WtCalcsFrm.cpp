@@ -70,6 +70,7 @@ void WtCalcsFrm::Load() {
         MetricFlex.Set_Text(row, lengthCol, Trim(saved.Metric).append(CellPadding));
         ++row;
     }
+    Start_Histories();
     Start_Family_List();
     Show_Total();
 }
@@ -176,6 +177,7 @@ void WtCalcsFrm::Compute_Row_Metric(FlexGrid& grid) {
 
 void WtCalcsFrm::ClearButton_Click() {
     Clear_Entries(Shown_Grid());
+    Shown_Editing().History.Note();
     Show_Total();
 }
 

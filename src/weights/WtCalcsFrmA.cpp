@@ -128,6 +128,7 @@ void WtCalcsFrmA::Load() {
         exactPounds_[static_cast<std::size_t>(row)] = saved.ExactPounds;
         ++row;
     }
+    Start_Histories();
     Start_Family_List();
     Show_Total();
 }
@@ -236,6 +237,7 @@ void WtCalcsFrmA::SSTab1_Change() {
 void WtCalcsFrmA::ClearButton_Click() {
     Shown_Editing().Hide();
     Clear_Entries(Shown_Grid());
+    Shown_Editing().History.Note();
     Show_Total();
 }
 

@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
+#include "sections/DesignationSearch.h"
 #include "sections/FamilyTable.h"
 
 #include <algorithm>
@@ -37,11 +38,18 @@ WtCalcsSheets::WtCalcsSheets(Desk& desk, int lengthCol, Handler computeImperial,
       imperialLengths_({lengthCol, EdiTxt, LengthUnit::FeetInches, LastLength, desk.Host,
                         std::move(computeImperial)}),
       metricLengths_({lengthCol, EdiTxtA, LengthUnit::Metres, LastLength, desk.Host,
-                      std::move(computeMetric)}) {
+                      std::move(computeMetric)}),
+      ImperialPopup(ImperialFlex, imperialEditing_, desk.Host.Clip),
+      MetricPopup(MetricFlex, metricEditing_, desk.Host.Clip) {
     imperialEditing_.Add(imperialLengths_.Cells());
     metricEditing_.Add(metricLengths_.Cells());
     Wire_Grid(ImperialFlex, imperialEditing_);
     Wire_Grid(MetricFlex, metricEditing_);
+    for (ComboBox* sizes : {&ShapeSizeUS, &ShapeSizeSI})
+        sizes->OnTypedInVain = [this](const std::string& typed) {
+            RemarkLabel.Set_Caption(
+                Other_Family_Note(typed, ShapeType.ListIndex(), desk_.Host.Places.Program));
+        };
     ClearButton.Set_Caption("Clear Entries");
     ExitButton.Set_Caption("Exit");
     ExitButton.OnClick = [this] { Run(Close); };
@@ -53,10 +61,11 @@ void WtCalcsSheets::Wire_Grid(FlexGrid& grid, CellEditing& editing) {
         if (const std::string refusal = editing.Paste(desk_.Host.Clip.Text()); !refusal.empty())
             desk_.Host.Boxes.Show(refusal + " Nothing was pasted.", "Warning", MessageIcon::Stop);
     };
-    grid.OnCopy = [this, &grid] {
-        desk_.Host.Clip.Clear();
-        desk_.Host.Clip.Set_Text(grid.Clip());
-    };
+}
+
+void WtCalcsSheets::Start_Histories() {
+    imperialEditing_.History.Start();
+    metricEditing_.History.Start();
 }
 
 void WtCalcsSheets::Init_Sheet(FlexGrid& grid, std::span<const SheetColumn> columns) {

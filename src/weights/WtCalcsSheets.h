@@ -6,6 +6,7 @@
 #include "controls/CellEditing.h"
 #include "desk/Desk.h"
 #include "weights/LengthColumn.h"
+#include "weights/SheetPopup.h"
 
 #include <array>
 #include <functional>
@@ -68,6 +69,7 @@ class WtCalcsSheets {
     CellEditing& Shown_Editing() { return Shows_Imperial() ? imperialEditing_ : metricEditing_; }
 
     void Commit_Open_Editors();
+    void Start_Histories(); // what has been loaded can't be taken back
     void Show_Total();
     void Start_Family_List();
     void Save_Choice() const;
@@ -85,6 +87,9 @@ class WtCalcsSheets {
     void Show_Remark();
 
     LengthColumn imperialLengths_, metricLengths_;
+
+  public:
+    SheetPopup ImperialPopup, MetricPopup;
 };
 
 } // namespace Tensarix

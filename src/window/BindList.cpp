@@ -96,6 +96,8 @@ class ComboKeys final : public QObject {
         sinceTyped_.restart();
         if (const int found = Find_By_Typing(control_, typed_); found >= 0)
             Go_To(found);
+        else if (control_.OnTypedInVain)
+            control_.OnTypedInVain(typed_);
         return true;
     }
 

@@ -33,7 +33,15 @@ void Bind(QStatusBar* widget, StatusBar& control) {
         Show_Weight(*remark, control.Remark_Weight());
         remark->setVisible(!remark->text().isEmpty()); // leaves its room to the selection
         count->setText(To_Qt(control.Count()));
+        QFont font = count->font();
+        font.setUnderline(static_cast<bool>(control.Count_Leads_To()));
+        count->setFont(font);
+        count->setCursor(font.underline() ? Qt::PointingHandCursor : Qt::ArrowCursor);
         count->setMinimumWidth(count->sizeHint().width()); // short, and never cut
+    });
+    Watch_Click(count, [&control] {
+        const Handler leadsTo = control.Count_Leads_To(); // which may change itself
+        Run(leadsTo);
     });
     Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
     // Where the bar cuts a text, its tool tip has it whole: here is the key for that.

@@ -1,16 +1,20 @@
 #include "window/Program.h"
 
+#include "common/Failure.h"
 #include "shell/AboutFrm.h"
 #include "shell/Version.h"
 #include "window/ProgramStyle.h"
 #include "window/To_Qt.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/pages/AboutDialog.h"
+#include "window/pages/AnySectionDialog.h"
+#include "window/pages/GuideWindow.h"
 #include "window/pages/ReportText.h"
 #include "window/pages/WtCalcsDialog.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QShortcut>
 
 namespace Tensarix {
 
@@ -67,11 +71,40 @@ void Program::Show_AboutFrm() {
     AboutDialog(about, window_.get()).exec();
 }
 
+void Program::Show_AnySectionFrm(AnySectionFrm& form) {
+    AnySectionDialog dialog(form, window_.get());
+    Add_Guide_Key(dialog, "Any section at once");
+    dialog.exec();
+}
+
+void Program::Show_Guide(std::string_view chapter) {
+    GuideWindow::Open(machine_.Places.Program,
+                      QString::fromUtf8(chapter.data(), static_cast<qsizetype>(chapter.size())),
+                      window_.get());
+}
+
+void Program::Add_Guide_Key(QDialog& dialog, const char* chapter) {
+    QObject::connect(new QShortcut(Qt::Key_F1, &dialog), &QShortcut::activated, &dialog,
+                     [this, &dialog, chapter] {
+                         GuideWindow::Open(machine_.Places.Program, QString::fromUtf8(chapter),
+                                           &dialog);
+                     });
+}
+
 void Program::Show_WtCalcsFrm() {
+    Show_WtCalcsFrm_Of({});
+}
+
+void Program::Show_WtCalcsFrm_Of(SectionPlace place) {
     WtCalcsFrm form(form_.Shared, savedLengths_);
     form.Load();
+    if (place != SectionPlace{}) {
+        Attempt([&] { form.ShapeType.Select(place.Family); });
+        Attempt([&] { form.ShapeSizeUS.Select(place.Position); });
+    }
     WtCalcsDialog dialog(window_.get());
     Make_WtCalcs_Form(form, dialog);
+    Add_Guide_Key(dialog, "Weights, type 1: one section, many lengths");
     dialog.exec();
 }
 
@@ -80,6 +113,7 @@ void Program::Show_WtCalcsFrmA() {
     form.Load();
     WtCalcsDialog dialog(window_.get());
     Make_WtCalcs_FormA(form, dialog);
+    Add_Guide_Key(dialog, "Weights, type 2: a section for each row");
     dialog.exec();
 }
 

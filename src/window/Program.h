@@ -16,6 +16,8 @@
 
 #include <memory>
 
+class QDialog;
+
 namespace Tensarix {
 
 class Program final : public Dialogs {
@@ -39,8 +41,13 @@ class Program final : public Dialogs {
     void Show_WtCalcsFrm() override;
     void Show_WtCalcsFrmA() override;
     void Show_AboutFrm() override;
+    void Show_WtCalcsFrm_Of(SectionPlace place) override;
+    void Show_AnySectionFrm(AnySectionFrm& form) override;
+    void Show_Guide(std::string_view chapter) override;
 
   private:
+    void Add_Guide_Key(QDialog& dialog, const char* chapter);
+
     SingleInstance instance_; // ends last, when the settings have been saved
     IniSettings settings_;
     DesktopClipboard clipboard_;

@@ -1,3 +1,4 @@
+#include "NoDialogs.h"
 #include "StandIns.h"
 #include "shell/MainFrm.h"
 #include "shell/Version.h"
@@ -9,7 +10,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-struct RecordedDialogs final : Dialogs {
+struct RecordedDialogs final : NoDialogs {
     std::vector<std::string> Shown;
     std::function<void()> Meanwhile;
     void Show_CalcMainFrm() override { Note("CalcMainFrm"); }

@@ -5,11 +5,14 @@
 
 namespace Tensarix::Tests {
 
-struct NoDialogs final : Dialogs {
+struct NoDialogs : Dialogs {
     void Show_CalcMainFrm() override {}
     void Show_WtCalcsFrm() override {}
     void Show_WtCalcsFrmA() override {}
     void Show_AboutFrm() override {}
+    void Show_WtCalcsFrm_Of(SectionPlace) override {}
+    void Show_AnySectionFrm(AnySectionFrm&) override {}
+    void Show_Guide(std::string_view) override {}
 };
 
 } // namespace Tensarix::Tests

@@ -1,4 +1,5 @@
 // The keys and the mouse of a grid: they tell the record where to go, and what to do there.
+#include "controls/CellSearch.h"
 #include "window/FocusFrame.h"
 #include "window/KeyCodes.h"
 #include "window/Link.h"
@@ -62,9 +63,23 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         Run(grid_->OnPaste);
         return;
     }
+    if (event->matches(QKeySequence::Undo)) {
+        Run(grid_->OnUndo);
+        return;
+    }
+    if (event->matches(QKeySequence::SelectAll)) {
+        grid_->Select_All();
+        return;
+    }
     // The menu key comes as a context menu event; not every desktop sends one for this.
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
         Popup_By_Key();
+        return;
+    }
+    if (event->key() == Qt::Key_S && grid_->OnHeadClick &&
+        event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier)) {
+        grid_->Press_Beside();
+        grid_->OnHeadClick(grid_->Col());
         return;
     }
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
@@ -93,6 +108,10 @@ void GridView::Edit_Key(QKeyEvent* event) {
         grid_->OnKeyDown(code);
     if (character != 0 && grid_->OnKeyPress)
         grid_->OnKeyPress(character);
+    else if (character > Keys::Blank && character <= '~') {
+        Find_Typed(static_cast<char>(character));
+        return;
+    }
     if (!had || hasFocus()) {
         if (grid_->OnKeyPress)
             Answer_Refused_Key(character);
@@ -104,6 +123,16 @@ void GridView::Edit_Key(QKeyEvent* event) {
         list && character > Keys::Blank)
         QCoreApplication::sendEvent(list, event);
     event->accept();
+}
+
+// A name that is typed into a table that isn't edited leads to its row.
+void GridView::Find_Typed(char character) {
+    if (!typed_.empty() && sinceTyped_.hasExpired(QApplication::keyboardInputInterval()))
+        typed_.clear();
+    typed_ += character;
+    sinceTyped_.start();
+    if (const int row = Find_Row_By_Typing(*grid_, typed_); row >= 0)
+        Go_To(row, grid_->Col(), false);
 }
 
 // What can be typed into an editable grid is no shortcut.
@@ -188,7 +217,7 @@ void GridView::Release(QMouseEvent* event) {
     if (event->button() != Qt::RightButton)
         return;
     popupPoint_ = event->globalPosition().toPoint();
-    Run(grid_->OnPopup);
+    Run(grid_->OnPopup ? grid_->OnPopup : grid_->OnMenu);
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
@@ -199,7 +228,7 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 
 void GridView::Popup_By_Key() {
     popupPoint_ = mapToGlobal(Cell_Rect(grid_->Row(), grid_->Col()).center());
-    Run(grid_->OnPopup);
+    Run(grid_->OnPopup ? grid_->OnPopup : grid_->OnMenu);
 }
 
 } // namespace Tensarix

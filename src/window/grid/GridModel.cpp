@@ -90,7 +90,22 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     if (head && grid_.FixedRows() == 0)
         return role == Qt::DisplayRole ? QVariant(Unseen_Head(col < grid_.FixedCols()))
                                        : QVariant();
+    if (head && col == grid_.Sort_Col())
+        if (const QVariant sorted = Sorted_Head(col, role); sorted.isValid())
+            return sorted;
     return Cell(row, col, role);
+}
+
+// What the mark in the head tells, in words, before its remark.
+QVariant GridModel::Sorted_Head(int col, int role) const {
+    if (role == SortRole)
+        return grid_.Sort_Descends();
+    if (role != Qt::ToolTipRole && role != Qt::AccessibleDescriptionRole)
+        return {};
+    const QString sorted = grid_.Sort_Descends() ? QStringLiteral("Sorted, the largest first")
+                                                 : QStringLiteral("Sorted, the smallest first");
+    const QString remark = Cell(0, col, role).toString();
+    return remark.isEmpty() ? sorted : sorted + QStringLiteral("\n") + remark;
 }
 
 QVariant GridModel::Cell(int row, int col, int role) const {

@@ -17,8 +17,9 @@ class GridModel final : public QAbstractTableModel {
   public:
     enum {
         RemarkRole = Qt::UserRole,
-        WeightRole,   // of the remark, a number
-        UnsafeRowRole // of a cell in the fixed columns: something in its row is unsafe
+        WeightRole,    // of the remark, a number
+        UnsafeRowRole, // of a cell in the fixed columns: something in its row is unsafe
+        SortRole       // of a head: whether the sorting by it descends
     };
 
     GridModel(const FlexGrid& grid, QWidget* view);
@@ -39,6 +40,7 @@ class GridModel final : public QAbstractTableModel {
     QVariant Ground(int row, int col) const;
     QString Description(int row, int col) const;
     bool Has_Unsafe(int row) const;
+    QVariant Sorted_Head(int col, int role) const;
 
     const FlexGrid& grid_;
     QWidget* view_;

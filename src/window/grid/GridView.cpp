@@ -133,6 +133,13 @@ void GridView::Show_Grid(FlexGrid& grid) {
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &GridView::Scrolled);
     link_ = new Link(this, grid.Shown, [this] { Pull(); });
     grid.BringIntoView = [this] { Reveal_Current(); };
+    for (QTableView* pane : {static_cast<QTableView*>(this), frozen_}) {
+        auto* head = static_cast<HeadView*>(pane->horizontalHeader());
+        connect(head, &HeadView::Head_Clicked, this, [this](int col) {
+            if (grid_->OnHeadClick)
+                grid_->OnHeadClick(col);
+        });
+    }
     new FocusLink(this, grid.Focus);
 }
 

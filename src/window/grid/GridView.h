@@ -5,6 +5,7 @@
 
 #include "controls/FlexGrid.h"
 
+#include <QElapsedTimer>
 #include <QPoint>
 #include <QTableView>
 
@@ -78,6 +79,7 @@ class GridView : public QTableView {
     bool Move_Key(QKeyEvent* event);
     void Tab_Key(QKeyEvent* event);
     void Edit_Key(QKeyEvent* event);
+    void Find_Typed(char character);
     bool Go_To(int row, int col, bool extend);
     void Press(QTableView& pane, QMouseEvent* event);
     void Drag(QMouseEvent* event);
@@ -96,6 +98,8 @@ class GridView : public QTableView {
     QPoint popupPoint_;
     unsigned measured_ = ~0u, fitted_ = ~0u;
     int revealed_ = -1; // the marked column that has been brought into view
+    std::string typed_; // the name that is being typed
+    QElapsedTimer sinceTyped_;
     bool pulling_ = false;
     bool allColumns_ = false, allRows_ = false, onlyNeeded_ = false;
 };

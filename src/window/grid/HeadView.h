@@ -11,9 +11,17 @@ class HeadView final : public QHeaderView {
   public:
     explicit HeadView(QWidget* parent);
 
+  signals:
+    void Head_Clicked(int section); // not by who changes a width
+
   protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     QSize sectionSizeFromContents(int section) const override;
     void paintSection(QPainter* painter, const QRect& rect, int section) const override;
+
+  private:
+    int pressed_ = -1;
 };
 
 } // namespace Tensarix

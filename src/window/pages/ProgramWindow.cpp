@@ -9,6 +9,7 @@
 #include "window/pages/BrowseForm.h"
 #include "window/pages/DesignForm.h"
 #include "window/pages/FindForm.h"
+#include "window/pages/TravelKeys.h"
 #include "window/pages/ViewForm.h"
 
 #include <QAction>
@@ -17,6 +18,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -94,7 +96,9 @@ ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form)
         ui.SelectionTab->addWidget(new FittingArea(page));
     ui.SelectionTab->addWidget(Make_Design_Form(form.Design, this));
     Bind(ui.SelectionTab, form.SelectionTab);
-    Make_Grid_Popup(form.mnuEdit1, this);
+    Make_Grid_Popup(form.mnuEdit1, form.Sections, this);
+    Bind_Travel_Keys(form.Sections, this, *ui.SelectionTab);
+    Make_Any_Section_Box(ui.menuBar);
     Bind(ui.StatBar, form.Shared.StatBar);
     AnswerRefusedKey = [&form](const std::string& answer) {
         form.Shared.StatBar.Set_Remark(answer);
@@ -107,8 +111,21 @@ ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form)
     Bind(ui.mnuOnTop, form.mnuOnTop);
     Bind(ui.mnuReadOut, form.mnuReadOut);
     Bind(ui.mnuAbout, form.mnuAbout);
+    Bind(ui.mnuGuide, form.mnuGuide);
     new MenuKeys(*this);
     Restore_Place();
+}
+
+// A quiet box at the right of the menu bar.
+void ProgramWindow::Make_Any_Section_Box(QMenuBar* bar) {
+    auto* box = new QPushButton(bar);
+    box->setObjectName(QStringLiteral("AnySectionButton"));
+    box->setFlat(true);
+    box->setFocusPolicy(Qt::NoFocus); // it has a key, and Tab stays with the page
+    Bind(box, form_.AnySectionButton);
+    bar->setCornerWidget(box);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_K, this), &QShortcut::activated, this,
+            [this] { form_.AnySectionButton.Click(); });
 }
 
 void ProgramWindow::Restore_Place() {

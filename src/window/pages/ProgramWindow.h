@@ -24,6 +24,7 @@ class ProgramWindow final : public QMainWindow {
     void changeEvent(QEvent* event) override;
 
   private:
+    void Make_Any_Section_Box(QMenuBar* bar);
     void Restore_Place();
 
     MainFrm& form_;

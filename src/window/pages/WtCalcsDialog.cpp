@@ -6,6 +6,7 @@
 #include "window/FittingArea.h"
 #include "window/To_Qt.h"
 #include "window/grid/CellOverlay.h"
+#include "window/grid/PopupMenu.h"
 
 namespace Tensarix {
 
@@ -34,6 +35,8 @@ void Bind_Sheets(const Ui& ui, WtCalcsSheets& form, WtCalcsDialog& dialog) {
     Bind(ui.SSTab1, ui.SSTab1Pages, form.SSTab1);
     Bind(ui.ImperialFlex, form.ImperialFlex);
     Bind(ui.MetricFlex, form.MetricFlex);
+    Make_Sheet_Popup(form.ImperialPopup, ui.ImperialFlex);
+    Make_Sheet_Popup(form.MetricPopup, ui.MetricFlex);
     Lay_Over(ui.ImperialFlex, form.ImperialFlex, form.EdiTxt, QStringLiteral("EdiTxt"),
              QStringLiteral("Profile length in feet and inches"));
     Lay_Over(ui.MetricFlex, form.MetricFlex, form.EdiTxtA, QStringLiteral("EdiTxtA"),
