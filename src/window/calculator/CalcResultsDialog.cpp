@@ -3,6 +3,7 @@
 #include "calculator/CalcResults.h"
 #include "ui_CalcResultsDialog.h"
 #include "window/FittingArea.h"
+#include "window/calculator/CalcRows.h"
 
 #include <QKeyEvent>
 
@@ -45,6 +46,7 @@ void CalcResultsDialog::Show_Results() {
             list.addItem(QString::fromStdString(Result_Text(result)));
         list.setCurrentRow(chosen < 0 ? 0 : std::min(chosen + 1, list.count() - 1));
     }
+    Fit_Width(list);
     for (QPushButton* button : {ui_->UseButton, ui_->CopyButton})
         button->setEnabled(list.count() > 0);
 }
