@@ -94,7 +94,7 @@ TEST(Published, BoltCoefficients) {
         const double C = BoltCoefficientC(group, ex, angle, yield);
         spreads[figure["source"]].excess.push_back(C / printed - 1);
         const bool isFar = std::abs(C - printed) > boltRemarkTolerance * printed + figure.Unit();
-        EXPECT_TRUE(!isFar || !Balance_Remark(C, balance, boltRemarkTolerance).empty())
+        EXPECT_TRUE(!isFar || !Balance_Remark(C, balance, boltRemarkTolerance).Text.empty())
             << figure.at;
     }
     cells.Record("units of the last digit, cells");
@@ -128,7 +128,7 @@ TEST(Published, WeldCoefficients) {
         const double C = Weld_Configuration_Result(item, L, kL, aL, angle, weldModeC, search);
         spreads[family].excess.push_back(C / printed - 1);
         const bool isFar = std::abs(C / printed - 1) > weldRemarkTolerance + 0.006;
-        EXPECT_TRUE(!isFar || !Balance_Remark(C, balance, weldRemarkTolerance).empty())
+        EXPECT_TRUE(!isFar || !Balance_Remark(C, balance, weldRemarkTolerance).Text.empty())
             << figure.at;
     }
     for (auto& [family, spread] : spreads) {
