@@ -1,6 +1,7 @@
 // The failure rule: a statement that fails is skipped, its target keeps its value, the next one
-// runs. What can fail throws Failure inside one statement; Attempt wraps that statement. Failures
-// are swallowed only where the required behaviour says so.
+// runs. What can fail throws Failure inside one statement; Attempt wraps that statement. A
+// statement that none wraps hands its failure to whoever called: what follows there is skipped as
+// well.
 #pragma once
 
 #include <cmath>

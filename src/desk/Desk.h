@@ -35,9 +35,9 @@ struct Desk {
     }
 
     // Panel 1 when nothing is selected.
-    static constexpr std::string_view NoSelection = " SELECTION:   None";
+    static constexpr std::string_view noSelection = " SELECTION:   None";
     void Show_No_Selection() {
-        StatBar.Set_Panel1(std::string{NoSelection});
+        StatBar.Set_Panel1(std::string{noSelection});
         StatBar.Set_Remark({});
     }
 };

@@ -27,7 +27,7 @@ Head Head_Of(const FlexGrid& grid, int col) {
 std::string Table_Selection_Text(const FlexGrid& grid, int row, int col) {
     const std::string name = Trim(grid.Text(row, usNameColumn));
     if (name.empty())
-        return std::string{Desk::NoSelection};
+        return std::string{Desk::noSelection};
     const Head head = Head_Of(grid, col);
     const std::string text = " SELECTION:   " + name + "  [" + Trim(grid.Text(row, siNameColumn)) +
                              "]    -->   " + head.Name + " = " + Trim(grid.Text(row, col));
@@ -50,7 +50,7 @@ void Show_Table_Selection(Desk& desk, const FlexGrid& grid) {
     const int row = grid.Row(), col = grid.Col();
     const std::string text = Table_Selection_Text(grid, row, col);
     desk.StatBar.Set_Panel1(text);
-    const bool selected = text != Desk::NoSelection;
+    const bool selected = text != Desk::noSelection;
     const int told = selected && grid.Remark(row, col).empty() ? 0 : row; // the head's, or its own
     desk.StatBar.Set_Remark(grid.Remark(told, col), grid.Remark_Weight(told, col));
     if (desk.ReadOut && selected)

@@ -22,11 +22,11 @@ constexpr std::string_view disclaimer =
 } // namespace
 
 AboutFrm::AboutFrm(Desk& desk) : desk_(desk) {
-    lblTitle.Set_Caption(std::string{ApplicationTitle});
-    lblVersion.Set_Caption("Version " + std::to_string(MajorVersion) + "." +
-                           std::to_string(MinorVersion));
+    lblTitle.Set_Caption(std::string{applicationTitle});
+    lblVersion.Set_Caption("Version " + std::to_string(majorVersion) + "." +
+                           std::to_string(minorVersion));
     lblDescription.Set_Caption(std::string{description});
-    lblDisclaimer.Set_Caption(std::string{disclaimer} + std::string{LegalLine});
+    lblDisclaimer.Set_Caption(std::string{disclaimer} + std::string{legalLine});
     OKButton.Set_Caption("OK");
     OKButton.OnClick = [this] { Run(OnClose); };
 }

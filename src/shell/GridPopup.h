@@ -26,7 +26,7 @@ class GridPopup {
     Handler OnOpen;    // the view's: shows the menu, whose items are ready
 
     // The grid of each mode; none for a page that isn't there. All of them outlive the popup.
-    using Grids = std::array<FlexGrid*, ModeCount>;
+    using Grids = std::array<FlexGrid*, modeCount>;
 
     GridPopup(Desk& desk, const TabControl& selectionTab, const Grids& grids);
     GridPopup(const GridPopup&) = delete;

@@ -11,7 +11,7 @@ namespace Tensarix {
 
 namespace {
 
-constexpr std::array<std::string_view, ModeCount> modeCaptions{
+constexpr std::array<std::string_view, modeCount> modeCaptions{
     "Browse Sections", "Find Sections", "View All", "Allowable Beam Load", "Connection Design"};
 
 constexpr std::string_view noAnswer =
@@ -28,8 +28,8 @@ void Choose(const Settings& saved, const SettingKey& key, OptionButton& first,
 } // namespace
 
 std::string Window_Caption() {
-    return std::string{ApplicationTitle} + " v" + std::to_string(MajorVersion) + "." +
-           std::to_string(MinorVersion) + "  [Beta]  -  " + std::string{LegalLine};
+    return std::string{applicationTitle} + " v" + std::to_string(majorVersion) + "." +
+           std::to_string(minorVersion) + "  [Beta]  -  " + std::string{legalLine};
 }
 
 MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
@@ -44,7 +44,7 @@ MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
                }),
       Sections(*this), dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
-    for (int i = 0; i < ModeCount; ++i) {
+    for (int i = 0; i < modeCount; ++i) {
         OptionButton& button = OptButton[static_cast<std::size_t>(i)];
         button.Set_Caption(std::string{modeCaptions[static_cast<std::size_t>(i)]});
         button.OnClick = [this, i] { OptButton_Click(i); };

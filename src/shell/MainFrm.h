@@ -24,7 +24,7 @@ class MainFrm {
     Desk Shared;
     std::string Caption;
 
-    std::array<OptionButton, ModeCount> OptButton;
+    std::array<OptionButton, modeCount> OptButton;
     TabControl SelectionTab;
 
     BrowsePage Browse;

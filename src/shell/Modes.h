@@ -4,6 +4,6 @@
 namespace Tensarix {
 
 enum class Mode { Browse, Find, ViewAll, BeamLoad, Connection };
-inline constexpr int ModeCount = 5;
+inline constexpr int modeCount = 5;
 
 } // namespace Tensarix

@@ -26,7 +26,7 @@ constexpr int typedSearchMs = 1500; // a designation is typed slower than a word
 } // namespace
 
 void Program::Prepare_Application() {
-    const QString title = To_Qt(ApplicationTitle);
+    const QString title = To_Qt(applicationTitle);
     QApplication::setApplicationName(title);
     QApplication::setOrganizationName(title);
     QApplication::setDesktopFileName(QStringLiteral("tensarix"));

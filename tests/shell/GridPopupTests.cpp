@@ -22,7 +22,7 @@ class GridPopupTest : public testing::Test {
     TestMachine machine;
     Desk desk{machine.Host};
     TabControl tab;
-    std::array<FlexGrid, ModeCount> grids;
+    std::array<FlexGrid, modeCount> grids;
     GridPopup popup{desk, tab, {&grids[0], &grids[1], &grids[2], &grids[3], &grids[4]}};
     int opened = 0;
 
@@ -52,7 +52,7 @@ TEST_F(GridPopupTest, CaptionsAndEnablingOfEachTab) {
     struct {
         bool Cell0, Cell1;
     } const offered[] = {{true, false}, {true, true}, {true, true}, {true, false}, {false, false}};
-    for (int mode = 0; mode < ModeCount; ++mode) {
+    for (int mode = 0; mode < modeCount; ++mode) {
         tab.Select(mode);
         const auto& cells = offered[mode];
         desk.GridClicked = false;
@@ -82,7 +82,7 @@ TEST_F(GridPopupTest, CaptionsAndEnablingOfEachTab) {
         EXPECT_EQ(popup.mnuCopySelection1b.Caption(), copyCell);
         EXPECT_TRUE(popup.mnuCopySelection1d.Enabled());
     }
-    EXPECT_EQ(opened, 3 * ModeCount);
+    EXPECT_EQ(opened, 3 * modeCount);
 }
 
 TEST_F(GridPopupTest, ClipboardTexts) {
@@ -90,7 +90,7 @@ TEST_F(GridPopupTest, ClipboardTexts) {
         "r1c0  \tr1c1  \tr1c2  \rr2c0  \tr2c1  \tr2c2  \rr3c0  \tr3c1  \tr3c2  ";
     const std::string plainHead = "r0c0  \tr0c1  \t Ix\n[in^4] \r"; // as it stands
     const std::string lineHead = "r0c0\tr0c1\tIx [in^4]\r";
-    for (int mode = 0; mode < ModeCount; ++mode) {
+    for (int mode = 0; mode < modeCount; ++mode) {
         tab.Select(mode);
         Grid().Press(2, 2);
         Grid().Extend_To(3, 1);
@@ -101,7 +101,7 @@ TEST_F(GridPopupTest, ClipboardTexts) {
         EXPECT_EQ(Grid().Row(), 2);
         EXPECT_EQ(Grid().Col(), 2);
     }
-    EXPECT_EQ(machine.Clip.Clears, 2 * ModeCount);
+    EXPECT_EQ(machine.Clip.Clears, 2 * modeCount);
     EXPECT_EQ(popup.mnuCopySelection1a.Caption(), "Copy Selection       ");
     EXPECT_EQ(popup.mnuCopySelection1d.Caption(), "Copy All  (including Row && Column headers)");
 }

@@ -40,7 +40,7 @@ class MainFrmTest : public testing::Test {
 
 TEST_F(MainFrmTest, AFirstStartHasAllDefaults) {
     MainFrm& f = Start();
-    EXPECT_EQ(f.Caption, "Tensarix v1.0  [Beta]  -  " + std::string{LegalLine});
+    EXPECT_EQ(f.Caption, "Tensarix v1.0  [Beta]  -  " + std::string{legalLine});
     EXPECT_TRUE(f.OptButton[0].Value());
     EXPECT_EQ(f.SelectionTab.Tab(), 0);
     EXPECT_TRUE(f.Browse.ProfileOption1.Value());

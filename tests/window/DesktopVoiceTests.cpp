@@ -3,7 +3,6 @@
 #include "WindowTest.h"
 #include "window/desktop/DesktopVoice.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QStandardPaths>
 
@@ -14,8 +13,8 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-constexpr int patienceMs = 10000;
-constexpr qint64 atOnceMs = 150; // milliseconds as a rule; a busy machine may add some
+constexpr int patienceMs = 60000;    // for what takes well under a second on a free machine
+constexpr int moreThanEver = 200000; // words that nobody has spoken before that is over
 
 void Write_File(const QString& path, const char* text) {
     QDir().mkpath(QFileInfo(path).path());
@@ -25,9 +24,9 @@ void Write_File(const QString& path, const char* text) {
 }
 
 // Takes many seconds to speak, even to nowhere.
-std::string Long_Text() {
+std::string Long_Text(int words = 3000) {
     std::string text;
-    for (int i = 0; i < 3000; ++i)
+    for (int i = 0; i < words; ++i)
         text += "word" + std::to_string(i) + " ";
     return text;
 }
@@ -39,7 +38,7 @@ class DesktopVoiceTest : public testing::Test {
     std::unique_ptr<DesktopVoice> voice;
     std::string text; // the last one that was spoken
     std::vector<std::string> words;
-    int ends = 0;
+    int ends = 0, missing = 0;
 
     static void SetUpTestSuite() {
         home = std::make_unique<QTemporaryDir>();
@@ -77,6 +76,7 @@ class DesktopVoiceTest : public testing::Test {
             words.push_back(text.substr(at, length));
         };
         voice->OnEnd = [this] { ++ends; };
+        voice->OnMissing = [this] { ++missing; };
     }
     // Speaks in a turn of its own.
     void Speak(const std::string& what) {
@@ -104,10 +104,7 @@ using Words = std::vector<std::string>;
 } // namespace
 
 TEST_F(DesktopVoiceTest, WordsArriveInOrderAndTheLastTurnWins) {
-    QElapsedTimer timer;
-    timer.start();
     Speak("AREA = 98.5 SQUARE INCHES :: <area> & more\nof \"it\"");
-    EXPECT_LT(timer.elapsed(), atOnceMs);
     EXPECT_TRUE(words.empty()); // no callback runs inside Speak
     ASSERT_TRUE(Wait_For_End());
     EXPECT_EQ(words, (Words{"AREA", "98.5", "SQUARE", "INCHES", "area", "more", "of", "it"}));
@@ -128,7 +125,7 @@ TEST_F(DesktopVoiceTest, WordsArriveInOrderAndTheLastTurnWins) {
 }
 
 TEST_F(DesktopVoiceTest, AnEmptyTextSilencesTheServiceAtOnce) {
-    Speak(Long_Text());
+    Speak(Long_Text(moreThanEver));
     ASSERT_TRUE(Wait_For_Words(3));
     voice->Speak("");
     words.clear();
@@ -136,12 +133,9 @@ TEST_F(DesktopVoiceTest, AnEmptyTextSilencesTheServiceAtOnce) {
     EXPECT_TRUE(words.empty());
     EXPECT_EQ(ends, 0);
     // If the service went on with the long text, this one would wait for its end.
-    QElapsedTimer timer;
-    timer.start();
     Speak("after silence");
     ASSERT_TRUE(Wait_For_End());
     EXPECT_EQ(words, (Words{"after", "silence"}));
-    EXPECT_LT(timer.elapsed(), 2000);
 
     // Silenced before the service has heard of it: nothing of it comes, and what follows does.
     Speak("never said");
@@ -172,30 +166,30 @@ TEST_F(DesktopVoiceTest, AServiceThatHangsHoldsUpNothing) {
     const pid_t service = Service();
     ASSERT_GT(service, 0);
     ::kill(service, SIGSTOP);
-    QElapsedTimer timer;
-    timer.start();
     for (int i = 0; i < 100; ++i)
         Speak(Long_Text());
-    voice.reset();
-    EXPECT_LT(timer.elapsed(), 3000);
+    EXPECT_TRUE(words.empty());
+    voice.reset(); // none of this waits for an answer that doesn't come
     ::kill(service, SIGCONT);
+    Make_Voice();
+    Speak("hello again");
+    ASSERT_TRUE(Wait_For_End());
+    EXPECT_EQ(words, (Words{"hello", "again"}));
 }
 
-// Neither a service nor a way to start one: nothing happens, and nothing waits.
-TEST_F(DesktopVoiceTest, WithoutAServiceNothingHappens) {
+// Neither a service nor a way to start one: nothing is heard, and that is told.
+TEST_F(DesktopVoiceTest, WithoutAService) {
     const QTemporaryDir empty;
     const QByteArray path = qgetenv("PATH");
     Use_Home(empty.path());
     qputenv("PATH", empty.path().toLocal8Bit());
-    QElapsedTimer timer;
-    timer.start();
+    voice->Reach();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return missing == 1; }, patienceMs));
     Speak("into the void");
     voice->Speak("");
     voice->Speak("and again");
-    EXPECT_LT(timer.elapsed(), atOnceMs);
-    QTest::qWait(200);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return missing > 1; }, patienceMs));
     voice.reset();
-    EXPECT_LT(timer.elapsed(), 1000);
     EXPECT_TRUE(words.empty());
     EXPECT_EQ(ends, 0);
     qputenv("PATH", path);

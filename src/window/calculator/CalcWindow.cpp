@@ -199,7 +199,7 @@ void CalcWindow::Show_Help() {
         if (!text.empty())
             desk_.Say(text);
     };
-    CalcHelpFrm frm(std::to_string(MajorVersion) + "." + std::to_string(MinorVersion),
+    CalcHelpFrm frm(std::to_string(majorVersion) + "." + std::to_string(minorVersion),
                     desk_.ReadOut, speak);
     CalcHelpDialog dialog(frm, desk_.Host.Speech, this);
     Open_Dialog(dialog);

@@ -16,7 +16,7 @@ namespace Tensarix {
 
 namespace {
 
-constexpr int reachTries = 60; // a service that has just been started takes a moment
+constexpr int reachTries = 150; // a service that has just been started takes a moment
 constexpr int reachWaitMs = 100;
 constexpr int lastWordsMs = 200; // how long the end of the program waits for silence
 

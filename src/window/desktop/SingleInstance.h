@@ -24,10 +24,10 @@ QByteArray Activation_Token();
 // users count for nothing.
 class SingleInstance final : public Instance {
   public:
-    static constexpr int UsualPatienceMs = 20000; // the first one may be starting, or be ending
+    static constexpr int usualPatienceMs = 20000; // the first one may be starting, or be ending
 
     // The token is what the desktop gave this start, so that it may raise a window.
-    explicit SingleInstance(QByteArray activationToken = {}, int patienceMs = UsualPatienceMs);
+    explicit SingleInstance(QByteArray activationToken = {}, int patienceMs = usualPatienceMs);
     bool Other_Runs() override;
     bool Raise_Other() override;
     // The first instance: what to do when another one asks, with that one's token. False: it is

@@ -11,7 +11,7 @@ namespace Tensarix {
 namespace {
 
 // By mode.
-constexpr const char* gridNames[ModeCount] = {"ShapeFlex", "fShapeFlex", "xShapeFlex", "zShapeFlex",
+constexpr const char* gridNames[modeCount] = {"ShapeFlex", "fShapeFlex", "xShapeFlex", "zShapeFlex",
                                               "cFlex"};
 
 QAction* Add_Item(QMenu& menu, const char* name, MenuItem& item) {
