@@ -107,7 +107,7 @@ TEST_F(Edited, OnlyTheOldestOfManyStepsAreLost) {
     EXPECT_EQ(undone, static_cast<int>(EditHistory::MostSteps));
 }
 
-TEST(CellSearchTest, RowsByTypingAndCellsByText) {
+TEST(CellSearchTest, RowsByTyping) {
     FlexGrid grid;
     grid.Set_Rows(6);
     grid.Set_Cols(3);
@@ -124,15 +124,4 @@ TEST(CellSearchTest, RowsByTypingAndCellsByText) {
     EXPECT_EQ(Find_Row_By_Typing(grid, "W 18x3"), 1); // blanks are free
     EXPECT_EQ(Find_Row_By_Typing(grid, "w460x8"), 2); // by the other name
     EXPECT_EQ(Find_Row_By_Typing(grid, "hp"), -1);
-    grid.Press(3, 2);
-    using Cell = std::pair<int, int>;
-    EXPECT_EQ(Find_Cell(grid, "18X5", false, true), (Cell{2, 0})); // round the end
-    EXPECT_EQ(Find_Cell(grid, "18x5", true, false), (Cell{3, 0}));
-    grid.Press(3, 0);
-    EXPECT_EQ(Find_Cell(grid, "18x5", false, true), (Cell{3, 0}));
-    EXPECT_EQ(Find_Cell(grid, "18x5", false, false), (Cell{2, 0}));
-    EXPECT_EQ(Find_Cell(grid, "31", false, false), (Cell{4, 0}));
-    EXPECT_EQ(Find_Cell(grid, "  ", false, true), std::nullopt);
-    EXPECT_EQ(Find_Cell(grid, "none", false, true), std::nullopt);
-    EXPECT_EQ(Count_Cells(grid, "w18"), 3); // heads don't count
 }

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTextBrowser>
 #include <QToolTip>
 
 #include <algorithm>
@@ -28,6 +29,8 @@ using namespace Tensarix::Tests;
 namespace {
 
 using Widgets = std::vector<QWidget*>;
+
+constexpr int mostLinks = 300; // of a page of the guide
 
 QString Accessible_Text(QWidget& widget, QAccessible::Text kind) {
     return QAccessible::queryAccessibleInterface(&widget)->text(kind).trimmed();
@@ -157,6 +160,11 @@ class AccessGate : public WindowTest {
     static QWidget* Next(Qt::KeyboardModifiers back) {
         QWidget* const from = QApplication::focusWidget();
         QTest::keyClick(from, Qt::Key_Tab, back);
+        // In a text with links Tab goes from link to link first.
+        for (int links = 0; links < mostLinks && qobject_cast<QTextBrowser*>(from) &&
+                            QApplication::focusWidget() == from;
+             ++links)
+            QTest::keyClick(from, Qt::Key_Tab, back);
         if (With_Grid(QApplication::focusWidget()) == With_Grid(from))
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, back | Qt::ControlModifier);
         Settle();
