@@ -6,6 +6,7 @@
 #include "window/pages/GuideWindow.h"
 #include "window/pages/ReportView.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
@@ -52,6 +53,11 @@ class Walk {
         Weights_2();
         Calculator();
         In_Dialog([this] { program_.Form().mnuAbout.Click(); }, Visited("about"));
+        In_Dialog(
+            [this] {
+                program_.Window().findChild<QAction*>(QStringLiteral("mnuRemarks"))->trigger();
+            },
+            Visited("remarks"));
         return faults_;
     }
 

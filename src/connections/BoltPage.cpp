@@ -32,8 +32,8 @@ void Lay_Out_Values(FlexGrid& grid, std::initializer_list<const char*> names) {
     grid.Set_Rows(static_cast<int>(names.size()));
     grid.Set_Fixed(0, 1);
     grid.Set_Row_Height_Min(340);
-    grid.Set_Col_Width(0, 700);
-    grid.Set_Col_Width(1, 1500);
+    grid.Set_Col_Width(0, 450);
+    grid.Set_Col_Width(1, 1150);
     int row = 0;
     for (const char* name : names) {
         grid.Set_Style(row, 0, {.Align = Alignment::Centre, .Fore = Colours::SymbolText});

@@ -13,7 +13,8 @@ namespace {
 
 constexpr double resultSize = 1.5;              // of the font of its label
 constexpr int leastChars = 40, leastLines = 13; // of a drawing
-constexpr int factorWidth = 12;                 // average characters
+const QString widestSpan = QStringLiteral("000'-00 00/00\"   ");
+constexpr int factorWidth = 12; // average characters
 
 void Enlarge(QLabel* result) {
     QFont font = result->font();
@@ -61,6 +62,7 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     for (DrawingView* drawing : {ui.BeamSketch, ui.LoadPlot})
         drawing->setMinimumSize(leastChars * drawing->fontMetrics().averageCharWidth(),
                                 leastLines * drawing->fontMetrics().lineSpacing());
+    ui.BeamSpanBox->setMinimumWidth(ui.BeamSpanBox->fontMetrics().horizontalAdvance(widestSpan));
     ui.CFactor->setMaximumWidth(factorWidth * ui.CFactor->fontMetrics().averageCharWidth());
     return form;
 }

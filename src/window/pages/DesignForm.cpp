@@ -18,7 +18,7 @@ namespace {
 constexpr int remarkLines = 4;
 const QString widestResult = QStringLiteral("** 000.00000   ");
 constexpr int remarkWidth = 30; // average characters
-constexpr int drawingWidth = 40, drawingLines = 14;
+constexpr int drawingWidth = 34, drawingLines = 14;
 
 // A small grid shows whole.
 void Show_Whole(GridView* view) {

@@ -9,6 +9,7 @@
 #include "window/pages/BrowseForm.h"
 #include "window/pages/DesignForm.h"
 #include "window/pages/FindForm.h"
+#include "window/pages/RemarkLegend.h"
 #include "window/pages/TravelKeys.h"
 #include "window/pages/ViewForm.h"
 
@@ -112,6 +113,7 @@ ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form)
     Bind(ui.mnuReadOut, form.mnuReadOut);
     Bind(ui.mnuAbout, form.mnuAbout);
     Bind(ui.mnuGuide, form.mnuGuide);
+    connect(ui.mnuRemarks, &QAction::triggered, this, [this] { RemarkLegend(this).exec(); });
     new MenuKeys(*this);
     Restore_Place();
 }

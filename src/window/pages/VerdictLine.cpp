@@ -1,9 +1,11 @@
 #include "window/pages/VerdictLine.h"
 
+#include "window/FocusFrame.h"
 #include "window/Link.h"
 #include "window/RemarkLook.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 
 namespace Tensarix {
 
@@ -17,10 +19,35 @@ constexpr int mostShown = 200; // more can't be read in two lines
 VerdictLine::VerdictLine(QWidget* parent) : QTextBrowser(parent) {
     setOpenLinks(false);
     setTabChangesFocus(true);
-    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& row) {
-        if (verdicts_ && verdicts_->OnChoose)
-            verdicts_->OnChoose(row.toString().toInt());
-    });
+    connect(this, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& row) { Choose(row.toString().toInt()); });
+}
+
+void VerdictLine::Choose(int row) {
+    chosen_ = row;
+    if (verdicts_ && verdicts_->OnChoose)
+        verdicts_->OnChoose(row);
+}
+
+bool VerdictLine::event(QEvent* event) {
+    const bool handled = QTextBrowser::event(event);
+    Show_Focus(*this, *event);
+    return handled;
+}
+
+void VerdictLine::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || !verdicts_ || verdicts_->Rows().empty()) {
+        QTextBrowser::keyPressEvent(event);
+        return;
+    }
+    const auto& rows = verdicts_->Rows();
+    const auto next = rows.upper_bound(chosen_);
+    Choose(next == rows.end() ? rows.begin()->first : next->first);
+}
+
+bool VerdictLine::focusNextPrevChild(bool next) {
+    return QWidget::focusNextPrevChild(next);
 }
 
 void VerdictLine::Show_Verdicts(RowVerdicts& verdicts) {
