@@ -1,6 +1,7 @@
 // The machine as the tests have it: it records what was asked of it and answers as it was told.
 #pragma once
 
+#include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "platform/Machine.h"
 
@@ -156,6 +157,16 @@ class FreshFolder {
 
     std::filesystem::path Path;
 };
+
+// Chooses the item of that text, which there must be.
+inline void Select_Item(ComboBox& list, const std::string& text) {
+    int at = list.Count() - 1;
+    while (at >= 0 && list.Item(at) != text)
+        --at;
+    if (at < 0)
+        throw std::runtime_error("no item " + text);
+    list.Select(at);
+}
 
 // All of it, with the built store as the program's, and no data files.
 struct TestMachine {

@@ -32,10 +32,7 @@ class BeamPageTest : public testing::Test {
     }
     void Choose(int family, const std::string& size) {
         page->zShapeType.Select(family);
-        for (int i = 0; i < page->zShapeSizeUS.Count(); ++i)
-            if (page->zShapeSizeUS.Item(i) == size)
-                page->zShapeSizeUS.Select(i);
-        ASSERT_EQ(page->zShapeSizeUS.Text(), size);
+        Select_Item(page->zShapeSizeUS, size);
     }
     // The three results, as they stand.
     Texts Results() const {
@@ -420,25 +417,4 @@ TEST_F(BeamPageTest, WhatToUseAndWhatIsLeftUnsaid) {
     page->AppliedCode.Select(Code9thEdition); // 76 x 7.5 / sqrt(50) = 80.6 in.
     EXPECT_TRUE(page->LoadNotes.Caption().starts_with(
         "Holds where the compression flange is braced at least every 6'-8 5/8\"\nDeflection"));
-}
-
-TEST_F(BeamPageTest, WhatIsSpoken) {
-    BeamPage& p = Start();
-    p.zShapeType.Select(1);
-    p.zShapeFlex.Move_To(2, 1);
-    EXPECT_TRUE(machine.Speech.Spoken.empty());
-    desk->ReadOut = true;
-    p.zShapeType.Select(0);
-    p.zShapeFlex.Move_To(3, 1);
-    p.zShapeFlex.Move_To(11, 1);
-    p.FyBox.Select(1);
-    p.AppliedCode.Select(Code13thEdition); // silent, though the yield strength changes back
-    p.BeamSpanBox.Set_Text("12'-6 3/8");
-    p.BeamSpanBox.OnKeyDown(Keys::Enter);
-    p.BeamSpanBox.Set_Text("x");
-    p.BeamSpanBox.OnKeyDown(Keys::Tab);
-    EXPECT_EQ(machine.Speech.Spoken,
-              (Texts{"W-Shape", "d = 44 INCHES", "BF OVER 2 TF = 4.5 ", "36K S I",
-                     "Twelve Feet and Six and Three-Eights Inches"}));
-    EXPECT_TRUE(desk->ReadOut);
 }

@@ -35,26 +35,6 @@ TEST(ComboBox, TypedTextIsNoPosition) {
     EXPECT_EQ(changes, 2);
 }
 
-// Two lists that set each other come to rest.
-TEST(ComboBox, TwoListsKeepInStep) {
-    ComboBox us, si;
-    for (const char* item : {"a", "b", "c"}) {
-        us.Add(item);
-        si.Add(item);
-    }
-    int work = 0;
-    us.OnChange = [&] {
-        si.Select(us.ListIndex());
-        ++work;
-    };
-    si.OnChange = [&] { us.Select(si.ListIndex()); };
-    si.Select(2);
-    EXPECT_EQ(us.ListIndex(), 2);
-    us.Select(0);
-    EXPECT_EQ(si.ListIndex(), 0);
-    EXPECT_EQ(work, 2);
-}
-
 TEST(ComboBox, ATypedBeginningFindsTheNearestDesignation) {
     ComboBox combo;
     for (const char* item : {"W18x311", "W18x55", "W18x50", "W12x305", "W12x30", "W12x26"})

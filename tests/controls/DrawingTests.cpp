@@ -1,18 +1,13 @@
 // How drawings are laid out: nothing over anything, everything inside, to scale.
-#include "controls/DrawingLayout.h"
-
-#include <gtest/gtest.h>
+#include "LaidOut.h"
 
 #include <cmath>
 
 using namespace Tensarix;
 using namespace Tensarix::Drawn;
+using namespace Tensarix::Tests;
 
 namespace {
-
-Size Seven_By_Fifteen(const std::string& words) {
-    return {7.0 * static_cast<double>(words.size()), 15};
-}
 
 // A plate of 10 x 20 with a dimension on every side and inside it.
 Drawing Plate() {
@@ -32,12 +27,7 @@ Drawing Plate() {
 void Expect_In_Order(const Layout& layout, Size view) {
     const Box whole{0, 0, view.Width, view.Height};
     EXPECT_TRUE(layout.LeftOut.empty());
-    for (std::size_t i = 0; i < layout.Texts.size(); ++i) {
-        EXPECT_TRUE(whole.Contains(layout.Texts[i].Place)) << layout.Texts[i].Words;
-        for (std::size_t j = 0; j < i; ++j)
-            EXPECT_FALSE(layout.Texts[i].Place.Overlaps(layout.Texts[j].Place))
-                << layout.Texts[i].Words << " and " << layout.Texts[j].Words;
-    }
+    Expect_Texts_Apart(layout, view);
     for (const Stroke& stroke : layout.Strokes)
         for (const Point& point : stroke.Points)
             EXPECT_TRUE(whole.Contains({point.X, point.Y, point.X, point.Y}));
@@ -54,7 +44,7 @@ const Text* Text_Of(const Layout& layout, const std::string& name) {
 
 TEST(DrawingTest, FitsAndStaysToScaleInViewsOfAnyShape) {
     for (const Size view : {Size{330, 330}, Size{800, 300}, Size{260, 700}, Size{1600, 900}}) {
-        const Layout layout = Lay_Out(Plate(), view, Seven_By_Fifteen);
+        const Layout layout = Laid_Out(Plate(), view);
         Expect_In_Order(layout, view);
         EXPECT_EQ(layout.XScale, layout.YScale);
         const Stroke& edge = layout.Strokes.front();
@@ -67,19 +57,19 @@ TEST(DrawingTest, FitsAndStaysToScaleInViewsOfAnyShape) {
 }
 
 TEST(DrawingTest, WhereRoomIsShortTheValuesGoAndThenTheLastDimensions) {
-    EXPECT_EQ(Text_Of(Lay_Out(Plate(), {400, 400}, Seven_By_Fifteen), "d")->Words, "d = 20.00");
-    const Layout small = Lay_Out(Plate(), {150, 190}, Seven_By_Fifteen);
+    EXPECT_EQ(Text_Of(Laid_Out(Plate(), {400, 400}), "d")->Words, "d = 20.00");
+    const Layout small = Laid_Out(Plate(), {150, 190});
     Expect_In_Order(small, {150, 190});
     EXPECT_EQ(Text_Of(small, "d")->Words, "d");
     EXPECT_FALSE(small.Values);
-    const Layout tiny = Lay_Out(Plate(), {60, 70}, Seven_By_Fifteen);
+    const Layout tiny = Laid_Out(Plate(), {60, 70});
     EXPECT_EQ(Text_Of(tiny, "tw"), nullptr);
     for (const Text& text : tiny.Texts)
         EXPECT_TRUE((Box{0, 0, 60, 70}.Contains(text.Place))) << text.Words;
 }
 
 TEST(DrawingTest, PointingFindsTheDimensionByItsTextAndByItsLine) {
-    const Layout layout = Lay_Out(Plate(), {400, 400}, Seven_By_Fifteen);
+    const Layout layout = Laid_Out(Plate(), {400, 400});
     const Box& place = Text_Of(layout, "b")->Place;
     EXPECT_EQ(Name_At(layout, {place.Left + 1, place.Top + 1}, 4), "b");
     const Point onEdge = layout.In_View({7, 0});
@@ -92,7 +82,7 @@ TEST(DrawingTest, TheScaleBarHasARoundLength) {
         Drawing square;
         square.Add(Outline{{{{{0, 0}}, {{size, 0}}, {{size, size}}, {{0, size}}}}});
         square.ScaleUnit = "mm";
-        const Layout layout = Lay_Out(square, {400, 400}, Seven_By_Fifteen);
+        const Layout layout = Laid_Out(square, {400, 400});
         const std::string& words = layout.Texts.back().Words;
         const double length = std::stod(words);
         EXPECT_EQ(words.substr(words.size() - 3), " mm");
@@ -125,13 +115,8 @@ TEST(DrawingTest, APlotHasRoundNumbersAndItsCurvesInsideItsFrame) {
     plot.Add(curve, Ink::Force, "LRFD");
     plot.Add(Mark{{20, 10}, MarkKind::Dot, "w = 10.00"}, Ink::Result, "now");
     const Size view{420, 260};
-    const Layout layout = Lay_Out(plot, view, Seven_By_Fifteen);
-    Box whole{0, 0, view.Width, view.Height};
-    for (const Text& text : layout.Texts) {
-        EXPECT_TRUE(whole.Contains(text.Place)) << text.Words;
-        for (const Text& other : layout.Texts)
-            EXPECT_TRUE(&text == &other || !text.Place.Overlaps(other.Place)) << text.Words;
-    }
+    const Layout layout = Laid_Out(plot, view);
+    Expect_Texts_Apart(layout, view);
     ASSERT_TRUE(layout.Plot);
     EXPECT_TRUE(layout.Plot->Contains(Text_Of(layout, "now")->Place));
     EXPECT_NEAR(layout.In_View({37, 128}).X, layout.Plot->Right, 1e-9);

@@ -127,38 +127,25 @@ TEST(FeetInchFormatting, TextsInWords) {
     const struct {
         const char *Text, *Spoken;
     } cases[] = {
-        {"5'", "Five Feet"},
-        {"1'", "One Foot"},
-        {"-5'", "(Five Feet)"},
+        // clang-format off
+        {"5'", "Five Feet"}, {"1'", "One Foot"}, {"-5'", "(Five Feet)"},
         {"5''''", "*ERROR*"}, // all but the last mark should be a number
-        {"5'x", "*ERROR*"},
-        {"6\"x", "*ERROR*"},
-        {"6.5\"", "Six Inches"},
-        {"1\"", "One Inch"},
-        {"6\"", "Six Inches"},
-        {"3/8\"", "Three-Eights Inch"},
-        {"1 1/2\"", "One and One-Half Inch"},
-        {"4 3/8\"", "Four and Three-Eights Inches"},
-        {"12'-6\"", "Twelve Feet and Six Inches"},
-        {"12'-0\"", "Twelve Feet and  Inch"},
-        {"12'-3/8\"", "Twelve Feet and Three-Eights Inch"},
+        {"5'x", "*ERROR*"}, {"6\"x", "*ERROR*"}, {"6.5\"", "Six Inches"}, {"1\"", "One Inch"},
+        {"6\"", "Six Inches"}, {"3/8\"", "Three-Eights Inch"}, {"1 1/2\"", "One and One-Half Inch"},
+        {"4 3/8\"", "Four and Three-Eights Inches"}, {"12'-6\"", "Twelve Feet and Six Inches"},
+        {"12'-0\"", "Twelve Feet and  Inch"}, {"12'-3/8\"", "Twelve Feet and Three-Eights Inch"},
         {"1'-4 3/8\"", "One Foot and Four and Three-Eights Inches"},
         {"2'-1 15/16\"", "Two Feet and One and Fifteen-Sixteenths Inch"},
         {"-1'-4 3/8\"", "(One Foot and Four and Three-Eights Inches)"},
         // forms without an inch mark, and what is no length
-        {"6", "*ERROR*"},
-        {"5'-6", "*ERROR*"},
-        {"5'6\"", "*ERROR*"},
-        {"", "*ERROR*"},
+        {"6", "*ERROR*"}, {"5'-6", "*ERROR*"}, {"5'6\"", "*ERROR*"}, {"", "*ERROR*"},
         {"-", "*ERROR*"},
         // a blank without a fraction behind it
-        {"6 \"", "*ERROR*"},
-        {"5' -6\"", "*ERROR*"},
-        {"5' -6 1/2\"", "*ERROR*"},
+        {"6 \"", "*ERROR*"},   {"5' -6\"", "*ERROR*"}, {"5' -6 1/2\"", "*ERROR*"},
         {"1/2\" ", "*ERROR*"},
         // pieces beyond 16 bits
-        {"40000'", "*ERROR*"},
-        {"1'-1/40000\"", "*ERROR*"},
+        {"40000'", "*ERROR*"}, {"1'-1/40000\"", "*ERROR*"},
+        // clang-format on
     };
     for (const auto& c : cases)
         EXPECT_EQ(FeetInch_Text_To_Words(c.Text), c.Spoken) << c.Text;

@@ -11,41 +11,17 @@ TEST(FeetInchParsing, LengthsInFeet) {
         const char* Text;
         double Inches;
     } cases[] = {
-        {"6", 6},
-        {"6\"", 6},
-        {"6 \"", 6},
-        {".5", .5},
-        {"5.\"", 5},
-        {"1/2", .5},
-        {"1/2\"", .5},
-        {"6 1/2", 6.5},
-        {"6 1/2\"", 6.5},
-        {"5'", 60},
-        {"5.5'", 66},
-        {" 5'", 60},
-        {"5'-6", 66},
-        {"5'-6\"", 66},
-        {"5' -6\"", 66},
-        {"5'-6 1/2", 66.5},
-        {"5'-6 1/2\"", 66.5},
-        {"5'-6 1/2 ", 66.5},
-        {"5'-14\"", 74},
-        {"5'-6.25\"", 66.25},
-        {"12'-3/8\"", 144.375},
-        {"0'-0\"", 0},
-        {"-5'-6\"", -66},
-        {"-1/2", -.5},
+        // clang-format off
+        {"6", 6}, {"6\"", 6}, {"6 \"", 6}, {".5", .5}, {"5.\"", 5}, {"1/2", .5}, {"1/2\"", .5},
+        {"6 1/2", 6.5}, {"6 1/2\"", 6.5}, {"5'", 60}, {"5.5'", 66}, {" 5'", 60}, {"5'-6", 66},
+        {"5'-6\"", 66}, {"5' -6\"", 66}, {"5'-6 1/2", 66.5}, {"5'-6 1/2\"", 66.5},
+        {"5'-6 1/2 ", 66.5}, {"5'-14\"", 74}, {"5'-6.25\"", 66.25}, {"12'-3/8\"", 144.375},
+        {"0'-0\"", 0}, {"-5'-6\"", -66}, {"-1/2", -.5},
         // what stands behind a foot mark, or behind a blank without a slash, is dropped
-        {"5'6", 60},
-        {"5''''", 60},
-        {"5 6", 5},
-        {"5 x", 5},
-        {"5 \xC3\xA9", 5},
+        {"5'6", 60}, {"5''''", 60}, {"5 6", 5}, {"5 x", 5}, {"5 \xC3\xA9", 5},
         // the classifier trims and drops a dash of its own, the readers don't
-        {" 5", 0},
-        {" 6 1/2", 30.5},
-        {"--5", 5},
-        {"--5'-6", 55},
+        {" 5", 0}, {" 6 1/2", 30.5}, {"--5", 5}, {"--5'-6", 55},
+        // clang-format on
     };
     for (const auto& c : cases) {
         const auto feet = Feet_Of(c.Text);
@@ -56,15 +32,8 @@ TEST(FeetInchParsing, LengthsInFeet) {
 
 TEST(FeetInchParsing, TextsThatAreNoLength) {
     const std::string_view texts[] = {
-        "",
-        " ",
-        "-",
-        ".",
-        "'",
-        "\"",
-        "abc",
-        "5'-",
-        "5'-\"",
+        // clang-format off
+        "", " ", "-", ".", "'", "\"", "abc", "5'-", "5'-\"",
         "5'6\"",     // the dash is compulsory
         "5-6",       // and so is the foot mark
         "5-6\"",     //
@@ -87,13 +56,8 @@ TEST(FeetInchParsing, TextsThatAreNoLength) {
         "1/0\"",     // a division by zero
         "0/0\"",     //
         "5'-6 1/0",  //
-        "1e300/1e-300",
-        "1e999",
-        "x'-6\"",
-        "5'-x\"",
-        "5,5",
-        std::string_view("5\0", 2),
-        "\xFF\xFE",
+        "1e300/1e-300", "1e999", "x'-6\"", "5'-x\"", "5,5", std::string_view("5\0", 2), "\xFF\xFE",
+        // clang-format on
     };
     for (const auto text : texts) {
         EXPECT_FALSE(Feet_Of(text).has_value()) << text;

@@ -40,16 +40,15 @@ TEST(NumberWords, UnitNames) {
         double Value;
         const char *Unit1, *Unit2, *Words;
     } cases[] = {
+        // clang-format off
         {1.25, "Dollar", "Cent", "One Dollar And Twenty Five Cents"},
         {2, " Dollar ", "Cent", "Two Dollars "},
         {2.01, "Dollar", "Cent", "Two Dollars And One Cent"},
-        {0.25, "Dollar", "Cent", " Twenty Five Cents"},
-        {0, "Dollar", "Cent", " "},
-        {1, "Dollar", "", "One Dollar"},
-        {2.5, "Dollar", " ", "Two Point Fifty Dollars"},
-        {0, "Dollar", "", " "},
-        {1.25, "", "Cent", "One Hundred Twenty Five Cents "},
+        {0.25, "Dollar", "Cent", " Twenty Five Cents"}, {0, "Dollar", "Cent", " "},
+        {1, "Dollar", "", "One Dollar"}, {2.5, "Dollar", " ", "Two Point Fifty Dollars"},
+        {0, "Dollar", "", " "}, {1.25, "", "Cent", "One Hundred Twenty Five Cents "},
         {0.01, "", "Cent", "One Cent "},
+        // clang-format on
     };
     for (const auto& c : cases)
         EXPECT_EQ(Number_To_Words(c.Value, c.Unit1, c.Unit2), c.Words) << c.Value << c.Unit1;

@@ -1,11 +1,10 @@
 // The program that builds the store: the same tables give the same bytes, and a fault in a table is
 // told with its file and line instead of becoming a store.
+#include "StandIns.h"
 #include "common/ReplaceFile.h"
 #include "sections/StoreFormat.h"
 
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <array>
 #include <cstdio>
@@ -17,13 +16,7 @@ namespace {
 
 class BuildSectionStoreTest : public testing::Test {
   protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() / ("tensarix-build-" + std::to_string(getpid()));
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-        fs::copy(TENSARIX_SOURCE_DIR "/data/sections", folder / "data");
-    }
-    void TearDown() override { fs::remove_all(folder); }
+    void SetUp() override { fs::copy(TENSARIX_SOURCE_DIR "/data/sections", folder / "data"); }
 
     // What the program says; "" if the store was built.
     std::string Build() const {
@@ -48,7 +41,8 @@ class BuildSectionStoreTest : public testing::Test {
         ASSERT_TRUE(Replace_File(folder / "data" / file, Bytes(text.begin(), text.end())));
     }
 
-    fs::path folder;
+    Tests::FreshFolder fresh;
+    const fs::path& folder = fresh.Path;
 };
 
 } // namespace

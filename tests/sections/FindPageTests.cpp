@@ -30,15 +30,9 @@ class FindTest : public testing::Test {
         machine.Store.Written.clear();
     }
     void Ask(const std::string& property, const std::string& criterion, const std::string& value) {
-        Choose(page.fPoperty, property);
-        Choose(page.fCriterion, criterion);
+        Select_Item(page.fPoperty, property);
+        Select_Item(page.fCriterion, criterion);
         page.fValue.Set_Text(value);
-    }
-    static void Choose(ComboBox& list, const std::string& text) {
-        for (int i = 0; i < list.Count(); ++i)
-            if (list.Item(i) == text)
-                list.Select(i);
-        ASSERT_EQ(list.Text(), text);
     }
     std::string First() { return page.fShapeFlex.Text(1, 0); }
     Texts Written() { return std::exchange(machine.Store.Written, {}); }
@@ -181,7 +175,7 @@ TEST_F(FindTest, TheNoteFollowsPropertyAndCriterion) {
     EXPECT_NE(page.SearchNote.Caption().find("3.259"), std::string::npos);
     page.fCriterion.Select(1);
     EXPECT_EQ(page.SearchNote.Caption(), "");
-    Choose(page.fPoperty, "Tan Alpha");
+    Select_Item(page.fPoperty, "Tan Alpha");
     EXPECT_EQ(page.SearchNote.Caption(), "The section data have no column for a search by Tan "
                                          "Alpha: every section counts as 0.");
     EXPECT_EQ(page.fValue.Count(), 0);

@@ -32,7 +32,6 @@ const Property& Named(const Layout& layout, std::string_view symbol) {
 constexpr auto us = Profile::US;
 constexpr auto si = Profile::SI;
 constexpr auto decimal = DimensionStyle::Decimal;
-constexpr auto imperial = DimensionStyle::Imperial;
 
 } // namespace
 
@@ -41,44 +40,16 @@ TEST(FormatSiProperty, ShortensToTheDigitsThatFit) {
         double Value;
         const char* Text;
     } cases[] = {
-        {0, "0.00"},
-        {0.4, "0.00"},
-        {416000000, "416x10^6"},
-        {1550000000, "16x10^8"},
-        {12900000000, "1x10^10"},
-        {144000000000000, "144x10^12"},
-        {1030, "1x10^3"},
+        // clang-format off
+        {0, "0.00"}, {0.4, "0.00"}, {416000000, "416x10^6"}, {1550000000, "16x10^8"},
+        {12900000000, "1x10^10"}, {144000000000000, "144x10^12"}, {1030, "1x10^3"},
         {1230, "1230.00  "}, // no whole triple behind the first zero
         {1234, "0.00"},      // no zero at all
-        {-416000000, "0.00"},
-        {20000, "2x10^4"},
-        {108000, "108x10^3"},
-        {6070000, "6x10^6"},
+        {-416000000, "0.00"}, {20000, "2x10^4"}, {108000, "108x10^3"}, {6070000, "6x10^6"},
+        // clang-format on
     };
     for (const auto& c : cases)
         EXPECT_EQ(FormatSiProperty(c.Value), c.Text) << c.Value;
-}
-
-TEST(PropertyTable, KindsUnderBothProfilesAndStyles) {
-    const struct {
-        const char* Section;
-        const Layout& In;
-        const char* Symbol;
-        Profile Units;
-        DimensionStyle Style;
-        const char* Text;
-    } cases[] = {
-        // 13th Edition, Table 1-1: W44x335 d = 44.0, Ix = 31100.
-        {"W44x335", Layouts::W, "d", us, imperial, "3'-8\"  "},
-        {"W44x335", Layouts::W, "d", si, imperial, "1120.00  "},
-        {"W44x335", Layouts::W, "Ix", us, decimal, "31100.00  "},
-        {"W44x335", Layouts::W, "Ix", si, decimal, "1x10^10  "},
-        {"L8x8x1-1/8", Layouts::SAngle, "t", us, imperial, "1 1/8\"  "},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Value_Text(Section(c.Section), Named(c.In, c.Symbol), c.Units, c.Style), c.Text)
-            << c.Section << " " << c.Symbol;
-    EXPECT_THROW(Value_Text(Section("C15x50"), Named(Layouts::C, "k1"), us, decimal), Failure);
 }
 
 TEST(PropertyTable, LostDigitsAreToldWithTheStoredNumber) {

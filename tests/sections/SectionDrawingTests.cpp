@@ -1,4 +1,5 @@
 // The drawn sections against their figures: as thick as the table says, and readable, all 1,973.
+#include "LaidOut.h"
 #include "common/NumberText.h"
 #include "controls/DrawingLayout.h"
 #include "sections/SectionDrawing.h"
@@ -93,22 +94,6 @@ double Length(const Dimension& d) {
     return std::abs(upright ? d.To.Y - d.From.Y : d.To.X - d.From.X);
 }
 
-// What is wrong with a layout: texts outside, over each other, or missing.
-std::string Faults(const Drawn::Layout& layout, Size view) {
-    std::string faults;
-    const Box whole{0, 0, view.Width, view.Height};
-    for (const std::string& name : layout.LeftOut)
-        faults += "no " + name + "; ";
-    for (std::size_t i = 0; i < layout.Texts.size(); ++i) {
-        if (!whole.Contains(layout.Texts[i].Place))
-            faults += layout.Texts[i].Words + " outside; ";
-        for (std::size_t j = 0; j < i; ++j)
-            if (layout.Texts[i].Place.Overlaps(layout.Texts[j].Place))
-                faults += layout.Texts[i].Words + " over " + layout.Texts[j].Words + "; ";
-    }
-    return faults;
-}
-
 } // namespace
 
 // And where it is measured inside the outline there is steel from end to end, and none beyond.
@@ -152,20 +137,14 @@ TEST(SectionDrawingTest, TheOutlineHasTheTabulatedArea) {
 TEST(SectionDrawingTest, TheWeakAxisOfAnAngleIsThatOfItsArea) {
     const Drawing drawing = Of_Name("L8x4x1", 14);
     // Product of inertia about the axis through the centroid: none, if it is a principal one.
-    const auto* axis = [&]() -> const CentreLine* {
-        for (const Part& part : drawing.Parts)
-            if (part.Name == "Tan Alpha")
-                return std::get_if<CentreLine>(&part.What);
-        return nullptr;
-    }();
-    ASSERT_NE(axis, nullptr);
-    const double length = std::hypot(axis->To.X - axis->From.X, axis->To.Y - axis->From.Y);
-    const Point along{(axis->To.X - axis->From.X) / length, (axis->To.Y - axis->From.Y) / length};
+    const CentreLine axis = Tests::Parts_Of<CentreLine>(drawing, "Tan Alpha").at(0);
+    const double length = std::hypot(axis.To.X - axis.From.X, axis.To.Y - axis.From.Y);
+    const Point along{(axis.To.X - axis.From.X) / length, (axis.To.Y - axis.From.Y) / length};
     double along2 = 0, across2 = 0, both = 0;
     for (double x = 0.025; x < 4; x += 0.05)
         for (double y = 0.025; y < 8; y += 0.05)
             if (x < 1 || y < 1) { // the legs alone
-                const double dx = x - axis->From.X, dy = y - axis->From.Y;
+                const double dx = x - axis.From.X, dy = y - axis.From.Y;
                 const double u = dx * along.X + dy * along.Y, v = dx * along.Y - dy * along.X;
                 along2 += v * v, across2 += u * u, both += u * v;
             }
@@ -202,7 +181,9 @@ TEST(SectionDrawingTest, LabelsHaveRoomOfTheirOwnOnEverySection) {
             });
         };
         const Drawn::Layout usual = laid_out(Profile::US, 6.8), large = laid_out(Profile::SI, 9.5);
-        EXPECT_EQ(Faults(usual, view) + Faults(large, view), "") << name;
-        EXPECT_TRUE(usual.Values) << name;
+        SCOPED_TRACE(name);
+        Tests::Expect_Texts_Apart(usual, view);
+        Tests::Expect_Texts_Apart(large, view);
+        EXPECT_TRUE(usual.LeftOut.empty() && large.LeftOut.empty() && usual.Values);
     });
 }

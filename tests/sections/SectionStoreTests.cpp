@@ -86,16 +86,12 @@ bool Read_Everything(const fs::path& folder) {
 
 } // namespace
 
-TEST(SectionQueries, TextsAreExact) {
+TEST(SectionQueries, NamesAreTrimmed) {
     EXPECT_EQ(Query_By_Family(" W "), "SELECT * FROM ShapeTable WHERE TYPE ='W' ORDER BY SEQ");
     EXPECT_EQ(Query_By_US_Label("W44x335 "),
               "SELECT * FROM ShapeTable WHERE AISC_Manual_Label ='W44x335' ORDER BY SEQ");
-    EXPECT_EQ(Query_By_SI_Name("Pipe15STD"),
-              "SELECT * FROM ShapeTable WHERE xIDE_STD_Nomenclature ='Pipe15STD' ORDER BY SEQ");
     EXPECT_EQ(Query_By_SI_Label(" it's"),
               "SELECT * FROM ShapeTable WHERE xAISC_Manual_Label ='it's' ORDER BY SEQ");
-    EXPECT_EQ(Query_Value_List("HSS-Rec", "xIX"),
-              "SELECT * FROM ShapeTable WHERE TYPE ='HSS-Rec' ORDER BY xIX");
 }
 
 TEST_F(SectionStoreTest, RowsAreWalkedInOrder) {
@@ -129,16 +125,6 @@ TEST_F(SectionStoreTest, FieldsAreReadByName) {
     EXPECT_THROW(tube.Number("TYPE"), Failure);
     EXPECT_THROW(tube.Field("TANALPHA"), Failure);
     EXPECT_THROW(tube.Field(""), Failure);
-}
-
-TEST_F(SectionStoreTest, AValueListIsSortedByItsColumn) {
-    SectionRead read = Read(Query_Value_List("L-UnEq", "xIX"));
-    double last = 0;
-    for (SectionRecordset& r = read.Records; !r.At_End(); r.MoveNext()) {
-        EXPECT_GE(r.Number("xIX"), last);
-        last = r.Number("xIX");
-    }
-    EXPECT_EQ(read.Records.RecordCount(), 76u);
 }
 
 TEST_F(SectionStoreTest, NoRowsIsNotClosed) {

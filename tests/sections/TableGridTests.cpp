@@ -13,28 +13,9 @@ namespace {
 
 const std::filesystem::path program = TENSARIX_PROGRAM_DIR;
 
-const Family& Named(std::string_view type) {
-    for (const Family& family : Families)
-        if (family.Type == type)
-            return family;
-    throw std::runtime_error("no such family");
-}
-
-void Fill(FlexGrid& grid, const Family& family, TableVariant variant, const SectionView& view) {
-    if (variant == TableVariant::ViewAll)
-        family.ViewAll(grid, family.Type, view);
-    else
-        family.Find(grid, family.Type, view, true, {"A", ">", 0});
-}
-
-std::string Head(const FlexGrid& grid, int col) {
-    const std::string& text = grid.Text(0, col);
-    return text.substr(0, text.find('\n'));
-}
-
 int Column_Of(const FlexGrid& grid, std::string_view head) {
     for (int col = 2; col < grid.Cols(); ++col)
-        if (Head(grid, col) == head)
+        if (grid.Text(0, col).substr(0, grid.Text(0, col).find('\n')) == head)
             return col;
     return -1;
 }
@@ -45,7 +26,7 @@ int Column_Of(const FlexGrid& grid, std::string_view head) {
 TEST(TableGrid, AChannelWithoutItsSecondValueKeepsTheFirst) {
     const ChangedStore store("UPDATE ShapeTable SET XP = NULL WHERE AISC_Manual_Label = 'C15x50'");
     FlexGrid grid;
-    Fill(grid, Named("C"), TableVariant::ViewAll, {store.Folder});
+    Family_Of_Type("C").ViewAll(grid, "C", {store.Folder});
     EXPECT_EQ(grid.Text(1, 12), "0.799  "); // X
     EXPECT_EQ(grid.Remark(1, 12), EarlierValueRemark);
     EXPECT_EQ(grid.Remark(2, 12), "");
@@ -63,19 +44,19 @@ TEST(TableGrid, SizesAndBlankRows) {
         EXPECT_EQ(grid.Text(1, 0), "");
     }
     // 11 sections leave three blank rows, a family without a store 14.
-    EXPECT_EQ(Named("HP").ViewAll(grid, "HP", {program}), 11);
+    EXPECT_EQ(Family_Of_Type("HP").ViewAll(grid, "HP", {program}), 11);
     EXPECT_EQ(Table_Selection_Text(grid, 11, 2),
               " SELECTION:   HP8x36  [HP200x53]    -->   Wt = 36.00 lb/ft");
     EXPECT_EQ(Table_Selection_Text(grid, 12, 2), " SELECTION:   None");
-    EXPECT_EQ(Named("HP").ViewAll(grid, "HP", {"/nowhere"}), 0);
+    EXPECT_EQ(Family_Of_Type("HP").ViewAll(grid, "HP", {"/nowhere"}), 0);
     EXPECT_EQ(grid.Rows(), 15);
     EXPECT_EQ(grid.Text(1, 0), "");
 }
 
 TEST(TableGrid, WhatACellTellsAndSpeaks) {
     FlexGrid w, angles;
-    Fill(w, Named("W"), TableVariant::ViewAll, {program, Profile::US, DimensionStyle::Imperial});
-    Fill(angles, Named("L-Eq"), TableVariant::ViewAll, {program, Profile::SI});
+    Family_Of_Type("W").ViewAll(w, "W", {program, Profile::US, DimensionStyle::Imperial});
+    Family_Of_Type("L-Eq").ViewAll(angles, "L-Eq", {program, Profile::SI});
     const struct {
         const FlexGrid& Grid;
         const char* Head; // empty: the first column

@@ -34,6 +34,15 @@ const SpokenEvent spokenEvents[] = {
          f.Browse.ShapeFlex.Move_To(3, 1);
      },
      {"d = Three Feet and Eight Inches INCHES :: Overall Depth of Member"}},
+    {"a figure of Browse with a power of ten",
+     [](MainFrm& f) {
+         f.Browse.ShapeType.Select(13);
+         f.Browse.ProfileOption2.Select();
+         f.Browse.ShapeFlex.Move_To(13, 1);
+     },
+     {"", "Angle Equal Legs",
+      "I X = 41 :: TIMES 10 TO THE POWER 6 MM TO THE POWER 4 :: Moment of Inertia about the "
+      "x-axis"}},
     {"a family with parentheses",
      [](MainFrm& f) { f.Browse.ShapeType.Select(15); },
      {"", "Double Angle Equal Legs"}},
@@ -55,6 +64,15 @@ const SpokenEvent spokenEvents[] = {
     {"a row of the beam page",
      [](MainFrm& f) { f.Beam.zShapeFlex.Move_To(3, 1); },
      {"d = 44 INCHES"}},
+    {"a ratio of the beam page",
+     [](MainFrm& f) { f.Beam.zShapeFlex.Move_To(11, 1); },
+     {"BF OVER 2 TF = 4.5 "}},
+    {"the code of the beam page changes the yield strength back",
+     [](MainFrm& f) {
+         f.Beam.FyBox.Select(1);
+         f.Beam.AppliedCode.Select(Code13thEdition);
+     },
+     {"36K S I"}},
     {"a family of the beam page", [](MainFrm& f) { f.Beam.zShapeType.Select(3); }, {"S-Shape"}},
     {"another yield strength", [](MainFrm& f) { f.Beam.FyBox.Select(1); }, {"36K S I"}},
     {"a valid span and Enter",
