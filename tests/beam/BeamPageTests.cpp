@@ -294,12 +294,9 @@ TEST_F(BeamPageTest, TheGridOfEachFamily) {
     // rx of the channels is the SI figure under a US unit; a remark tells it.
     const std::string c =
         w + k + "x X in,e0 EO in,xp XP in," + Replace_All(axes, "rx RX", "rx xRX") + "ro RO in,H H";
-    const std::string rows[] = {w + k + ratios + axes + warping,
-                                w + k + ratios + axes + warping,
-                                w + k + ratios + axes + warping,
-                                w + "k KDES in,T D-2KDET in," + ratios + axes + warping,
-                                c,
-                                c};
+    const std::string i = w + k + ratios + axes + warping;
+    const std::string s = w + "k KDES in,T D-2KDET in," + ratios + axes + warping;
+    const std::string rows[] = {i, i, i, s, c, c};
     const NumberedStore store;
     machine.Host.Places.Program = store.Folder;
     FlexGrid& grid = Start().zShapeFlex;

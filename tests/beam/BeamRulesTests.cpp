@@ -163,10 +163,7 @@ TEST(BeamRules, WholeRules) {
     firm.h_tw = 70;
     BeamSection wide = w6x15;
     wide.bf_2tf = 14;
-    const struct {
-        const char* Name;
-        double Reaction, Expected;
-    } cases[] = {
+    const std::tuple<const char*, double, double> cases[] = {
         // 0.79 - 0.002 x 11.5 sqrt(50) = 0.62737 of 50 x 9.72 / 12 = 40.5, over 20 ft / 4
         {"9th, noncompact", Whole_Rules_9th(w6x15, 50, 20).EndReactionKips, 5.08168},
         {"9th, slender", Whole_Rules_9th(wide, 50, 20).EndReactionKips, 4.86},
@@ -182,8 +179,8 @@ TEST(BeamRules, WholeRules) {
         {"13th, channel", Whole_Rules_13th(w14x99, 50, 1, DesignMethod::LRFD, true).EndReactionKips,
          185.949},
     };
-    for (const auto& c : cases)
-        EXPECT_NEAR(c.Reaction, c.Expected, 1e-4 * c.Expected) << c.Name;
+    for (const auto& [name, reaction, expected] : cases)
+        EXPECT_NEAR(reaction, expected, 1e-4 * expected) << name;
     // A stocky I-shape, compact, loses nothing.
     const BeamLoad page = Beam_Load_13th({w14x99, 36, 30.0, 0}, DesignMethod::ASD);
     const BeamLoad whole = Whole_Rules_13th(w14x99, 36, 30, DesignMethod::ASD, false);

@@ -10,11 +10,7 @@
 using namespace Tensarix;
 
 TEST(NumberText, PatternsRoundTheFifteenDigitTextHalfAwayFromZero) {
-    const struct {
-        double Value;
-        const char* Pattern;
-        const char* Text;
-    } cases[] = {
+    const std::tuple<double, const char*, const char*> cases[] = {
         // clang-format off
         {12.5, "0.00##  ", "12.50  "},       {12.34565, "0.00##  ", "12.3457  "},
         {0.00004, "0.00##  ", "0.00  "},     {-0.00004, "0.00##  ", "0.00  "},
@@ -29,15 +25,12 @@ TEST(NumberText, PatternsRoundTheFifteenDigitTextHalfAwayFromZero) {
         {0, "0.00E+00", "0.00E+00"}, {13, "0.", "13."}, {0.5, "#.0", ".5"},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Format_Number(c.Value, c.Pattern), c.Text) << c.Value << " " << c.Pattern;
+    for (const auto& [value, pattern, text] : cases)
+        EXPECT_EQ(Format_Number(value, pattern), text) << value << " " << pattern;
 }
 
 TEST(NumberText, GeneralText) {
-    const struct {
-        double Value;
-        const char* Text;
-    } cases[] = {
+    const std::pair<double, const char*> cases[] = {
         // clang-format off
         {0, "0"}, {-0.0, "0"}, {0.1 + 0.2, "0.3"}, {25, "25"}, {-7.25, "-7.25"},
         {100000000000000.5, "100000000000001"}, // a tie at the fifteenth digit
@@ -46,8 +39,8 @@ TEST(NumberText, GeneralText) {
         {1.0 / 30, "3.33333333333333E-02"}, {1e300, "1E+300"},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(General_Text(c.Value), c.Text);
+    for (const auto& [value, text] : cases)
+        EXPECT_EQ(General_Text(value), text);
     EXPECT_THROW(General_Text(std::nan("")), Failure);
     EXPECT_THROW(Format_Number(INFINITY, "0.00"), Failure);
 }
@@ -59,14 +52,12 @@ TEST(NumberText, NumericTestAndLeadingValue) {
     for (const char* text : {"", " ", ".", "-", "5x", "1 2", "1e", "e5", "1,000", "1E999",
                              "*ERROR*", "0x10", "inf", "nan"})
         EXPECT_FALSE(Is_Numeric(text)) << text;
-    const struct {
-        const char* Text;
-        double Value;
-    } cases[] = {{"5'-6\"", 5},  {"  50 Ksi", 50}, {"", 0},      {"abc", 0},   {"1 2 3", 123},
-                 {"1.2.3", 1.2}, {"-4e2x", -400},  {"4e", 4},    {".5.", 0.5}, {"- 7", -7},
-                 {"+8", 8},      {"1E-999", 0},    {"0E999", 0}, {"12,5", 12}};
-    for (const auto& c : cases)
-        EXPECT_EQ(Leading_Value(c.Text), c.Value) << c.Text;
+    const std::pair<const char*, double> cases[] = {
+        {"5'-6\"", 5},  {"  50 Ksi", 50}, {"", 0},      {"abc", 0},   {"1 2 3", 123},
+        {"1.2.3", 1.2}, {"-4e2x", -400},  {"4e", 4},    {".5.", 0.5}, {"- 7", -7},
+        {"+8", 8},      {"1E-999", 0},    {"0E999", 0}, {"12,5", 12}};
+    for (const auto& [text, value] : cases)
+        EXPECT_EQ(Leading_Value(text), value) << text;
     EXPECT_THROW(Leading_Value("1E999"), Failure);
     EXPECT_THROW(Text_Number("5x"), Failure);
 }

@@ -124,9 +124,7 @@ TEST(FeetInchFormatting, AnythingThatParsesCanBeFormattedAndParsedAgain) {
 }
 
 TEST(FeetInchFormatting, TextsInWords) {
-    const struct {
-        const char *Text, *Spoken;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         // clang-format off
         {"5'", "Five Feet"}, {"1'", "One Foot"}, {"-5'", "(Five Feet)"},
         {"5''''", "*ERROR*"}, // all but the last mark should be a number
@@ -147,8 +145,8 @@ TEST(FeetInchFormatting, TextsInWords) {
         {"40000'", "*ERROR*"}, {"1'-1/40000\"", "*ERROR*"},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(FeetInch_Text_To_Words(c.Text), c.Spoken) << c.Text;
+    for (const auto& [text, spoken] : cases)
+        EXPECT_EQ(FeetInch_Text_To_Words(text), spoken) << text;
     EXPECT_EQ(FeetInch_Text_To_Words(std::string(40000, '0') + "'"), LengthError);
 }
 

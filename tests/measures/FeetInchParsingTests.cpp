@@ -1,4 +1,5 @@
 #include "measures/FeetInchParsing.h"
+#include "measures/InputFunction.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +8,7 @@
 using namespace Tensarix;
 
 TEST(FeetInchParsing, LengthsInFeet) {
-    const struct {
-        const char* Text;
-        double Inches;
-    } cases[] = {
+    const std::pair<const char*, double> cases[] = {
         // clang-format off
         {"6", 6}, {"6\"", 6}, {"6 \"", 6}, {".5", .5}, {"5.\"", 5}, {"1/2", .5}, {"1/2\"", .5},
         {"6 1/2", 6.5}, {"6 1/2\"", 6.5}, {"5'", 60}, {"5.5'", 66}, {" 5'", 60}, {"5'-6", 66},
@@ -23,10 +21,10 @@ TEST(FeetInchParsing, LengthsInFeet) {
         {" 5", 0}, {" 6 1/2", 30.5}, {"--5", 5}, {"--5'-6", 55},
         // clang-format on
     };
-    for (const auto& c : cases) {
-        const auto feet = Feet_Of(c.Text);
-        ASSERT_TRUE(feet.has_value()) << c.Text;
-        EXPECT_NEAR(*feet * 12, c.Inches, 1e-12) << c.Text;
+    for (const auto& [text, inches] : cases) {
+        const auto feet = Feet_Of(text);
+        ASSERT_TRUE(feet.has_value() && Is_FeetInch(text)) << text;
+        EXPECT_NEAR(*feet * 12, inches, 1e-12) << text;
     }
 }
 
@@ -60,7 +58,7 @@ TEST(FeetInchParsing, TextsThatAreNoLength) {
         // clang-format on
     };
     for (const auto text : texts) {
-        EXPECT_FALSE(Feet_Of(text).has_value()) << text;
+        EXPECT_FALSE(Feet_Of(text).has_value() || Is_FeetInch(text)) << text;
         EXPECT_EQ(Parse_FeetInch(text, "FT"), LengthValue{std::string{LengthError}}) << text;
         EXPECT_EQ(Parse_FeetInch(text, "in"), LengthValue{std::string{LengthError}}) << text;
     }
@@ -75,16 +73,13 @@ TEST(FeetInchParsing, UnitsInEitherCase) {
 }
 
 TEST(FeetInchParsing, FormsTellTheMarksOfWhatIsNotAccepted) {
-    const struct {
-        const char* Text;
-        int Form;
-    } cases[] = {
+    const std::pair<const char*, int> cases[] = {
         {" 6 ", 0},    {"-5'", 1},      {"5-6", 2},    {"5'-6", 3},   {"6\"", 4},
         {"5'6\"", 5},  {"5-6\"", 6},    {"5'-6\"", 7}, {"5-6'", 100}, {"'5-", 100},
         {"\"5'", 100}, {"--5'-6", 100}, {"x'", 100},   {"5'-", 100},  {"5\"'-", 100},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Classify_FeetInch(c.Text), c.Form) << c.Text;
+    for (const auto& [text, form] : cases)
+        EXPECT_EQ(Classify_FeetInch(text), form) << text;
     for (int code = -1; code <= 100; ++code)
         EXPECT_EQ(Is_Form_Accepted(static_cast<std::int16_t>(code)),
                   code == 0 || code == 1 || code == 3 || code == 4 || code == 7)

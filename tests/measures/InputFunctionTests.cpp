@@ -22,11 +22,3 @@ TEST(InputFunction, KeysThatPass) {
         ASSERT_EQ(Filter_Single_Point(key, ""), decimal);
     }
 }
-
-TEST(InputFunction, LengthsAreJudgedAsAWhole) {
-    EXPECT_TRUE(Is_FeetInch("5"));
-    EXPECT_TRUE(Is_FeetInch("5'-6"));
-    EXPECT_FALSE(Is_FeetInch("5'6\""));
-    EXPECT_FALSE(Is_FeetInch("1/0"));
-    EXPECT_FALSE(Is_FeetInch(""));
-}

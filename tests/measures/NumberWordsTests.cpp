@@ -5,10 +5,7 @@
 using namespace Tensarix;
 
 TEST(NumberWords, NumbersWithTheirBlanks) {
-    const struct {
-        double Value;
-        const char* Words;
-    } cases[] = {
+    const std::pair<double, const char*> cases[] = {
         {0, " "},
         {7, "Seven "},
         {13, "Thirteen "},
@@ -29,8 +26,8 @@ TEST(NumberWords, NumbersWithTheirBlanks) {
         {1.005, "One Point One"},
         {1.999, "One "}, // the whole part is cut off, the decimals are rounded
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Number_To_Words(c.Value), c.Words) << c.Value;
+    for (const auto& [value, words] : cases)
+        EXPECT_EQ(Number_To_Words(value), words) << value;
     EXPECT_NO_THROW(Number_To_Words(1.25e300));
     EXPECT_EQ(Group_To_Words("001", 8), " One Infinitillion");
 }
@@ -55,10 +52,7 @@ TEST(NumberWords, UnitNames) {
 }
 
 TEST(NumberWords, Ordinals) {
-    const struct {
-        std::int16_t Denominator, Numerator;
-        const char* Word;
-    } cases[] = {
+    const std::tuple<std::int16_t, std::int16_t, const char*> cases[] = {
         {1, 1, "First"},          {2, 1, "Half"},
         {2, 3, "Halves"},         {3, 2, "Thirds"},
         {8, 1, "Eight"},          {8, 3, "Eights"},
@@ -70,6 +64,6 @@ TEST(NumberWords, Ordinals) {
         {29, 1, "Twenty Ninth"},  {32, 31, "Thirty Seconds"},
         {64, 1, "Sixty Fourth"},  {100, 1, "One Hundredth"},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Ordinal_Words(c.Denominator, c.Numerator), c.Word) << c.Denominator;
+    for (const auto& [denominator, numerator, word] : cases)
+        EXPECT_EQ(Ordinal_Words(denominator, numerator), word) << denominator;
 }

@@ -111,24 +111,18 @@ TEST(FindSearch, PropertiesOfEachFamily) {
     const std::string wt = "Wt, A, d, bf, tw, tf, k, y, yp, bf / 2tf, h / tw, " + beam;
     const std::string l = "Wt, A, d, b, t, kdes, kdet, x, y, eo, xp, yp, Ix, Zx, Sx, rx, Iy, Zy, "
                           "Sy, ry, rz, J, Cw, ro, Tan Alpha, Qs";
+    // clang-format off
     const std::string expected[] = {
-        w,
-        w,
-        w,
-        "Wt, A, d, bf, tw, tf, k, T, bf / 2tf, h / tw, " + beam + ", Wno, Sw, Qf, Qw",
-        c,
-        c,
-        wt,
-        wt,
+        w, w, w, "Wt, A, d, bf, tw, tf, k, T, bf / 2tf, h / tw, " + beam + ", Wno, Sw, Qf, Qw",
+        c, c, wt, wt,
         "Wt, A, d, bf, tw, tf, k, y, yp, bf / 2tf, d / tw, Ix, Zx, Sx, rx, Iy, Zy, Sy, ry, J",
         "Wt, A, Ht, b, tnom, tdes, b / t, h / t, " + beam + ", C",
         "Wt, A, Ht, b, tnom, tdes, b / t, h / t, I, Z, S, r, J, C",
         "Wt, A, OD, tnom, tdes, D / t, I, Z, S, r",
-        "Wt, A, OD, ID, tnom, tdes, D / t, I, Z, S, r, J",
-        l,
-        l,
+        "Wt, A, OD, ID, tnom, tdes, D / t, I, Z, S, r, J", l, l,
         "Wt, A, d, b, t, y, Ix, Zx, Sx, rx, ry, ro, H",
         "Wt, A, d, b, t, y, yp, Ix, Zx, Sx, rx, ry, ro"};
+    // clang-format on
     ComboBox list;
     for (int family = 0; family < 17; ++family) {
         Find_Fill_Property(list, family);
@@ -206,30 +200,19 @@ TEST(FindSearch, EveryListedDepthIsFound) {
 }
 
 TEST(FindSearch, UnitsInTheTablesOfTheManual) {
-    const struct {
-        const char *Property, *US, *SI;
-    } cases[] = {{"Wt", "lb/ft", "Kg/m"},
-                 {"A", "in^2", "mm^2"},
-                 {"T", "in", "mm"},
-                 {"t", "in", "mm"},
-                 {"eo", "in", "mm"},
-                 {"Ix", "in^4", "mm^4/10^6"},
-                 {"Sw", "in^4", "mm^4/10^6"},
-                 {"S", "in^3", "mm^3/10^3"},
-                 {"C", "in^3", "mm^3/10^3"},
-                 {"Qw", "in^3", "mm^3/10^3"},
-                 {"J", "in^4", "mm^4/10^3"},
-                 {"Cw", "in^6", "mm^6/10^9"},
-                 {"Wno", "in^2", "mm^2"},
-                 {"H", "", ""},
-                 {"bf / 2tf", "", ""},
-                 {"Tan Alpha", "", ""},
-                 {"r", "in", "mm"},
-                 {"", "", ""},
-                 {"W", "", ""}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(FindUnitLabel(c.Property, Profile::US), c.US) << c.Property;
-        EXPECT_EQ(FindUnitLabel(c.Property, Profile::SI), c.SI) << c.Property;
+    // clang-format off
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"Wt", "lb/ft", "Kg/m"},       {"A", "in^2", "mm^2"},         {"T", "in", "mm"},
+        {"t", "in", "mm"},             {"eo", "in", "mm"},            {"r", "in", "mm"},
+        {"Ix", "in^4", "mm^4/10^6"},   {"Sw", "in^4", "mm^4/10^6"},   {"S", "in^3", "mm^3/10^3"},
+        {"C", "in^3", "mm^3/10^3"},    {"Qw", "in^3", "mm^3/10^3"},   {"J", "in^4", "mm^4/10^3"},
+        {"Cw", "in^6", "mm^6/10^9"},   {"Wno", "in^2", "mm^2"},       {"H", "", ""},
+        {"bf / 2tf", "", ""},          {"Tan Alpha", "", ""},         {"", "", ""},
+        {"W", "", ""}};
+    // clang-format on
+    for (const auto& [property, us, si] : cases) {
+        EXPECT_EQ(FindUnitLabel(property, Profile::US), us) << property;
+        EXPECT_EQ(FindUnitLabel(property, Profile::SI), si) << property;
     }
 }
 
@@ -296,20 +279,15 @@ TEST(FindSearch, NotesTellWhatASearchCanNotSee) {
         const char *Type, *Property;
         Profile Units;
         const char* Part; // of the note; empty: no note at all
-    } cases[] = {{"L-Eq", "Tan Alpha", Profile::US, "no column"},
-                 {"ST", "d / tw", Profile::US, "no column"},
-                 {"ST", "d / tw", Profile::SI, "no column"},
-                 {"C", "k1", Profile::US, "not tabulated"},
-                 {"HSS-Rec", "Cw", Profile::SI, "not tabulated"},
-                 {"WT", "k", Profile::US, "another figure"},
-                 {"ST", "k", Profile::US, ""},
-                 {"HSS-Sqr", "b", Profile::US, ""},
-                 {"HSS-Rnd", "D / t", Profile::US, ""},
-                 {"W", "T", Profile::US, ""},
-                 {"W", "Ix", Profile::SI, "full mm^4"},
-                 {"W", "Ix", Profile::US, ""},
-                 {"W", "Wno", Profile::SI, ""},
-                 {"W", "Wt", Profile::SI, ""}};
+    } cases[] = {         // clang-format off
+        {"L-Eq", "Tan Alpha", Profile::US, "no column"}, {"ST", "d / tw", Profile::US, "no column"},
+        {"ST", "d / tw", Profile::SI, "no column"},      {"C", "k1", Profile::US, "not tabulated"},
+        {"HSS-Rec", "Cw", Profile::SI, "not tabulated"}, {"WT", "k", Profile::US, "another figure"},
+        {"ST", "k", Profile::US, ""}, {"HSS-Sqr", "b", Profile::US, ""},
+        {"HSS-Rnd", "D / t", Profile::US, ""}, {"W", "T", Profile::US, ""},
+        {"W", "Ix", Profile::SI, "full mm^4"}, {"W", "Ix", Profile::US, ""},
+        {"W", "Wno", Profile::SI, ""}, {"W", "Wt", Profile::SI, ""}};
+    // clang-format on
     for (const auto& c : cases) {
         const Advice advice = Find_Property_Note(c.Type, c.Property, c.Units, program);
         const std::string &note = advice.Text, part = c.Part;

@@ -36,10 +36,7 @@ constexpr auto decimal = DimensionStyle::Decimal;
 } // namespace
 
 TEST(FormatSiProperty, ShortensToTheDigitsThatFit) {
-    const struct {
-        double Value;
-        const char* Text;
-    } cases[] = {
+    const std::pair<double, const char*> cases[] = {
         // clang-format off
         {0, "0.00"}, {0.4, "0.00"}, {416000000, "416x10^6"}, {1550000000, "16x10^8"},
         {12900000000, "1x10^10"}, {144000000000000, "144x10^12"}, {1030, "1x10^3"},
@@ -48,8 +45,8 @@ TEST(FormatSiProperty, ShortensToTheDigitsThatFit) {
         {-416000000, "0.00"}, {20000, "2x10^4"}, {108000, "108x10^3"}, {6070000, "6x10^6"},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(FormatSiProperty(c.Value), c.Text) << c.Value;
+    for (const auto& [value, text] : cases)
+        EXPECT_EQ(FormatSiProperty(value), text) << value;
 }
 
 TEST(PropertyTable, LostDigitsAreToldWithTheStoredNumber) {

@@ -17,22 +17,16 @@ struct SpokenEvent {
     std::vector<std::string> Said;
 };
 
+// clang-format off
 const SpokenEvent spokenEvents[] = {
-    {"a row of Browse",
-     [](MainFrm& f) { f.Browse.ShapeFlex.Move_To(2, 1); },
+    {"a row of Browse", [](MainFrm& f) { f.Browse.ShapeFlex.Move_To(2, 1); },
      {"AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area"}},
-    {"the same row pressed again",
-     [](MainFrm& f) {
-         f.Browse.ShapeFlex.Move_To(2, 2);
-         f.Browse.ShapeFlex.Move_To(2, 3);
-     },
+    {"the same row again",
+     [](MainFrm& f) { f.Browse.ShapeFlex.Move_To(2, 2); f.Browse.ShapeFlex.Move_To(2, 3); },
      {"AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area",
       "AREA = 98.5 SQUARE INCHES :: Cross-Sectional Area"}},
     {"a length of Browse in feet and inches",
-     [](MainFrm& f) {
-         f.Browse.DimOption2.Select();
-         f.Browse.ShapeFlex.Move_To(3, 1);
-     },
+     [](MainFrm& f) { f.Browse.DimOption2.Select(); f.Browse.ShapeFlex.Move_To(3, 1); },
      {"d = Three Feet and Eight Inches INCHES :: Overall Depth of Member"}},
     {"a figure of Browse with a power of ten",
      [](MainFrm& f) {
@@ -40,41 +34,32 @@ const SpokenEvent spokenEvents[] = {
          f.Browse.ProfileOption2.Select();
          f.Browse.ShapeFlex.Move_To(13, 1);
      },
-     {"", "Angle Equal Legs",
-      "I X = 41 :: TIMES 10 TO THE POWER 6 MM TO THE POWER 4 :: Moment of Inertia about the "
-      "x-axis"}},
-    {"a family with parentheses",
-     [](MainFrm& f) { f.Browse.ShapeType.Select(15); },
+     {"", "Angle Equal Legs", "I X = 41 :: TIMES 10 TO THE POWER 6 MM TO THE POWER 4 :: Moment of "
+                              "Inertia about the x-axis"}},
+    {"a family with parentheses", [](MainFrm& f) { f.Browse.ShapeType.Select(15); },
      {"", "Double Angle Equal Legs"}},
     {"another size", [](MainFrm& f) { f.Browse.ShapeSizeUS.Select(5); }, {}},
     {"another profile", [](MainFrm& f) { f.Browse.ProfileOption2.Select(); }, {}},
-    {"a cell of View All with a unit",
-     [](MainFrm& f) { f.ViewAll.xShapeFlex.Move_To(1, 2); },
+    {"a cell of View All with a unit", [](MainFrm& f) { f.ViewAll.xShapeFlex.Move_To(1, 2); },
      {"WEIGHT = 335 POUNDS PER FOOT"}},
-    {"a cell of View All without one",
-     [](MainFrm& f) { f.ViewAll.xShapeFlex.Move_To(1, 13); },
+    {"a cell of View All without one", [](MainFrm& f) { f.ViewAll.xShapeFlex.Move_To(1, 13); },
      {"H OVER T W = 38"}},
-    {"a family of View All",
-     [](MainFrm& f) { f.ViewAll.xShapeType.Select(15); },
+    {"a family of View All", [](MainFrm& f) { f.ViewAll.xShapeType.Select(15); },
      {"", "Double Angle Equal Legs"}},
-    {"a cell of Find before there is a result",
-     [](MainFrm& f) { f.Find.fShapeFlex.Move_To(1, 2); },
-     {}},
+    {"another style of View All", [](MainFrm& f) { f.ViewAll.xDimOption2.Select(); },
+     {"", "W-Shape"}},
+    {"another profile of View All", [](MainFrm& f) { f.ViewAll.xProfileOption2.Select(); }, {}},
+    {"a cell of Find without a result", [](MainFrm& f) { f.Find.fShapeFlex.Move_To(1, 2); }, {}},
     {"a family of Find", [](MainFrm& f) { f.Find.fShapeType.Select(2); }, {"", "HP-Shape"}},
-    {"a row of the beam page",
-     [](MainFrm& f) { f.Beam.zShapeFlex.Move_To(3, 1); },
+    {"another profile of Find", [](MainFrm& f) { f.Find.fProfileOption2.Select(); }, {}},
+    {"a row of the beam page", [](MainFrm& f) { f.Beam.zShapeFlex.Move_To(3, 1); },
      {"d = 44 INCHES"}},
-    {"a ratio of the beam page",
-     [](MainFrm& f) { f.Beam.zShapeFlex.Move_To(11, 1); },
+    {"a ratio of the beam page", [](MainFrm& f) { f.Beam.zShapeFlex.Move_To(11, 1); },
      {"BF OVER 2 TF = 4.5 "}},
-    {"the code of the beam page changes the yield strength back",
-     [](MainFrm& f) {
-         f.Beam.FyBox.Select(1);
-         f.Beam.AppliedCode.Select(Code13thEdition);
-     },
-     {"36K S I"}},
     {"a family of the beam page", [](MainFrm& f) { f.Beam.zShapeType.Select(3); }, {"S-Shape"}},
-    {"another yield strength", [](MainFrm& f) { f.Beam.FyBox.Select(1); }, {"36K S I"}},
+    {"another yield strength, which the code changes back",
+     [](MainFrm& f) { f.Beam.FyBox.Select(1); f.Beam.AppliedCode.Select(Code13thEdition); },
+     {"36K S I"}},
     {"a valid span and Enter",
      [](MainFrm& f) {
          f.Beam.BeamSpanBox.Set_Text("12'-6 3/8");
@@ -87,8 +72,7 @@ const SpokenEvent spokenEvents[] = {
          f.Beam.BeamSpanBox.OnKeyDown(Keys::Tab);
      },
      {}},
-    {"the beam page comes into view",
-     [](MainFrm& f) { f.OptButton[3].Select(); },
+    {"the beam page comes into view", [](MainFrm& f) { f.OptButton[3].Select(); },
      {"", "Allowable Beam Load"}},
     {"another mode", [](MainFrm& f) { f.OptButton[1].Select(); }, {"", "Find Sections"}},
     {"the same mode", [](MainFrm& f) { f.OptButton[0].Select(); }, {}},
@@ -101,6 +85,7 @@ const SpokenEvent spokenEvents[] = {
     {"the window stays above others", [](MainFrm& f) { f.mnuOnTop.Click(); }, {}},
     {"the window closes", [](MainFrm& f) { f.Query_Unload(); }, {""}},
 };
+// clang-format on
 
 class ReadOutTest : public testing::Test {
   protected:

@@ -5,9 +5,7 @@
 using namespace Tensarix;
 
 TEST(Normalisers, Symbols) {
-    const struct {
-        const char *Text, *Spoken;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         // clang-format off
         {"Ix", "I X"}, {" A ", "AREA"}, {"[beta]", "BETA"}, {"h/tw", "H OVER T W"},
         {"h / tw", "H OVER T W"}, {"bf/2tf", "BF OVER 2 TF"}, {"tan alpha", "TANGENT ALPHA"},
@@ -18,14 +16,12 @@ TEST(Normalisers, Symbols) {
         {"5'6\"", "*ERROR*"}, {"", ""},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Speak_Symbol(c.Text), c.Spoken) << c.Text;
+    for (const auto& [text, spoken] : cases)
+        EXPECT_EQ(Speak_Symbol(text), spoken) << text;
 }
 
 TEST(Normalisers, Units) {
-    const struct {
-        const char *Unit, *Value, *Spoken;
-    } cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         // clang-format off
         {"in^2", "1.00", "SQUARE INCH"}, {"in^2", "1.01", "SQUARE INCHES"},
         {"in^2", "0.5", "SQUARE INCH"}, {" lb/ft ", "50", "POUNDS PER FOOT"},
@@ -36,14 +32,12 @@ TEST(Normalisers, Units) {
         {"ksi", "50", ""}, {"", "2", ""},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Speak_Unit(c.Unit, c.Value), c.Spoken) << c.Unit << " " << c.Value;
+    for (const auto& [unit, value, spoken] : cases)
+        EXPECT_EQ(Speak_Unit(unit, value), spoken) << unit << " " << value;
 }
 
 TEST(Normalisers, PhrasesWordByWord) {
-    const struct {
-        const char *Text, *Spoken;
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         // clang-format off
         {"", ""}, {"Ix", "I X"}, {"Depth of a section", "Depth of AREA section"},
         {"Pipe id  and OD ", "Pipe INSIDE DIAMETER  and OUTSIDE DIAMETER "}, {"h / tw", "h / tw"},
@@ -51,6 +45,6 @@ TEST(Normalisers, PhrasesWordByWord) {
         {"bolt 3/4\" dia", "bolt Three-Fourths Inch dia"},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Speak_Phrase(c.Text), c.Spoken) << c.Text;
+    for (const auto& [text, spoken] : cases)
+        EXPECT_EQ(Speak_Phrase(text), spoken) << text;
 }

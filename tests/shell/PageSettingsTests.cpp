@@ -1,4 +1,4 @@
-// Find Sections and View All in the main window: start-up, settings at exit, the count.
+// The pages in the main window: what start, change of mode and exit do to them, the count.
 #include "StandIns.h"
 #include "shell/MainFrm.h"
 #include "shell/NoDialogs.h"
@@ -12,7 +12,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class SearchSettingsTest : public testing::Test {
+class PageSettingsTest : public testing::Test {
   protected:
     TestMachine machine;
     NoDialogs dialogs;
@@ -29,7 +29,7 @@ class SearchSettingsTest : public testing::Test {
 
 } // namespace
 
-TEST_F(SearchSettingsTest, TheSavedSearchComesBack) {
+TEST_F(PageSettingsTest, TheSavedSearchComesBack) {
     machine.Store.Set("fShapeType", "7");
     machine.Store.Set("fPoperty7", "2");
     machine.Store.Set("fCriterion7", "3");
@@ -50,7 +50,7 @@ TEST_F(SearchSettingsTest, TheSavedSearchComesBack) {
     EXPECT_EQ(form.Shared.StatBar.Panel1(), " SELECTION:   None");
 }
 
-TEST_F(SearchSettingsTest, AtExitInTheirOrder) {
+TEST_F(PageSettingsTest, AtExitInTheirOrder) {
     ASSERT_TRUE(form.Load());
     form.Find.fShapeType.Select(3);
     form.Find.fPoperty.Select(1);
@@ -58,17 +58,23 @@ TEST_F(SearchSettingsTest, AtExitInTheirOrder) {
     form.Find.fProfileOption2.Select();
     form.ViewAll.xShapeType.Select(16);
     form.ViewAll.xDimOption2.Select();
+    form.Beam.zShapeSizeUS.Select(7);
+    form.Beam.BeamSpanBox.Set_Text("12'-6\"");
     machine.Store.Written.clear();
     form.Query_Unload();
-    const char* order[] = {"ShapeType=0",   "fShapeType=3",     "xShapeType=16", "ShapeSize0=0",
-                           "fCriterion3=0", "fPoperty3=1",      "fValue3=10",    "ProfileOption=0",
-                           "DimOption=0",   "xProfileOption=0", "xDimOption=1",  "fProfileOption=1",
-                           "fDimOption=0"};
+    const char* order[] = {"ShapeType=0",      "fShapeType=3",  "xShapeType=16",    "ShapeSize0=0",
+                           "zShapeSize0=7",    "fCriterion3=0", "fPoperty3=1",      "fValue3=10",
+                           "ProfileOption=0",  "DimOption=0",   "xProfileOption=0", "xDimOption=1",
+                           "fProfileOption=1", "fDimOption=0",  "BeamSpan=12.5"};
     for (std::size_t i = 1; i < std::size(order); ++i)
         EXPECT_LT(Place(order[i - 1]), Place(order[i])) << order[i];
+    // What is no length is not saved.
+    form.Beam.BeamSpanBox.Set_Text("5'6\"");
+    form.Query_Unload();
+    EXPECT_EQ(machine.Store.Get("BeamSpan"), "12.5");
 }
 
-TEST_F(SearchSettingsTest, TheCountIsThatOfThePageInView) {
+TEST_F(PageSettingsTest, TheCountIsThatOfThePageInView) {
     ASSERT_TRUE(form.Load());
     const StatusBar& bar = form.Shared.StatBar;
     EXPECT_EQ(bar.Count(), "");
@@ -86,4 +92,24 @@ TEST_F(SearchSettingsTest, TheCountIsThatOfThePageInView) {
     EXPECT_EQ(bar.Count(), "");
     form.Find.RunFind();
     EXPECT_EQ(bar.Count(), "");
+}
+
+TEST_F(PageSettingsTest, AHandWrittenFamilyOfTheBeamPageIsHonouredAndNeverWritten) {
+    machine.Store.Set("zShapeType", "4");
+    ASSERT_TRUE(form.Load());
+    EXPECT_EQ(form.Beam.zShapeLab.Caption(), "C-Shape Profile");
+    EXPECT_EQ(form.Shared.StatBar.Panel1(), " SELECTION:   None");
+    form.Beam.zShapeType.Select(5);
+    form.Query_Unload();
+    for (const std::string& line : machine.Store.Written)
+        EXPECT_FALSE(line.starts_with("zShapeType=")) << line;
+}
+
+TEST_F(PageSettingsTest, ShowingTheBeamPageRestoresIt) {
+    ASSERT_TRUE(form.Load());
+    form.Beam.BeamSpanBox.Set_Text("20'");
+    machine.Store.Set("BeamSpan10", "30"); // as if by a second copy of the settings
+    form.OptButton[3].Select();
+    EXPECT_EQ(form.Beam.BeamSpanBox.Text(), "30'-0\"");
+    EXPECT_EQ(form.Shared.StatBar.Panel1(), " SELECTION:   None");
 }
