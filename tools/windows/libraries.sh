@@ -1,0 +1,61 @@
+# shellcheck shell=bash
+# The libraries of the program for Windows, from the sources of Debian's own packages: Qt's base
+# module and SQLite. Sourced by build.sh, which has set what is used here.
+
+# apt asked with the source packages of the archives that this machine uses, beside its own lists.
+apt_source() {
+    apt-get -o Dir::Etc::SourceList="$windows/apt/sources.list" -o Dir::Etc::SourceParts=/dev/null \
+        -o Dir::State::Lists="$windows/apt/lists" "$@"
+}
+
+# fetch_source PACKAGE: unpacks it to $windows/source/PACKAGE.
+fetch_source() {
+    local folder=$windows/source/$1
+    [ ! -d "$folder" ] || return 0
+    say "Fetching the source of $1"
+    mkdir -p "$windows/apt/lists/partial" "$windows/source"
+    apt-get indextargets --format 'deb-src $(REPO_URI) $(CODENAME) $(COMPONENT)' \
+        'Created-By: Packages' 'Origin: Debian' | sort -u >"$windows/apt/sources.list"
+    {
+        apt_source update && cd "$windows/source" && apt_source source --download-only "$1" &&
+            dpkg-source -x "$1"_*.dsc "$folder.new" && mv "$folder.new" "$folder" && cd -
+    } >"$windows/$1.log" 2>&1 || fail "the source of $1 could not be fetched; see $windows/$1.log"
+}
+
+# What a window, its dialogs and a local socket need, and no more.
+build_qt() {
+    [ ! -e "$libraries/lib/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake" ] || return 0
+    fetch_source qt6-base
+    say "Building Qt for Windows: about 15 minutes on two idle cores"
+    local off=() feature
+    # wintab.h, which tablets need, is not in the archive.
+    for feature in tabletevent sql dbus printsupport opengl concurrent testlib_selfcover icu ssl \
+        vulkan openssl; do
+        off+=("-DFEATURE_$feature=OFF")
+    done
+    for feature in system_zlib system_png system_pcre2 system_freetype system_harfbuzz system_jpeg; do
+        off+=("-DFEATURE_$feature=OFF")
+    done
+    {
+        cmake -S "$windows/source/qt6-base" -B "$windows/qt" -G Ninja \
+            -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake" -DCMAKE_BUILD_TYPE=Release \
+            -DCMAKE_INSTALL_PREFIX="$libraries" \
+            -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
+            -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF "${off[@]}" &&
+            cmake --build "$windows/qt" && cmake --install "$windows/qt"
+    } >"$windows/qt.log" 2>&1 || fail "Qt could not be built; see $windows/qt.log"
+}
+
+build_sqlite() {
+    [ ! -e "$libraries/lib/libsqlite3.a" ] || return 0
+    fetch_source sqlite3
+    say "Building SQLite for Windows"
+    mkdir -p "$windows/sqlite" "$libraries/lib" "$libraries/include"
+    {
+        (cd "$windows/sqlite" && "$windows/source/sqlite3/configure" && make sqlite3.c) &&
+            x86_64-w64-mingw32-gcc-posix -O2 -DSQLITE_OMIT_LOAD_EXTENSION -c \
+                "$windows/sqlite/sqlite3.c" -o "$windows/sqlite/sqlite3.o" &&
+            cp "$windows/sqlite/sqlite3.h" "$libraries/include/" &&
+            x86_64-w64-mingw32-ar rcs "$libraries/lib/libsqlite3.a" "$windows/sqlite/sqlite3.o"
+    } >"$windows/sqlite.log" 2>&1 || fail "SQLite could not be built; see $windows/sqlite.log"
+}
