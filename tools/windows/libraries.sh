@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # The libraries of the program for Windows, from the sources of Debian's own packages: Qt's base
-# module and SQLite. Sourced by build.sh, which has set what is used here.
+# module and SQLite. Sourced by build.sh, which has set $windows and $libraries.
+# shellcheck disable=SC2154
 
 # apt asked with the source packages of the archives that this machine uses, beside its own lists.
 apt_source() {
@@ -14,6 +15,7 @@ fetch_source() {
     [ ! -d "$folder" ] || return 0
     say "Fetching the source of $1"
     mkdir -p "$windows/apt/lists/partial" "$windows/source"
+    # shellcheck disable=SC2016 # apt's own variables
     apt-get indextargets --format 'deb-src $(REPO_URI) $(CODENAME) $(COMPONENT)' \
         'Created-By: Packages' 'Origin: Debian' | sort -u >"$windows/apt/sources.list"
     {
