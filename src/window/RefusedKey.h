@@ -13,9 +13,10 @@ inline std::function<void(const std::string& answer)> AnswerRefusedKey;
 inline void Answer_Refused_Key(int character) {
     if (!AnswerRefusedKey || character <= Keys::Blank || character > '~')
         return;
-    AnswerRefusedKey(character == ','
-                         ? "Type the decimal point as ."
-                         : std::string{"No place here for "} + static_cast<char>(character));
+    if (character == ',')
+        AnswerRefusedKey("Type the decimal point as .");
+    else
+        AnswerRefusedKey(std::string{"No place here for "} + static_cast<char>(character));
 }
 
 } // namespace Tensarix

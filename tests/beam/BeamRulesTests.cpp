@@ -122,7 +122,8 @@ TEST(PublishedStrengths, AreThoseOfTheRules) {
         std::string section, yield, quantity, unit, printed;
         for (std::string* field : {&section, &yield, &quantity, &unit, &printed})
             std::getline(in, *field, ',');
-        const bool channel = section[0] == 'C', shear = quantity.find('V') != std::string::npos;
+        const bool channel = section.starts_with('C'),
+                   shear = quantity.find('V') != std::string::npos;
         const DesignMethod method =
             quantity.starts_with("phi") ? DesignMethod::LRFD : DesignMethod::ASD;
         const BeamSection shape = Printed_Section(channel ? "C" : "W", section);

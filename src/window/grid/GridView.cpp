@@ -301,10 +301,12 @@ void GridView::Widen_Columns() {
     fitted_ = grid_->Texts_Version();
     bool wider = false;
     for (int col = 0; col < grid_->Cols(); ++col) {
-        QTableView& pane = col < grid_->FixedCols() ? *frozen_ : *this;
+        QTableView* pane = this;
+        if (col < grid_->FixedCols())
+            pane = frozen_;
         const int width = Column_Pixels(col);
-        if (pane.columnWidth(col) < width) {
-            pane.setColumnWidth(col, width);
+        if (pane->columnWidth(col) < width) {
+            pane->setColumnWidth(col, width);
             wider = true;
         }
     }
