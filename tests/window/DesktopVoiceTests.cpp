@@ -13,8 +13,8 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-constexpr int patienceMs = 60000;    // for what takes well under a second on a free machine
-constexpr int moreThanEver = 200000; // words that nobody has spoken before that is over
+constexpr int patienceMs = 60000;   // for what takes well under a second on a free machine
+constexpr int moreThanEver = 50000; // words that nobody has spoken before that is over
 
 void Write_File(const QString& path, const char* text) {
     QDir().mkpath(QFileInfo(path).path());

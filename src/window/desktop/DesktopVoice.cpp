@@ -179,6 +179,7 @@ void DesktopVoice::Lost() {
     awaited_ = Awaited::Nothing;
     due_.clear();
     said_.clear();
+    early_.clear();
     read_.clear();
     before_.clear();
     if (spoke)
@@ -246,6 +247,8 @@ void DesktopVoice::Answered(bool well, const Lines& before) {
     else if (answered == Awaited::Id && well && !silence_ && !before.empty())
         said_.push_back(
             {std::move(sending_.Marked), std::move(sending_.Words), before.front().toInt()});
+    for (const auto& [code, lines] : std::exchange(early_, {}))
+        Told(code, lines);
     Send_Next();
 }
 
@@ -254,10 +257,19 @@ void DesktopVoice::Told(int code, const Lines& before) {
     if (before.empty())
         return;
     const int id = before[0].toInt();
+    if (awaited_ == Awaited::Id && !Is_Said(id)) {
+        early_.emplace_back(code, before);
+        return;
+    }
     if (code == textEnded || code == textCancelled)
         Ended(id);
     else if (code == markReached && before.size() > 2)
         Reached(id, before[2]);
+}
+
+bool DesktopVoice::Is_Said(int id) const {
+    return std::any_of(said_.begin(), said_.end(),
+                       [id](const Utterance& one) { return one.Id == id; });
 }
 
 void DesktopVoice::Reached(int id, const QByteArray& mark) {

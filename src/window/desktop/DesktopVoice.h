@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <deque>
+#include <utility>
 #include <vector>
 
 namespace Tensarix {
@@ -55,6 +56,7 @@ class DesktopVoice final : public Voice {
     void Reached(int id, const QByteArray& mark);
     void Ended(int id);
     bool Is_Busy() const;
+    bool Is_Said(int id) const;
 
     QLocalSocket socket_;
     QTimer turn_;  // runs out with the turn of the event loop in which a text came
@@ -68,9 +70,10 @@ class DesktopVoice final : public Voice {
     bool silence_ = false;        // the service has to drop what it holds
 
     Awaited awaited_ = Awaited::Nothing;
-    int setting_ = 0; // the next one to be sent
-    QByteArray read_; // an unfinished line
-    Lines before_;    // the lines of an answer before its last one
+    int setting_ = 0;                          // the next one to be sent
+    QByteArray read_;                          // an unfinished line
+    Lines before_;                             // the lines of an answer before its last one
+    std::vector<std::pair<int, Lines>> early_; // notices of a text whose id has not come yet
 };
 
 } // namespace Tensarix
