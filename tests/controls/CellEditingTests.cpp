@@ -96,8 +96,7 @@ TEST(CellEditing, WhatOpensTheEditorAndWithWhichText) {
         Sheet sheet;
         sheet.Grid.Set_Text(2, 2, "5'-6\"     ");
         c.Act(sheet);
-        EXPECT_TRUE(sheet.Box.Visible());
-        EXPECT_TRUE(sheet.Box.Focus.Has());
+        EXPECT_TRUE(sheet.Box.Visible() && sheet.Box.Focus.Has());
         EXPECT_EQ(sheet.Box.Text(), c.Text);
         EXPECT_EQ(sheet.Box.SelStart(), c.Caret);
         EXPECT_EQ(sheet.Log, Lines{}) << "opening computes nothing";

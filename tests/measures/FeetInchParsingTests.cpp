@@ -32,28 +32,14 @@ TEST(FeetInchParsing, TextsThatAreNoLength) {
     const std::string_view texts[] = {
         // clang-format off
         "", " ", "-", ".", "'", "\"", "abc", "5'-", "5'-\"",
-        "5'6\"",     // the dash is compulsory
-        "5-6",       // and so is the foot mark
-        "5-6\"",     //
-        "-6'5\"",    //
-        "5\"-6'",    // marks out of order
-        "5-6'",      //
-        "5'-6\"-",   // a second dash
-        "6\"\"",     // a second inch mark
-        "6\" 1/2",   //
-        "5'- 6\"",   // a blank right behind the dash
-        "5'-6\" 1",  //
-        "1/ 2\"",    // a blank right behind the slash
-        "3/4 5",     // a blank behind the slash
-        "1/2 ",      //
-        "1/2/3",     //
-        "5 1/2/3\"", //
-        "/2",        //
-        "1/",        //
-        "1/\"",      //
-        "1/0\"",     // a division by zero
-        "0/0\"",     //
-        "5'-6 1/0",  //
+        // the dash is compulsory, and so is the foot mark
+        "5'6\"", "5-6", "5-6\"", "-6'5\"",
+        // marks out of order, a second dash, a second inch mark
+        "5\"-6'", "5-6'", "5'-6\"-", "6\"\"", "6\" 1/2",
+        // a blank behind the dash, behind a whole length, behind the slash; a second slash
+        "5'- 6\"", "5'-6\" 1", "1/ 2\"", "3/4 5", "1/2 ", "1/2/3", "5 1/2/3\"",
+        // half a fraction, and divisions by zero
+        "/2", "1/", "1/\"", "1/0\"", "0/0\"", "5'-6 1/0",
         "1e300/1e-300", "1e999", "x'-6\"", "5'-x\"", "5,5", std::string_view("5\0", 2), "\xFF\xFE",
         // clang-format on
     };
@@ -89,8 +75,7 @@ TEST(FeetInchParsing, FormsTellTheMarksOfWhatIsNotAccepted) {
 TEST(FeetInchParsing, PositionsAreSixteenBit) {
     const std::string zeros(32765, '0');
     EXPECT_EQ(Feet_Of(zeros + "6'"), 6.0);
-    EXPECT_FALSE(Feet_Of(zeros + "06'").has_value());
-    EXPECT_FALSE(Feet_Of(zeros + zeros + "6\"").has_value());
+    EXPECT_FALSE(Feet_Of(zeros + "06'").has_value() || Feet_Of(zeros + zeros + "6\"").has_value());
     EXPECT_FALSE(Feet_Of("1/" + zeros + zeros + "6").has_value());
     EXPECT_EQ(Feet_Of("6 " + std::string(40000, 'x')), 0.5);
     EXPECT_FALSE(Feet_Of(std::string(40000, '-')).has_value());

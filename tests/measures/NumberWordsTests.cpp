@@ -6,24 +6,16 @@ using namespace Tensarix;
 
 TEST(NumberWords, NumbersWithTheirBlanks) {
     const std::pair<double, const char*> cases[] = {
-        {0, " "},
-        {7, "Seven "},
-        {13, "Thirteen "},
-        {40, "Forty "},
-        {91, "Ninety One "},
-        {105, "One Hundred Five "},
-        {999, "Nine Hundred Ninety Nine "},
-        {1000, "One Thousand "},
-        {1010, "One Thousand Ten "},
-        {100000, "One Hundred  Thousand "},
-        {1000001, "One Million One "},
-        {2e9 + 3e12, "Three Trillion Two Billion "},
+        // clang-format off
+        {0, " "}, {7, "Seven "}, {13, "Thirteen "}, {40, "Forty "}, {91, "Ninety One "},
+        {105, "One Hundred Five "}, {999, "Nine Hundred Ninety Nine "}, {1000, "One Thousand "},
+        {1010, "One Thousand Ten "}, {100000, "One Hundred  Thousand "},
+        {1000001, "One Million One "}, {2e9 + 3e12, "Three Trillion Two Billion "},
         {123456789012345, "One Hundred Twenty Three Trillion Four Hundred Fifty Six Billion Seven "
                           "Hundred Eighty Nine Million Twelve Thousand Three Hundred Forty Five "},
-        {1.05, "One Point Five"},
-        {1.5, "One Point Fifty"},
-        {0.25, " Point Twenty Five"},
+        {1.05, "One Point Five"}, {1.5, "One Point Fifty"}, {0.25, " Point Twenty Five"},
         {1.005, "One Point One"},
+        // clang-format on
         {1.999, "One "}, // the whole part is cut off, the decimals are rounded
     };
     for (const auto& [value, words] : cases)

@@ -148,22 +148,16 @@ TEST(DesignationSearchTest, ShortenedNamesAgainstAScan) {
 
 TEST(DesignationSearchTest, TheBestFirst) {
     const std::pair<const char*, std::vector<std::string>> cases[] = {
-        {"w18x5", {"W18x55", "W18x50"}},
-        {"w4", {"W4x13", "W44x335"}}, // the whole number first
-        {"hss8x8", {"HSS8x8x5/8", "HSS8x8x1/2"}},
-        {"w460", {"W460x464"}},
+        // clang-format off
+        {"w18x5", {"W18x55", "W18x50"}}, {"w4", {"W4x13", "W44x335"}}, // the whole number first
+        {"hss8x8", {"HSS8x8x5/8", "HSS8x8x1/2"}}, {"w460", {"W460x464"}},
         {"2l4x4", {"2L4x4x3/4"}},
         {"l4x4x1/2", {"L4x4x1/2", "2L4x4x1/2"}}, // before the pairs of the same angle
-        {"pipe8", {"Pipe8STD", "Pipe8XS"}},
-        {"18x50", {"W18x50"}},
-        {"hss 8 X 8 x .5", {"HSS8x8x1/2"}},
-        {"hss8*8*0.500", {"HSS8x8x1/2"}},
-        {"HSS8x8 1/2", {"HSS8x8x1/2"}},
-        {"l8x8x1 1/8", {"L8x8x1-1/8"}},
-        {"hss20.000x.5", {"HSS20.000x0.500"}},
-        {"w8x1/", {}},
-        {"w18x999", {}},
-        {"   ", {}},
+        {"pipe8", {"Pipe8STD", "Pipe8XS"}}, {"18x50", {"W18x50"}},
+        {"hss 8 X 8 x .5", {"HSS8x8x1/2"}}, {"hss8*8*0.500", {"HSS8x8x1/2"}},
+        {"HSS8x8 1/2", {"HSS8x8x1/2"}}, {"l8x8x1 1/8", {"L8x8x1-1/8"}},
+        {"hss20.000x.5", {"HSS20.000x0.500"}}, {"w8x1/", {}}, {"w18x999", {}}, {"   ", {}},
+        // clang-format on
     };
     for (const auto& [typed, names] : cases) {
         const auto found = The_Search().Find(typed, 50);

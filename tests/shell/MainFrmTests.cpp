@@ -43,14 +43,12 @@ TEST_F(MainFrmTest, AFirstStartHasAllDefaults) {
     EXPECT_EQ(f.Caption, "Tensarix v1.0  [Beta]  -  " + std::string{legalLine});
     EXPECT_TRUE(f.OptButton[0].Value());
     EXPECT_EQ(f.SelectionTab.Tab(), 0);
-    EXPECT_TRUE(f.Browse.ProfileOption1.Value());
-    EXPECT_TRUE(f.Browse.DimOption1.Value());
+    EXPECT_TRUE(f.Browse.ProfileOption1.Value() && f.Browse.DimOption1.Value());
     EXPECT_EQ(f.Browse.ShapeType.Text(), "W-Shape");
     EXPECT_EQ(f.Browse.ShapeSizeUS.Text(), "W44x335");
     EXPECT_EQ(f.Browse.ShapeFlex.Text(1, 1), "335.00  ");
     EXPECT_EQ(f.Shared.StatBar.Panel1(), " SELECTION:   None");
-    EXPECT_FALSE(f.mnuReadOut.Checked());
-    EXPECT_FALSE(f.mnuOnTop.Checked());
+    EXPECT_FALSE(f.mnuReadOut.Checked() || f.mnuOnTop.Checked());
 }
 
 TEST_F(MainFrmTest, ASecondInstanceRaisesTheFirstAndDoesNothingElse) {
@@ -59,8 +57,7 @@ TEST_F(MainFrmTest, ASecondInstanceRaisesTheFirstAndDoesNothingElse) {
     EXPECT_FALSE(second.Load());
     EXPECT_EQ(machine.Guard.Raises, 1);
     EXPECT_EQ(second.Browse.ShapeType.Count(), 0);
-    EXPECT_TRUE(machine.Store.Written.empty());
-    EXPECT_TRUE(machine.Boxes.Shown.empty());
+    EXPECT_TRUE(machine.Store.Written.empty() && machine.Boxes.Shown.empty());
     machine.Guard.Answers = false;
     EXPECT_FALSE(second.Load());
     EXPECT_EQ(machine.Boxes.Shown,
@@ -117,13 +114,10 @@ TEST_F(MainFrmTest, ChoicesComeBackAtTheNextStart) {
     MainFrm& second = Start();
     EXPECT_EQ(second.Browse.ShapeType.ListIndex(), 4);
     EXPECT_EQ(second.Browse.ShapeSizeUS.ListIndex(), 3);
-    EXPECT_TRUE(second.Browse.DimOption2.Value());
-    EXPECT_TRUE(second.Browse.ProfileOption2.Value());
+    EXPECT_TRUE(second.Browse.DimOption2.Value() && second.Browse.ProfileOption2.Value());
     EXPECT_FALSE(second.Browse.DimOption1.Enabled());
-    EXPECT_TRUE(second.Shared.OnTop);
-    EXPECT_TRUE(second.Shared.ReadOut);
-    EXPECT_TRUE(second.mnuOnTop.Checked());
-    EXPECT_TRUE(second.mnuReadOut.Checked());
+    EXPECT_TRUE(second.Shared.OnTop && second.mnuOnTop.Checked());
+    EXPECT_TRUE(second.Shared.ReadOut && second.mnuReadOut.Checked());
 }
 
 TEST_F(MainFrmTest, GarbageInTheSettingsNeverStopsTheStart) {

@@ -1,4 +1,4 @@
-// Both weight calculators as records, over the built store.
+// Both weight calculators as records, over the built store; undo and the menu of their tables.
 #include "StandIns.h"
 #include "common/NumberText.h"
 #include "weights/WtCalcsFrm.h"
@@ -35,6 +35,10 @@ void Enter(FlexGrid& grid, TextBox& editor, int row, int col, const std::string&
 std::string Row_Of(const FlexGrid& grid, int row) {
     return Replace_All(Replace_All(grid.Clip_Of(row, 1, row, grid.Cols() - 1), "     ", ""), "\t",
                        "|");
+}
+
+std::string All(const FlexGrid& grid) {
+    return grid.Clip_Of(1, 1, grid.Rows() - 1, grid.Cols() - 1);
 }
 
 class WtCalcs : public testing::Test {
@@ -432,4 +436,80 @@ TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
     EXPECT_EQ(again.TotalLabel.Caption(),
               "Rows: 2     Total weight: 120.00 lb (exact lengths: 125.00 lb)");
     EXPECT_EQ(again.TotalLabel.Caption_Weight(), RemarkWeight::Caution);
+}
+
+TEST_F(WtCalcs, UndoBringsLengthsBackWithTheirWeights) {
+    lengths[20].Imperial = "7'";
+    WtCalcsFrm form(desk, lengths);
+    form.Load();
+    FlexGrid& grid = form.ImperialFlex;
+    grid.OnUndo();
+    EXPECT_EQ(grid.Text(21, 1), "7'     "); // was loaded, not typed
+    Enter(grid, form.EdiTxt, 1, 1, "10'");
+    const std::string one = All(grid), total = form.TotalLabel.Caption();
+    machine.Clip.Held = "1'\n2'\n3'";
+    grid.Move_To(1, 1);
+    grid.OnPaste();
+    const std::string pasted = All(grid);
+    EXPECT_NE(pasted, one);
+    form.ClearButton.Click();
+    grid.OnUndo();
+    EXPECT_EQ(All(grid), pasted);
+    grid.OnUndo();
+    EXPECT_EQ(All(grid), one);
+    EXPECT_EQ(form.TotalLabel.Caption(), total);
+    EXPECT_EQ(grid.Row(), 1);
+    Enter(form.MetricFlex, form.EdiTxtA, 3, 1, "2.5"); // each sheet has its own
+    grid.OnUndo();
+    EXPECT_EQ(grid.Text(1, 1) + grid.Text(1, 2), "     "); // as an empty row is loaded
+    EXPECT_EQ(form.MetricFlex.Text(3, 1), "2.50     ");
+}
+
+TEST_F(WtCalcs, UndoBringsSizesBackToo) {
+    WtCalcsFrmA form(desk, rows);
+    form.Load();
+    FlexGrid& grid = form.ImperialFlex;
+    grid.Focus.Set();
+    grid.Press(1, 1);
+    form.ShapeSizeUS.Select(0);
+    form.ShapeSizeUS.OnKeyDown(Keys::Enter);
+    Enter(grid, form.EdiTxt, 1, 2, "10'");
+    const std::string row = All(grid);
+    EXPECT_EQ(grid.Text(1, 3), "3,350.00     ");
+    grid.Move_To(1, 1);
+    grid.OnKeyDown(Keys::Delete);
+    EXPECT_EQ(grid.Text(1, 3), "");
+    grid.OnUndo();
+    EXPECT_EQ(All(grid), row);
+    grid.OnUndo();
+    grid.OnUndo();
+    EXPECT_EQ(grid.Text(1, 1), "");
+}
+
+TEST_F(WtCalcs, TheMenuOffersWhatThereIs) {
+    WtCalcsFrm form(desk, lengths);
+    form.Load();
+    FlexGrid& grid = form.ImperialFlex;
+    SheetPopup& menu = form.ImperialPopup;
+    int opened = 0;
+    menu.OnOpen = [&] { ++opened; };
+    grid.Move_To(1, 1);
+    grid.OnMenu();
+    EXPECT_FALSE(menu.mnuUndo.Enabled() || menu.mnuCopy.Enabled() || menu.mnuPaste.Enabled());
+    Enter(grid, form.EdiTxt, 1, 1, "10'");
+    machine.Clip.Held = "5'";
+    grid.Move_To(1, 1);
+    grid.OnMenu();
+    EXPECT_TRUE(menu.mnuUndo.Enabled() && menu.mnuCopy.Enabled() && menu.mnuPaste.Enabled());
+    EXPECT_EQ(opened, 2);
+    menu.mnuPaste.Click();
+    EXPECT_EQ(grid.Text(1, 1), "5'-0\"     ");
+    menu.mnuUndo.Click();
+    menu.mnuCopyAll.Click();
+    EXPECT_TRUE(machine.Clip.Held.starts_with(
+        "No.\tPROFILE LENGTH (Feet-Inches)\tPROFILE WEIGHT (Lbs.)\r1\t10'-0\"     \t"))
+        << machine.Clip.Held.substr(0, 90);
+    EXPECT_EQ(grid.Row_Sel(), 1); // what was selected stays so
+    menu.mnuSelectAll.Click();
+    EXPECT_EQ(grid.Clip(), grid.Clip_Of(1, 1, 50, 2));
 }
