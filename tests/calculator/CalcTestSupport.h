@@ -6,6 +6,9 @@
 #include "calculator/CalcMemoryFrm.h"
 #include "calculator/CalcStatistics.h"
 
+#include <gtest/gtest.h>
+
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -85,6 +88,23 @@ struct DialogTest : CalcTest {
 
 inline std::string Shown_After(const std::string& line) {
     return CalcTest().Keys(line).Shown();
+}
+
+// Cases "keys -> outcome", several a line with three blanks or more between them;
+// a line that begins with "#" tells of the next one.
+template <typename Outcome>
+void Expect_Each(const std::string& table, Outcome outcome) {
+    const std::regex form("^ *(?:(\\S.*?) )?->(?: (\\S.*?))?$");
+    const std::regex gap("   +|\n");
+    for (std::sregex_token_iterator each(table.begin(), table.end(), gap, -1), end; each != end;
+         ++each) {
+        const std::string text = *each;
+        std::smatch parts;
+        if (text.empty() || text.starts_with('#'))
+            continue;
+        ASSERT_TRUE(std::regex_match(text, parts, form)) << text;
+        EXPECT_EQ(outcome(parts[1].str()), parts[2].str()) << parts[1];
+    }
 }
 
 } // namespace Tensarix

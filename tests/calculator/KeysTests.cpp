@@ -18,13 +18,9 @@ CalcTime Time_Of_Day(int hours, int minutes, int seconds) {
 // The keys of CalcMainFrm as the user meets them, one row a key: its name, caption, tool tip, the
 // characters that press it, and what the panel shows after a line of keys with this one by name.
 const struct KeyRow {
-    const char* Name;
-    const char* Caption;
-    const char* ToolTip;
-    const char* Typed;
-    const char* Before; // keyed before it
-    const char* After;  // keyed behind it
-    const char* Shown;  // what opened, and the panel
+    const char *Name, *Caption, *ToolTip, *Typed;
+    const char *Before, *After; // keyed before it and behind it
+    const char* Shown;          // what opened, and the panel
 } rows[] = {
     {"key_7", "7", "Numeral 7", "7", "1", "", "17."},
     {"key_8", "8", "Numeral 8", "8", "1", "", "18."},
@@ -67,7 +63,8 @@ const struct KeyRow {
     {"key_Dc", "d/c", "Fraction Converter", "", "0.125", "", "1/8."},
     {"key_XtoY", "x↔y", "Input Swap", "", "2 - 3", "=", "1."},
     {"com_Random", "Rnd#", "Random number generator", "", "", "", "0.008"},
-    {"key_Cnst", "Cnst", "Scientific Constant", "", "5", "", "Scientific Constant|29000."},
+    {"key_Cnst", "Cnst", "Scientific Constant", "", "2 * 5 frc 7", "=",
+     "Scientific Constant|58000."},
 
     {"key_Sin", "Sin", "Sine", "s", "30", "", "0.5"},
     {"key_Cos", "Cos", "Cosine", "c", "60", "", "0.5"},
@@ -164,61 +161,35 @@ TEST(CalcKeyTable, EveryKeyDoesWhatItSays) {
 }
 
 TEST(CalcClipboard, CopiesTheDisplayAsAPlainNumber) {
-    const struct {
-        const char* Keys;
-        const char* Copied;
-    } cases[] = {
-        {"", "0"},
-        {"12", "12"},
-        {"12.50 pm", "-12.50"},
-        {"1.5 exp 7 pm", "1.5E-07"},
-        {"ScnButton 1500 =", "1.50E+03"},
-        {"FxnButton 1 / 3 =", "0.33"},
-        {"2.5 key_Dc", "2.5"},
-        {"30.25 asex", "30.25"},
-        {"1 / 0 =", ""},
-    };
-    for (const auto& c : cases) {
-        CalcTest calc;
-        calc.Keys(c.Keys);
-        EXPECT_EQ(Display_As_Number(calc.Form), c.Copied) << c.Keys;
-    }
+    Expect_Each(R"(
+        -> 0        12 -> 12    12.50 pm -> -12.50      1.5 exp 7 pm -> 1.5E-07
+        ScnButton 1500 = -> 1.50E+03        FxnButton 1 / 3 = -> 0.33           2.5 key_Dc -> 2.5
+        30.25 asex -> 30.25     1 / 0 = ->
+    )",
+                [](const std::string& keys) {
+                    CalcTest calc;
+                    return Display_As_Number(calc.Keys(keys).Form);
+                });
 }
 
 TEST(CalcClipboard, TakesANumberAsIfKeyed) {
-    const struct {
-        const char* Text;
-        const char* Shown;
-    } cases[] = {
-        {"12.50", "12.50"},
-        {"  +12 ", "12."},
-        {"-0.05", "-0.05"},
-        {".5", "0.5"},
-        {"0", "0."},
-        {"-0", "0."},
-        {"1e5", "1. 05"},
-        {"1.5E-07", "1.5-07"},
-        {"-2E5", "-2. 05"},
-        {"-0.05e3", "-5. 01"},
-        {"-0e5", "0."},
-        {"1E+099", "1. 99"},
-        {"3.14159265358979323846", "3.14159265358979"},
-        {"1234567890123456", "1.23456789012346 15"},
-        {"-1234567890123456", "-1.23456789012346 15"},
-        {"0.0000000000000123", "1.23-14"},
-    };
-    for (const auto& c : cases) {
-        CalcTest calc;
-        calc.Keys("2 + 77 exp 3");
-        EXPECT_TRUE(Key_In_Number(calc.Form, c.Text)) << c.Text;
-        EXPECT_EQ(calc.Shown(), c.Shown) << c.Text;
-        CalcTest sum;
-        sum.Keys("2 + 1 frc 3");
-        Key_In_Number(sum.Form, c.Text);
-        sum.Keys("- 2 =");
-        calc.Keys("- 2 =");
-        EXPECT_EQ(calc.Shown(), sum.Shown()) << c.Text;
-    }
+    Expect_Each(R"(
+        12.50 -> 12.50          +12 -> 12.   -0.05 -> -0.05          .5 -> 0.5   0 -> 0.   -0 -> 0.
+        1e5 -> 1. 05            1.5E-07 -> 1.5-07       -2E5 -> -2. 05          -0.05e3 -> -5. 01
+        -0e5 -> 0.   1E+099 -> 1. 99         3.14159265358979323846 -> 3.14159265358979
+        1234567890123456 -> 1.23456789012346 15
+        -1234567890123456 -> -1.23456789012346 15       0.0000000000000123 -> 1.23-14
+    )",
+                [](const std::string& text) {
+                    CalcTest calc, sum;
+                    calc.Keys("2 + 77 exp 3");
+                    EXPECT_TRUE(Key_In_Number(calc.Form, " " + text)) << text;
+                    const std::string shown = calc.Shown();
+                    sum.Keys("2 + 1 frc 3");
+                    Key_In_Number(sum.Form, text);
+                    EXPECT_EQ(calc.Keys("- 2 =").Shown(), sum.Keys("- 2 =").Shown()) << text;
+                    return shown;
+                });
 }
 
 TEST(CalcClipboard, RefusesEverythingElseWithoutATrace) {
@@ -314,9 +285,7 @@ TEST(CalcRandom, TakesTheLastDigitsOfTheDate) {
 
 TEST(CalcText, DigitRules) {
     const struct {
-        const char* Text;
-        const char* Fit;
-        const char* Trimmed;
+        const char *Text, *Fit, *Trimmed;
     } cases[] = {
         {"12", "12.", "12"},
         {"12.50", "12.5", "12.50"},

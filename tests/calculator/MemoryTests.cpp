@@ -295,18 +295,16 @@ TEST(CalcConstantsTable, FactorsFollowFromTheirUnits) {
     const struct {
         const char* Unit;
         double Computed;
-    } factors[] = {
-        {"mm2/in2", inch * inch * 1e6},
-        {"m2/ft2", foot * foot},
-        {"mm3/in3", std::pow(25.4, 3)},
-        {"mm4/in4", std::pow(25.4, 4)},
-        {"(kg/m)/(lb/ft)", pound / foot},
-        {"(kg/m2)/(lb/ft2)", pound / (foot * foot)},
-        {"(kg/m3)/(lb/ft3)", pound / std::pow(foot, 3)},
-        {"(kN/m)/(kip/ft)", force / foot},
-        {"(kN m)/(kip ft)", force * foot},
-        {"(kN m)/(kip in)", force * inch},
-    };
+    } factors[] = {{"mm2/in2", inch * inch * 1e6},
+                   {"m2/ft2", foot * foot},
+                   {"mm3/in3", std::pow(25.4, 3)},
+                   {"mm4/in4", std::pow(25.4, 4)},
+                   {"(kg/m)/(lb/ft)", pound / foot},
+                   {"(kg/m2)/(lb/ft2)", pound / (foot * foot)},
+                   {"(kg/m3)/(lb/ft3)", pound / std::pow(foot, 3)},
+                   {"(kN/m)/(kip/ft)", force / foot},
+                   {"(kN m)/(kip ft)", force * foot},
+                   {"(kN m)/(kip in)", force * inch}};
     for (const auto& factor : factors) {
         const auto row = std::find_if(Constants().begin(), Constants().end(),
                                       [&](const auto& each) { return each.Unit == factor.Unit; });
@@ -314,16 +312,6 @@ TEST(CalcConstantsTable, FactorsFollowFromTheirUnits) {
         const double tolerance = row->Exact == Exactness::Exact ? 1e-15 : 3e-7; // of seven digits
         EXPECT_NEAR(Text_Number(row->Number) / factor.Computed, 1, tolerance) << factor.Unit;
     }
-}
-
-TEST(CalcConstantsTable, AChosenConstantIsAResult) {
-    CalcTest calc;
-    calc.Form.Host.Show_Constants = [](CalcConstantFrm& dialog) {
-        dialog.Select_Row(0);
-        dialog.OKButton();
-    };
-    EXPECT_EQ(calc.Keys("2 * 5 frc 7 cnst").Shown(), "29000.");
-    EXPECT_EQ(calc.Keys("=").Shown(), "58000.");
 }
 
 TEST_F(CalcFiles, WhatIsClosedIsThereWhenOpened) {

@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
-
 using namespace Tensarix;
 
 namespace {
@@ -23,20 +21,8 @@ std::string Panel_After(const std::string& keys) {
            (panel.Remark.Text.empty() ? "" : " (" + panel.Remark.Text + ")");
 }
 
-// Cases "keys -> panel", several a line with three blanks or more between them;
-// a line that begins with "#" tells of the next one.
 void Expect_Panels(const std::string& table) {
-    const std::regex form("^ *(\\S.*?)?-> (\\S.*?)$");
-    const std::regex gap("   +|\n");
-    for (std::sregex_token_iterator each(table.begin(), table.end(), gap, -1), end; each != end;
-         ++each) {
-        const std::string text = *each;
-        std::smatch parts;
-        if (text.empty() || text.starts_with('#'))
-            continue;
-        ASSERT_TRUE(std::regex_match(text, parts, form)) << text;
-        EXPECT_EQ(Panel_After(parts[1]), parts[2]) << parts[1];
-    }
+    Expect_Each(table, Panel_After);
 }
 
 } // namespace
@@ -296,50 +282,29 @@ TEST(CalcPanel, MemoryAndStatistics) {
 }
 
 TEST(CalcPanel, WhatWaits) {
-    const struct {
-        const char* Keys;
-        const char* Waiting;
-    } cases[] = {
-        {"5", ""},
-        {"5 + 3 * 7", "5 + 3 ×"},
-        {"5 + 3 * 7 =", ""},
-        {"5 + 3 * -", "5 + 3 −"},
-        {"1 / 4 xy 2 root", "1 ÷ 4 ^ 2 root"},
-        {"1 + 2 + 3 + 4 + 5 + 6 +", "… 2 + 3 + 4 + 5 + 6 +"},
-        {"4 * *", "K × 4"},
-        {"4 * * 3 =", "K × 4"},
-        {"8 data 9 data", "n = 2"},
-        {"8 data 9", ""},
-        {"2 key_PtoR 3", "r = 2, angle?"},
-        {"3 key_RtoP", "x = 3, y?"},
-        {"3 key_RtoP 4 =", ""},
-        {"12 sexa", "12°0'0\", minutes?"},
-        {"12 sexa 30 sexa", "12°30'0\", seconds?"},
-        {"12 sexa 30 sexa 36 sexa", ""},
-        {"2 + 1 / 0 =", ""},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Waiting_Text(CalcTest().Keys(c.Keys).Form), c.Waiting) << c.Keys;
+    Expect_Each(R"(
+        5 ->        5 + 3 * 7 -> 5 + 3 ×    5 + 3 * 7 = ->          5 + 3 * - -> 5 + 3 −
+        1 / 4 xy 2 root -> 1 ÷ 4 ^ 2 root   1 + 2 + 3 + 4 + 5 + 6 + -> … 2 + 3 + 4 + 5 + 6 +
+        4 * * -> K × 4          4 * * 3 = -> K × 4      8 data 9 data -> n = 2   8 data 9 ->
+        2 key_PtoR 3 -> r = 2, angle?       3 key_RtoP -> x = 3, y?             3 key_RtoP 4 = ->
+        12 sexa -> 12°0'0", minutes?        12 sexa 30 sexa -> 12°30'0", seconds?
+        12 sexa 30 sexa 36 sexa ->          2 + 1 / 0 = ->
+    )",
+                [](const std::string& keys) { return Waiting_Text(CalcTest().Keys(keys).Form); });
 }
 
 TEST(CalcPanel, ResultsAreKeptWithTheirChains) {
-    const struct {
-        const char* Keys;
-        const char* Result;
-    } cases[] = {
-        {"5 + 3 * 7 =", "5 + 3 × 7 = 26"},
-        {"1 / 3 =", "1 ÷ 3 = 0.333333333333333"},
-        {"1 + 3 xy 2 * 4 =", "1 + 3 ^ 2 × 4 = 40  (By operator priority: 37)"},
-        {"2 / / 3 =", "3 ÷ 2 = 1.5"},
-        {"2 + 3 = * 4 =", "5 × 4 = 20"},
-        {"5 =", ""},
-        {"5 + 1 / 0 =", ""},
-    };
-    for (const auto& c : cases) {
-        CalcTest calc;
-        const std::vector<CalcResult>& results = calc.Keys(c.Keys).Vars.Results;
-        EXPECT_EQ(results.empty() ? "" : Result_Text(results.front()), c.Result) << c.Keys;
-    }
+    Expect_Each(R"(
+        5 + 3 * 7 = -> 5 + 3 × 7 = 26       1 / 3 = -> 1 ÷ 3 = 0.333333333333333
+        1 + 3 xy 2 * 4 = -> 1 + 3 ^ 2 × 4 = 40  (By operator priority: 37)
+        2 / / 3 = -> 3 ÷ 2 = 1.5            2 + 3 = * 4 = -> 5 × 4 = 20
+        5 = ->      5 + 1 / 0 = ->
+    )",
+                [](const std::string& keys) {
+                    CalcTest calc;
+                    const std::vector<CalcResult>& results = calc.Keys(keys).Vars.Results;
+                    return results.empty() ? "" : Result_Text(results.front());
+                });
     CalcTest many;
     for (int i = 0; i < 105; ++i)
         many.Keys("AC " + std::to_string(i) + " + 1 =");
@@ -349,50 +314,44 @@ TEST(CalcPanel, ResultsAreKeptWithTheirChains) {
 }
 
 TEST(CalcPanel, IndicatorsAndPrecisionFollowTheButtons) {
+    constexpr int same = -1;
+    const struct {
+        const char* Keys;
+        int Precision; // chosen behind them
+        const char* Panel;
+    } steps[] = {
+        {"", same, "0. NORM DEGREE"},
+        {"12.7 FxnButton", same, "12.70 FIX DEGREE 2"},
+        {"", 0, "13. FIX DEGREE 0"},
+        {"+ 1 =", same, "14. FIX DEGREE 0"},
+        {"2 sqrt", same, "1. FIX DEGREE 0"},
+        {"ScnButton", same, "1.41 00 SCI DEGREE 2"},
+        {"1499 sqrt sqr", 0, "1. 03 SCI DEGREE 0"},
+        {"", 14, "1.49900000000000 03 SCI DEGREE 14"},
+        {"StdButton RadButton", same, "1499. NORM RADIAN"},
+        {"FxnButton GradButton", same, "1499. FIX GRADIAN 0"},
+        {"5 key_Min", same, "5. FIX GRADIAN 0 MEM"},
+        {"AC key_Min", same, "0. FIX GRADIAN 0"},
+    };
     CalcTest calc;
     const CalcPanel& panel = calc.Form.Panel;
-    EXPECT_EQ(Indicator_Text(panel.DispMode_Indicator), "NORM");
-    EXPECT_EQ(Indicator_Text(panel.Mode_Indicator), "DEGREE");
-    EXPECT_FALSE(panel.PrecEnabled);
-
-    calc.Keys("12.7 FxnButton");
-    EXPECT_EQ(Indicator_Text(panel.DispMode_Indicator), "FIX");
-    EXPECT_EQ(panel.PrecIndex, 2);
-    PrecBox_Change(calc.Form, 0);
-    EXPECT_EQ(calc.Shown(), "13.");
-    calc.Keys("+ 1 =");
-    EXPECT_EQ(calc.Shown(), "14.");
-    calc.Keys("2 sqrt");
-    EXPECT_EQ(calc.Shown(), "1.");
-
-    calc.Keys("ScnButton");
-    EXPECT_EQ(panel.PrecIndex, 2);
-    PrecBox_Change(calc.Form, 0);
-    calc.Keys("1499 sqrt sqr");
-    EXPECT_EQ(calc.Shown(), "1. 03");
-    PrecBox_Change(calc.Form, 14);
-    EXPECT_EQ(calc.Shown(), "1.49900000000000 03");
-
-    calc.Keys("StdButton RadButton");
-    EXPECT_FALSE(panel.PrecEnabled);
-    EXPECT_EQ(panel.PrecIndex, -1);
-    EXPECT_EQ(Indicator_Text(panel.DispMode_Indicator), "NORM");
-    EXPECT_EQ(Indicator_Text(panel.Mode_Indicator), "RADIAN");
-    calc.Keys("FxnButton GradButton");
-    EXPECT_EQ(panel.PrecIndex, 0);
-    EXPECT_EQ(Indicator_Text(panel.Mode_Indicator), "GRADIAN");
-    calc.Keys("5 key_Min");
-    EXPECT_EQ(panel.Mem_Indicator, "MEM");
-    calc.Keys("AC key_Min");
-    EXPECT_EQ(panel.Mem_Indicator, "");
+    for (const auto& step : steps) {
+        calc.Keys(step.Keys);
+        if (step.Precision != same)
+            PrecBox_Change(calc.Form, step.Precision);
+        EXPECT_EQ(panel.PrecEnabled, panel.PrecIndex != -1) << step.Panel;
+        std::string text = calc.Shown() + " ";
+        text.append(Indicator_Text(panel.DispMode_Indicator)).append(" ");
+        text.append(Indicator_Text(panel.Mode_Indicator));
+        text += panel.PrecEnabled ? " " + std::to_string(panel.PrecIndex) : "";
+        EXPECT_EQ(text + (panel.Mem_Indicator.empty() ? "" : " ") + panel.Mem_Indicator,
+                  step.Panel);
+    }
 }
 
 TEST(CalcPanel, ReopeningKeepsWhatWasThere) {
     const struct {
-        const char* Before;
-        const char* Reopened;
-        const char* After;
-        const char* Shown;
+        const char *Before, *Reopened, *After, *Shown;
     } cases[] = {
         {"2 + 12.50", "12.5", "=", "14.5"},
         {"12", "12.", "3", "123."},

@@ -294,6 +294,29 @@ TEST_F(BoltPageTest, ABlockOfRowsIsPastedWholeOrNotAtAll) {
         EXPECT_EQ(Cell(2, col) + Cell(3, col), "") << col;
 }
 
+// An edit and a clearing come back with their results.
+TEST_F(BoltPageTest, UndoBringsInputsBackAndComputesThem) {
+    BoltPage& p = Start();
+    Type_Row(2, sixInLine);
+    Type_Row(9, sixInLine);
+    const auto table = [&] { return p.cFlex.Clip_Of(1, 0, p.cFlex.Rows() - 1, 8); };
+    const std::string whole = table();
+    Type(9, BoltColumn::ex, "8");
+    EXPECT_NE(table(), whole);
+    p.cFlex.OnUndo();
+    EXPECT_EQ(table(), whole);
+    EXPECT_EQ(p.cFlex.Row(), 9);
+    p.ClearButton.Click();
+    EXPECT_EQ(CountBoltRows(p.cFlex), 0);
+    p.cFlex.OnUndo();
+    EXPECT_EQ(table(), whole);
+    EXPECT_EQ(p.xxFlex.Text(2, 1), "4.558  "); // the current row's
+    for (int step = 0; step < 12; ++step)
+        p.cFlex.OnUndo();
+    EXPECT_EQ(p.cFlex.Clip_Of(1, 1, 15, 8).find_first_not_of("\t\r"), std::string::npos);
+    p.cFlex.OnUndo(); // there is nothing left
+}
+
 // The writer never makes such rows; the heads stay whatever a file says.
 TEST_F(BoltPageTest, RowNumbersOfADamagedFile) {
     ScriptedMessages quiet;

@@ -228,18 +228,6 @@ TEST(WeldConfigurations, CentroidsInClosedForm) {
     }
 }
 
-TEST(WeldConfigurations, DoubleAndSingleLinesWithoutALeg) {
-    const auto of = [](int item, double kL) {
-        WeldBench bench;
-        return Coefficient(bench, item, 10, kL, 3, 0);
-    };
-    const double twice = of(1, 4);
-    EXPECT_EQ(of(2, 0), twice);
-    EXPECT_EQ(of(4, 0), twice);
-    for (const int item : {6, 8, 9})
-        EXPECT_NEAR(of(item, 0) * 2, twice, 0.05) << item;
-}
-
 // Item 7 alone is shown, and converges, in scaled units.
 TEST(WeldConfigurations, OneItemIsShownScaled) {
     const auto shown = [](int item) {

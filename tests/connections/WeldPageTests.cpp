@@ -334,24 +334,17 @@ TEST_F(WeldPageTest, CentroidsByConfiguration) {
     const std::string none = "             N.A.";
     struct Case {
         int item;
-        std::string empty[2], full[2];
+        std::string empty, kL, full; // xL and yL, one behind the other
     };
     for (const Case& c :
-         {Case{3, {none, none}, {none, none}}, Case{6, {"", none}, {"2.500     ", none}},
-          Case{7, {"", none}, {"2.500     ", none}},
-          Case{8, {"", ""}, {"2.000     ", "2.000     "}},
-          Case{9, {"", ""}, {"2.000     ", "2.000     "}}}) {
+         {Case{3, none + none, "8", none + none}, Case{6, none, "7.5", "2.446     " + none},
+          Case{7, none, "7.5", "2.446     " + none}, Case{8, "", "8", "2.000     2.000     "},
+          Case{9, "", "8", "2.000     2.000     "}}) {
         p.WeldView.Click(c.item);
-        EXPECT_EQ(Value(4), c.empty[0]) << c.item;
-        EXPECT_EQ(Value(5), c.empty[1]) << c.item;
-        const bool channel = c.item == 6 || c.item == 7;
-        Type(WeldRow::L, channel ? "10" : "8"); // channels: 10^2 / (10 + 2 * 10) is wanted as 2.5
-        Type(WeldRow::kL, channel ? "7.5" : "8");
-        if (channel)
-            EXPECT_NEAR(std::stod(Value(4)), 7.5 * 7.5 / 25, 5e-4) << c.item;
-        else
-            EXPECT_EQ(Value(4), c.full[0]) << c.item;
-        EXPECT_EQ(Value(5), c.full[1]) << c.item;
+        EXPECT_EQ(Value(4) + Value(5), c.empty) << c.item;
+        Type(WeldRow::L, "8");
+        Type(WeldRow::kL, c.kL);
+        EXPECT_EQ(Value(4) + Value(5), c.full) << c.item; // 7.5^2 / (8 + 2 x 7.5) = 2.446
     }
     Type(WeldRow::L, "0"); // fails: the defaults stand
     EXPECT_EQ(Value(4) + Value(5), "");
