@@ -19,6 +19,7 @@ install(FILES ${section_store} ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION . COMPONE
 # The guide lies beside the program; while it is being built, as a link to docs/.
 set(guide_pages ${CMAKE_SOURCE_DIR}/docs/guide.md ${CMAKE_SOURCE_DIR}/docs/calculator.md
   ${CMAKE_SOURCE_DIR}/docs/validation.md)
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/program)
 file(CREATE_LINK ${CMAKE_SOURCE_DIR}/docs ${CMAKE_BINARY_DIR}/program/guide SYMBOLIC)
 install(FILES ${guide_pages} DESTINATION guide COMPONENT portable)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures DESTINATION guide COMPONENT portable)
