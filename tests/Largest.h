@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <map>
 #include <sstream>
 #include <string>
 
@@ -29,6 +31,25 @@ class Largest {
     double value_ = 0;
     int cases_ = 0;
     std::string at_;
+};
+
+// All deviations from printed figures, by table, in per cent of the print; behind each the half
+// unit of its last digit. tools/deviations.py draws them.
+class FromPrint {
+  public:
+    void Take(const std::string& table, double computed, double printed, double unit) {
+        std::ostringstream text;
+        text.precision(2);
+        text << 100 * (computed / printed - 1) << '/' << 50 * unit / std::abs(printed) << ' ';
+        deviations_[table] += text.str();
+    }
+    void Record() const {
+        for (const auto& [table, deviations] : deviations_)
+            testing::Test::RecordProperty("print: " + table, deviations);
+    }
+
+  private:
+    std::map<std::string, std::string> deviations_;
 };
 
 } // namespace Tensarix::Tests

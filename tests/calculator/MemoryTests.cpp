@@ -265,6 +265,7 @@ TEST(CalcConstantsTable, AgreesWithPrint) {
     std::getline(file, line);
     int count = 0;
     Tests::Largest deviation;
+    Tests::FromPrint prints;
     while (std::getline(file, line)) {
         std::istringstream cells(line);
         for (std::string* cell : {&row, &unit, &quantity, &printed, &shift, &uncertainty, &source})
@@ -277,6 +278,8 @@ TEST(CalcConstantsTable, AgreesWithPrint) {
         const bool physics = source == "CODATA 2018"; // of the others each may have more digits
         EXPECT_LE(off, physics ? 1e-15 : Print_Tolerance(printed)) << line;
         deviation.Take(off, row);
+        prints.Take(physics ? "Physical constants" : "Conversion factors, E of steel",
+                    Text_Number(constant->Number), number, 2 * number * Print_Tolerance(printed));
         if (physics) {
             const bool isExact =
                 constant->Exact == Exactness::Exact || constant->Exact == Exactness::Cut;
@@ -286,6 +289,7 @@ TEST(CalcConstantsTable, AgreesWithPrint) {
         ++count;
     }
     EXPECT_EQ(count, 37);
+    prints.Record();
     deviation.Record("constant");
 }
 
