@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <random>
 
 #include <unistd.h>
 
@@ -133,29 +132,4 @@ TEST_F(BoltFileTest, AFailedWriteLeavesTheOldFile) {
     EXPECT_EQ(boxes.Shown,
               (std::vector<std::string>{"Warning:|Error No. 6:  Overflow|exclamation"}));
     EXPECT_EQ(Read_Whole_File(path), before);
-}
-
-// Damage of every kind: never a crash, never more records or bytes than the file can hold.
-TEST_F(BoltFileTest, Fuzzed) {
-    WriteBoltFile(Two_Rows(), path, boxes);
-    const Bytes whole = *Read_Whole_File(path);
-    std::mt19937 random(20260101);
-    for (int round = 0; round < 400; ++round) {
-        Bytes bytes = whole;
-        const auto pick = [&random](std::size_t below) { return random() % below; };
-        for (std::size_t i = 0; i < 1 + pick(6); ++i)
-            bytes[pick(bytes.size())] = static_cast<std::uint8_t>(pick(256));
-        bytes.resize(pick(3) == 0 ? pick(bytes.size()) : bytes.size());
-        Put(bytes);
-        entries.clear();
-        const bool failed = Failed();
-        std::size_t held = 0;
-        for (const BoltRow& row : entries)
-            for (const std::string& text : row.Texts)
-                held += text.size();
-        ASSERT_LE(held, bytes.size());
-        ASSERT_LE(entries.size() * 2, bytes.size());
-        ASSERT_EQ(std::filesystem::exists(path), !failed);
-    }
-    EXPECT_TRUE(boxes.Shown.empty());
 }
