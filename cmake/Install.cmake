@@ -8,7 +8,6 @@ if(CMAKE_INSTALL_PREFIX_INITIALIZED_TO_DEFAULT) # /usr/local is no place for a p
 endif()
 
 set(package ${CMAKE_SOURCE_DIR}/package)
-set(pictures ${CMAKE_SOURCE_DIR}/src/window/pictures)
 set(made ${CMAKE_BINARY_DIR}/package)
 file(MAKE_DIRECTORY ${made})
 
@@ -37,8 +36,8 @@ file(CREATE_LINK ../lib/tensarix/tensarix ${made}/tensarix SYMBOLIC)
 tensarix_system(FILES ${made}/tensarix DESTINATION bin)
 tensarix_system(FILES ${package}/tensarix.desktop DESTINATION share/applications)
 tensarix_system(FILES ${package}/org.tensarix.tensarix.metainfo.xml DESTINATION share/metainfo)
-tensarix_system(FILES ${pictures}/tensarix.svg DESTINATION share/icons/hicolor/scalable/apps)
-tensarix_system(FILES ${pictures}/tensarix-symbolic.svg
+tensarix_system(FILES ${package}/tensarix.svg DESTINATION share/icons/hicolor/scalable/apps)
+tensarix_system(FILES ${package}/tensarix-symbolic.svg
   DESTINATION share/icons/hicolor/symbolic/apps)
 tensarix_system(FILES ${package}/copyright DESTINATION share/doc/tensarix)
 

@@ -1,11 +1,11 @@
 # shellcheck shell=bash disable=SC2034 # what it sets is used where it is sourced
 # What the scripts share: the packages, and one build of a preset.
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-svg-dev libgl-dev \
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev libgl-dev \
 libsqlite3-dev libgtest-dev libbenchmark-dev fonts-dejavu-core"
 SPEECH_PACKAGES="speech-dispatcher speech-dispatcher-espeak-ng"
 TEST_PACKAGES="xvfb xauth dpkg-dev file desktop-file-utils appstream xdotool xclip"
-LIGHT_CHECK_PACKAGES="clang-format cppcheck shellcheck python3"
+LIGHT_CHECK_PACKAGES="clang-format cppcheck shellcheck"
 TIDY_PACKAGES="clang-tidy"
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix dpkg-dev tcl nsis zip"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks the sources without running them: format, scripts, drawings and cppcheck, which is quick,
+# Checks the sources without running them: format, scripts and cppcheck, which is quick,
 # then clang-tidy, which is not.
 #   tools/check_code.sh          everything
 #   tools/check_code.sh light    without clang-tidy
@@ -13,10 +13,9 @@ cores=$(nproc)
 sources() { find src tests tools bench cmake .ci ./*.sh -type f \( "$@" \); }
 
 check_light() {
-    say "Checking format, scripts, drawings"
+    say "Checking format and scripts"
     sources -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run --Werror || fail "clang-format -i mends the format"
     sources -name '*.sh' -o -path .ci/run | xargs shellcheck -x || fail "shellcheck has found faults"
-    python3 tools/drawings/drawings.py --check || fail "the drawings are not what tools/drawings writes"
     say "Checking with cppcheck"
     mkdir -p build/cppcheck
     cppcheck --quiet --error-exitcode=1 -j "$cores" --cppcheck-build-dir=build/cppcheck \

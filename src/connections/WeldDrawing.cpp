@@ -157,6 +157,17 @@ Drawing Weld_Group_Drawing(const WeldPicture& picture) {
     return drawing;
 }
 
+std::vector<Line> Weld_Icon(int item) {
+    constexpr double length = 34, lyingLeg = 22, angleLeg = 26, usual = 20; // of iconSide
+    const double uprightLeg = Has_Y(item) ? angleLeg : usual;
+    const Group group = Group_Of(item, length, Is_Lying(item) ? lyingLeg : uprightLeg);
+    const double x = (group.Left + group.Right) / 2, y = (group.Bottom + group.Top) / 2;
+    std::vector<Line> lines;
+    for (const WeldLine& line : group.Lines)
+        lines.push_back({{line.x1 - x, line.y1 - y}, {line.x2 - x, line.y2 - y}});
+    return lines;
+}
+
 void WeldPasses::Add(const WeldPassLoads& pass) {
     constexpr std::size_t most = 512;
     // Behind the kept ones the latest stands until it is known whether it is kept.

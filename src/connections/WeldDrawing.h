@@ -1,5 +1,5 @@
-// The weld group of the page, drawn to scale with its load and with the centre it turns about; and
-// the two loads of a search against the place of its centre.
+// The weld group of the page, drawn to scale with its load and with the centre it turns about; the
+// icons of the configurations; and the two loads of a search against the place of its centre.
 #pragma once
 
 #include "connections/Balance.h"
@@ -21,6 +21,9 @@ struct WeldPicture {
 // From the centroid. Until L and kL are known, the configuration as it is in general, by its
 // symbols alone. Empty where there are no lines of any length.
 Drawing Weld_Group_Drawing(const WeldPicture& picture);
+
+// The lines of an item, 1 to 9, as the icon of a list.
+std::vector<Drawn::Line> Weld_Icon(int item);
 
 // One pass of a search: the place of its centre, and the loads by vertical forces and by moments.
 struct WeldPassLoads {

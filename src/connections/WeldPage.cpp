@@ -69,7 +69,7 @@ void WeldPage::Initialize_WeldView() {
     WeldView.Clear();
     for (int i = 1; i <= weldConfigurationCount; ++i) {
         const std::string key = "weld" + std::to_string(i);
-        WeldView.Add({key, "Weld Configuration " + std::to_string(i), key});
+        WeldView.Add({key, "Weld Configuration " + std::to_string(i), Weld_Icon(i)});
     }
     WeldView.Select(WeldConfigIndex);
     Attempt([this] {

@@ -190,7 +190,7 @@ class TabControl {
     int tab_ = 0;
 };
 
-// A drawing, by the name under which the program holds it; an empty name shows nothing.
+// Which picture belongs to what is chosen, by its name; empty where there is none.
 class Picture {
   public:
     Handler OnMouseMove;

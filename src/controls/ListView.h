@@ -1,6 +1,7 @@
 // A list of items with icons, of which one is the current one.
 #pragma once
 
+#include "controls/Drawing.h"
 #include "controls/View.h"
 
 #include <string>
@@ -8,10 +9,12 @@
 
 namespace Tensarix {
 
+inline constexpr double iconSide = 48; // of the square that an icon stands in
+
 struct ListItem {
     std::string Key;
     std::string Text;
-    std::string Icon; // the name under which the program holds the drawing
+    std::vector<Drawn::Line> Icon; // about the middle of its square, y upward
 };
 
 // Items count from 1.

@@ -3,7 +3,6 @@
 #include "window/Link.h"
 #include "window/MouseWatch.h"
 #include "window/To_Qt.h"
-#include "window/drawing/PictureView.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -118,11 +117,6 @@ void Bind(QAction* action, MenuItem& control) {
         control.Click();
         pull();
     });
-}
-
-void Bind(PictureView* widget, Picture& control) {
-    new Link(widget, control.Shown, [widget, &control] { widget->Show_Picture(control.Name()); });
-    Watch_Mouse(widget, [&control] { Run(control.OnMouseMove); });
 }
 
 } // namespace Tensarix

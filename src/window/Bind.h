@@ -24,7 +24,6 @@ namespace Tensarix {
 class DrawingView;
 class GridView;
 class Link;
-class PictureView;
 
 // Checks the option, which is then the one of its group that Tab goes to.
 void Choose(QAbstractButton* option);
@@ -49,7 +48,6 @@ void Bind(QTabWidget* widget, TabControl& control);
 void Bind(QLineEdit* widget, ResultBox& control);
 void Bind(QStatusBar* widget, StatusBar& control);
 void Bind(QAction* action, MenuItem& control);
-void Bind(PictureView* widget, Picture& control);
 void Bind(DrawingView* widget, DrawingBox& control);
 void Bind(GridView* widget, FlexGrid& control);
 

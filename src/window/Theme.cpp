@@ -1,7 +1,5 @@
 #include "window/Theme.h"
 
-#include <QFile>
-
 #include <algorithm>
 
 namespace Tensarix {
@@ -18,19 +16,6 @@ constexpr ColourPair darkColours[] = {
     {Colours::HeadText, 0xFFA39A},
     {Colours::SymbolText, 0x8AB8FF},
     {Colours::NameText, 0xA9C7FF},
-};
-
-// The colours that the drawings use, and what stands for them under a dark theme.
-struct KeyColour {
-    const char* Key;
-    const char* Dark;
-};
-
-constexpr KeyColour keyColours[] = {
-    {"#101010", "#e8e8e8"}, // ink
-    {"#d9e2ec", "#3a4652"}, // body
-    {"#1f5fa8", "#7fb4f0"}, // measure
-    {"#a83232", "#f08080"}, // axis
 };
 
 // By ink: its colour under a light theme and under a dark one.
@@ -87,17 +72,6 @@ QColor Tint_Colour(Drawn::Ink ink, const QPalette& palette) {
     QColor tint = Ink_Colour(ink == Drawn::Ink::Body ? Drawn::Ink::Measure : ink, palette);
     tint.setAlphaF(tintPart);
     return tint;
-}
-
-QByteArray Picture_Text(const QString& name, const QPalette& palette) {
-    QFile file(QStringLiteral(":/pictures/") + name + QStringLiteral(".svg"));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray text = file.readAll();
-    if (Is_Dark(palette))
-        for (const KeyColour& colour : keyColours)
-            text.replace(colour.Key, colour.Dark);
-    return text;
 }
 
 } // namespace Tensarix

@@ -1,13 +1,11 @@
-// Colours and drawings under the palette of the desktop, light or dark.
+// Colours under the palette of the desktop, light or dark.
 #pragma once
 
 #include "controls/Drawing.h"
 #include "controls/FlexGrid.h"
 
-#include <QByteArray>
 #include <QColor>
 #include <QPalette>
-#include <QString>
 
 namespace Tensarix {
 
@@ -23,9 +21,5 @@ QColor Grid_Line_Colour(const QPalette& palette);
 // The colour of an ink on the background of a window, and a light tint of it.
 QColor Ink_Colour(Drawn::Ink ink, const QPalette& palette);
 QColor Tint_Colour(Drawn::Ink ink, const QPalette& palette);
-
-// The picture of that name with the key colours of its file replaced by the palette's; empty if
-// the program holds none.
-QByteArray Picture_Text(const QString& name, const QPalette& palette);
 
 } // namespace Tensarix

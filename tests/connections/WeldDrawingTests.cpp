@@ -2,9 +2,11 @@
 #include "connections/SearchStandIns.h"
 #include "connections/WeldConfigurations.h"
 #include "connections/WeldDrawing.h"
+#include "controls/ListView.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -67,6 +69,20 @@ TEST(WeldDrawing, BeforeTheInputsAreCompleteOnlySymbols) {
     EXPECT_TRUE(Weld_Group_Drawing(Complete(6, 0, 0, 3, 0)).Empty());
     EXPECT_EQ(Parts_Of<Drawn::Label>(Weld_Group_Drawing(Complete(1, 10, 0, 3, 0)), "Weld").size(),
               1); // tells that it is two lines
+}
+
+TEST(WeldDrawing, IconsStandInTheMiddleOfTheirSquare) {
+    for (int item = 1; item <= weldConfigurationCount; ++item) {
+        double left = iconSide, right = -iconSide, bottom = iconSide, top = -iconSide;
+        for (const Line& line : Weld_Icon(item))
+            for (const Point& end : {line.From, line.To}) {
+                left = std::min(left, end.X), right = std::max(right, end.X);
+                bottom = std::min(bottom, end.Y), top = std::max(top, end.Y);
+            }
+        EXPECT_NEAR(left + right, 0, 1e-9) << item;
+        EXPECT_NEAR(bottom + top, 0, 1e-9) << item;
+        EXPECT_NEAR(std::max(right - left, top - bottom), 34, 1e-9) << item; // the base length
+    }
 }
 
 TEST(WeldDrawing, TextsStayApart) {

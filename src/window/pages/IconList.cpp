@@ -9,21 +9,26 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QSvgRenderer>
 
 namespace Tensarix {
 
 namespace {
 
 constexpr int iconPixels = 36;
+constexpr double penWidth = 4.6; // of iconSide
 
-QPixmap Icon(const QString& name, const QPalette& palette, qreal ratio) {
+QPixmap Icon(const std::vector<Drawn::Line>& lines, const QPalette& palette, qreal ratio) {
     QPixmap icon(QSize(iconPixels, iconPixels) * ratio);
     icon.setDevicePixelRatio(ratio);
     icon.fill(Qt::transparent);
-    QSvgRenderer drawing(Picture_Text(name, palette));
     QPainter painter(&icon);
-    drawing.render(&painter, QRectF(0, 0, iconPixels, iconPixels));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        QPen(Ink_Colour(Drawn::Ink::Body, palette), penWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.scale(iconPixels / iconSide, iconPixels / iconSide);
+    painter.translate(iconSide / 2, iconSide / 2);
+    for (const Drawn::Line& line : lines)
+        painter.drawLine(QPointF(line.From.X, -line.From.Y), QPointF(line.To.X, -line.To.Y));
     return icon;
 }
 
@@ -60,11 +65,11 @@ void IconList::Pull() {
 
 void IconList::Draw_Icons() {
     for (int i = 0; i < count(); ++i) {
-        const QString name = QString::fromStdString(list_->Item(i + 1).Icon);
-        QIcon icon(Icon(name, palette(), devicePixelRatioF()));
+        const std::vector<Drawn::Line>& lines = list_->Item(i + 1).Icon;
+        QIcon icon(Icon(lines, palette(), devicePixelRatioF()));
         QPalette chosen = palette();
         chosen.setColor(QPalette::Base, palette().color(QPalette::Highlight));
-        icon.addPixmap(Icon(name, chosen, devicePixelRatioF()), QIcon::Selected);
+        icon.addPixmap(Icon(lines, chosen, devicePixelRatioF()), QIcon::Selected);
         item(i)->setIcon(icon);
     }
 }
