@@ -1,4 +1,5 @@
 #include "LaidOut.h"
+#include "Walk.h"
 #include "connections/BoltDrawing.h"
 #include "connections/BoltFunctions.h"
 
@@ -113,7 +114,7 @@ TEST(BoltDrawing, TextsStayApart) {
     const auto between = [&random](double low, double high) {
         return low + (high - low) * static_cast<double>(random() % 1000) / 999;
     };
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 60; i += Tests::walkStep) {
         const BoltGroup group{static_cast<std::int16_t>(between(1, 13)),
                               static_cast<std::int16_t>(between(1, 6)), between(0, 6),
                               between(0, 9)};

@@ -22,10 +22,6 @@ QWidget* Make_Browse_Form(BrowsePage& page, QWidget* parent) {
     Bind(ui.BaseImage, page.SectionDrawing);
     Watch_Mouse(ui.BaseImage, [&page] { Run(page.BaseImage.OnMouseMove); });
     Bind(ui.ShapeLabel, page.ShapeLabel);
-    for (QWidget* option : {ui.ProfileOption1, ui.ProfileOption2})
-        Label_Of(option, ui.ProfileFrame->accessibleName());
-    for (QWidget* option : {ui.DimOption1, ui.DimOption2})
-        Label_Of(option, ui.DimFrame->accessibleName());
     Bind(ui.ShapeFlex, page.ShapeFlex);
     ui.ShapeFlex->Take_What_Is_Needed();
     for (QWidget* option : {ui.ProfileOption1, ui.ProfileOption2})
