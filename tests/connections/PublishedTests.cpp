@@ -77,6 +77,7 @@ TEST(Published, BoltCoefficients) {
     ASSERT_EQ(figures.size(), 122u);
     std::map<std::string, Spread> spreads;
     Tests::Largest cells, others;
+    Tests::FromPrint prints;
     for (const Printed& figure : figures) {
         const BoltGroup group{figure.Count("m"), figure.Count("n"), figure.Number("sv"),
                               figure.Number("sh")};
@@ -88,16 +89,21 @@ TEST(Published, BoltCoefficients) {
         const double off = std::abs(computed - printed) / figure.Unit();
         EXPECT_LE(off, figure.Is_Cell() ? 0.51 : 2) << figure.at;
         (figure.Is_Cell() ? cells : others).Take(off, figure.at);
+        prints.Take(isC ? figure.Is_Cell() ? "Bolts, cells of tables" : "Bolts, interpolated"
+                        : "Bolts, C'",
+                    computed, printed, figure.Unit());
         if (!isC)
             continue;
         CountingTurn turn;
         SearchYield yield(std::ref(turn));
         const double C = BoltCoefficientC(group, ex, angle, yield);
         spreads[figure["source"]].excess.push_back(C / printed - 1);
+        prints.Take("Bolts, required C", C, printed, figure.Unit());
         const bool isFar = std::abs(C - printed) > boltRemarkTolerance * printed + figure.Unit();
         EXPECT_TRUE(!isFar || !Balance_Remark(C, balance, boltRemarkTolerance).Text.empty())
             << figure.at;
     }
+    prints.Record();
     cells.Record("units of the last digit, cells");
     others.Record("units of the last digit, interpolated");
     for (auto& [family, spread] : spreads)
@@ -111,6 +117,7 @@ TEST(Published, WeldCoefficients) {
     std::map<std::string, Spread> spreads;
     std::map<std::string, Tests::Largest> deviations;
     int searched = 0;
+    Tests::FromPrint prints;
     for (const Printed& figure : figures) {
         const int item = figure.Count("item");
         const double kL = L * figure.Number("k"), aL = L * figure.Number("a");
@@ -124,6 +131,8 @@ TEST(Published, WeldCoefficients) {
         const std::string family = "item " + figure["item"] + ", " +
                                    figure["source"].substr(0, 26) + (aL == 0 ? ", a = 0" : "");
         deviations[family].Take(off / printed, figure.at);
+        prints.Take(aL == 0 ? "Welds, a = 0" : "Welds, item " + figure["item"], balance->C, printed,
+                    unit);
         if (++searched % Tests::walkStep != 0)
             continue;
         WeldBench bench;
@@ -131,10 +140,12 @@ TEST(Published, WeldCoefficients) {
         WeldSearch search{bench.state, bench.display, rare};
         const double C = Weld_Configuration_Result(item, L, kL, aL, angle, weldModeC, search);
         spreads[family].excess.push_back(C / printed - 1);
+        prints.Take("Welds, required C", C, printed, unit);
         const bool isFar = std::abs(C / printed - 1) > weldRemarkTolerance + 0.006;
         EXPECT_TRUE(!isFar || !Balance_Remark(C, balance, weldRemarkTolerance).Text.empty())
             << figure.at;
     }
+    prints.Record();
     for (auto& [family, spread] : spreads) {
         spread.Record("required C, " + family);
         deviations[family].Record("balanced C, " + family);
