@@ -5,7 +5,9 @@
     build/release/tools/CheckSectionFigures data/sections build/release/program --deviations > sections.txt
     tools/deviations.py beam.xml connections.xml calculator.xml sections.txt
 
-writes docs/pictures/deviations.svg, and the count and the worst of each row to the terminal. The
+    rsvg-convert -z 2 build/deviations.svg -o docs/pictures/deviations.png
+
+The tool writes build/deviations.svg, and the count and the worst of each row to the terminal. The
 tests record what is read here by FromPrint (tests/Largest.h).
 """
 
@@ -16,7 +18,7 @@ import sys
 import xml.etree.ElementTree as tree
 from xml.sax.saxutils import escape
 
-TARGET = pathlib.Path(__file__).parent.parent / "docs/pictures/deviations.svg"
+TARGET = pathlib.Path(__file__).parent.parent / "build/deviations.svg"
 ORDER = ("Sections", "Strengths", "Shear", "Bolts", "Welds", "Physical", "Conversion")
 FAMILIES = {"W": "W, WT", "WT": "W, WT", "HSS-Rec": "hollow", "HSS-Sqr": "hollow",
             "HSS-Rnd": "hollow", "Pipe": "hollow", "L-Eq": "angles", "L-UnEq": "angles",

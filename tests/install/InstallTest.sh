@@ -77,7 +77,8 @@ use() { # PROGRAM NAME
     program=$!
     wait_for 20 window || fail "$1 shows no window: $(cat "$work/$2.log")"
     at_desk xdotool search --onlyvisible --name "^Tensarix v$version " windowfocus --sync
-    at_desk xdotool key alt+d shift+F10 Up Up Return
+    # From below: two ways to travel, "Exit", "Copy All".
+    at_desk xdotool key alt+d shift+F10 Up Up Up Up Return
     wait_for 5 copied A "$first_area" || fail "$1 doesn't show the figures of the first section"
     at_desk xdotool key ctrl+x
     wait "$program" || fail "$1 ended with $?: $(cat "$work/$2.log")"
@@ -118,6 +119,7 @@ fi
 mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers}
 touch "$root/var/lib/dpkg/status"
 admin --install "$package"
+[ -s "$root/usr/lib/tensarix/guide/guide.md" ] || fail "the package has no guide"
 [ "$(find "$root/usr" -type f -perm /111)" = "$root/usr/lib/tensarix/tensarix" ] ||
     fail "the package should have one program: $(outside_admin)"
 chmod a-w "$root/usr/lib/tensarix"
