@@ -24,7 +24,8 @@ function(tensarix_room_includes room target scope)
 endfunction()
 
 # tensarix_room(name [USES rooms...] [LIBRARIES targets...])
-# builds src/name/*.cpp into the library tensarix_name, and tests/name/*.cpp into name_tests.
+# builds src/name/*.cpp into the library tensarix_name, and tests/name/*.cpp into the program
+# name_tests.
 function(tensarix_room name)
   cmake_parse_arguments(ROOM "" "" "USES;LIBRARIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
@@ -44,25 +45,34 @@ function(tensarix_room name)
   endif()
 endfunction()
 
+# tensarix_program(name sources...): a program beside the one that users start. Its target has the
+# project's prefix, as every target has; its file has not.
+function(tensarix_program name)
+  add_executable(tensarix_${name} ${ARGN})
+  set_target_properties(tensarix_${name} PROPERTIES OUTPUT_NAME ${name})
+  target_link_libraries(tensarix_${name} PRIVATE tensarix_flags)
+endfunction()
+
 # tensarix_tests(name [targets...]): tests/name/*.cpp as one program, run by CTest.
 function(tensarix_tests name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
   if(NOT sources)
     return()
   endif()
-  add_executable(${name}_tests ${sources})
-  target_include_directories(${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  target_compile_definitions(${name}_tests PRIVATE
+  set(tests tensarix_${name}_tests)
+  tensarix_program(${name}_tests ${sources})
+  target_include_directories(${tests} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${tests} PRIVATE
     TENSARIX_SOURCE_DIR="${CMAKE_SOURCE_DIR}" TENSARIX_PROGRAM_DIR="${CMAKE_BINARY_DIR}/program")
-  target_link_libraries(${name}_tests PRIVATE $<TARGET_NAME_IF_EXISTS:tensarix_${name}> ${ARGN} GTest::gtest GTest::gtest_main
-    tensarix_flags)
+  target_link_libraries(${tests} PRIVATE
+    $<TARGET_NAME_IF_EXISTS:tensarix_${name}> ${ARGN} GTest::gtest GTest::gtest_main)
   # Tests compile faster so; under the sanitizers what they call is still optimized.
-  target_compile_options(${name}_tests PRIVATE $<IF:$<BOOL:${TENSARIX_SANITIZE}>,-O0,-O1>)
+  target_compile_options(${tests} PRIVATE $<IF:$<BOOL:${TENSARIX_SANITIZE}>,-O0,-O1>)
   list(LENGTH sources files)
   if(files GREATER 2)
-    target_precompile_headers(${name}_tests PRIVATE <gtest/gtest.h>)
+    target_precompile_headers(${tests} PRIVATE <gtest/gtest.h>)
   endif()
-  tensarix_add_test(${name} ${name}_tests)
+  tensarix_add_test(${name} ${tests})
 endfunction()
 
 # add_test, and what the sanitizers have to know of the libraries around us.
