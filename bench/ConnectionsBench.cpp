@@ -54,8 +54,7 @@ void BM_BoltGroups(benchmark::State& state) {
         },
         [&] {
             for (const BoltCase& each : cases)
-                benchmark::DoNotOptimize(
-                    Balanced_Bolt_Coefficient(each.group, each.ex, each.angle));
+                benchmark::DoNotOptimize(Balanced_Bolts(each.group, each.ex, each.angle));
         });
     state.counters["longest_ms"] = longest * 1e3;
 }

@@ -4,6 +4,7 @@
 // The environment's QT_SCALE_FACTOR is the screen's. The user's own settings and data are left
 // alone. The same program makes the same pictures.
 #include "EveryScreen.h"
+#include "window/To_Qt.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -54,7 +55,7 @@ bool Read_Arguments(const QStringList& arguments, Wishes& wishes) {
 // "find, note" is find-note.png.
 QString File_Name(const std::string& screen, const QString& suffix) {
     static const QRegularExpression between(QStringLiteral("[^A-Za-z0-9]+"));
-    const QStringList words = QString::fromStdString(screen).split(between, Qt::SkipEmptyParts);
+    const QStringList words = To_Qt(screen).split(between, Qt::SkipEmptyParts);
     return words.join(QLatin1Char('-')) + suffix + QStringLiteral(".png");
 }
 
@@ -77,7 +78,7 @@ bool Take_Pictures(const Wishes& wishes, const QString& suffix) {
         QTextStream(stdout) << path << '\n';
     };
     for (const std::string& fault : For_Each_Screen(program, take))
-        faults.append(QString::fromStdString(fault));
+        faults.append(To_Qt(fault));
     program.Window().close();
     for (const QString& fault : faults)
         QTextStream(stderr) << fault << '\n';

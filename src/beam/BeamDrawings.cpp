@@ -17,9 +17,6 @@ using namespace Drawn;
 constexpr std::string_view twoDecimals = "0.00";
 constexpr std::array methods{BeamMethod::ASD9th, BeamMethod::ASD13th, BeamMethod::LRFD13th};
 
-std::string Length_Text(double feet) {
-    return Format_FeetInch(feet, Sixteenths, 0, 0);
-}
 std::string Kips(double value) {
     return Format_Number(value, twoDecimals) + " Kips";
 }

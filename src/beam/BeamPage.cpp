@@ -1,7 +1,7 @@
 #include "beam/BeamPage.h"
 
 #include "beam/Shape_Init_For_AllowableLoad.h"
-#include "common/Extremes.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "measures/FeetInchFormatting.h"

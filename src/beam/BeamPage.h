@@ -92,7 +92,6 @@ class BeamPage {
     std::string Unsaid(const BeamInput& input, const BeamLoad& load) const;
     bool Is_Channel() const { return zShapeType.ListIndex() >= FirstChannelFamily; }
 
-    static std::string Length_Text(double feet);
     BeamSection Read_Section() const;
     BeamInput Read_Inputs() const;
     bool Is_9th_Edition() const { return AppliedCode.Tab() == Code9thEdition; }

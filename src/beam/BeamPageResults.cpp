@@ -22,10 +22,6 @@ void Add_Line(std::string& text, std::string_view line) {
 
 } // namespace
 
-std::string BeamPage::Length_Text(double feet) {
-    return Format_FeetInch(feet, Sixteenths, 0, 0);
-}
-
 // What the section doesn't have counts as 0, and never as the figure of the section before.
 BeamSection BeamPage::Read_Section() const {
     BeamSection section;

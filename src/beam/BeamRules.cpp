@@ -1,6 +1,6 @@
 #include "beam/BeamRules.h"
 
-#include "common/Extremes.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "measures/FeetInchParsing.h"
 

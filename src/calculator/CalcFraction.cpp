@@ -4,6 +4,7 @@
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcText.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 
@@ -64,12 +65,7 @@ constexpr std::size_t searchedDigits = 14;
 
 // 0 if b is 0. Fails beyond 32 bits.
 double Greatest_Divisor(double a, double b) {
-    double divisor = Whole_32(b);
-    if (IsZero(divisor))
-        return 0;
-    double rest = std::fmod(Whole_32(a), divisor);
-    while (!IsZero(rest))
-        divisor = std::exchange(rest, std::fmod(divisor, rest));
+    const double divisor = Greatest_Common_Divisor(Whole_32(a), Whole_32(b));
     return Whole_32(std::abs(divisor));
 }
 

@@ -9,6 +9,7 @@
 #include "calculator/CalcMemory.h"
 #include "calculator/CalcStatistics.h"
 #include "calculator/CalcText.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "common/Utf8.h"

@@ -29,7 +29,7 @@ constexpr struct {
                  {"exp", Key_Exponent}, {"ers", Key_Erase}, {"PI", Key_Pi}};
 
 bool Is_Digit_Token(std::string_view token) {
-    return token.size() == 1 && token.front() >= '0' && token.front() <= '9';
+    return token.size() == 1 && Is_Digit(token.front());
 }
 
 void Begin_Operator(CalcMainFrm& form, std::string_view token) {

@@ -24,38 +24,11 @@ constexpr std::string_view memorySection = Setting::MemoryIn.Section;
 constexpr std::string_view memoryKey = Setting::MemoryIn.Name;
 constexpr std::size_t maxDescription = 65535; // bytes, what two bytes of length can count
 
-bool Is_Continuation(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
-
 std::string Cut_Description(const std::string& text) {
     std::size_t length = std::min(text.size(), maxDescription);
-    while (length > 0 && length < text.size() && Is_Continuation(text[length]))
+    while (length > 0 && length < text.size() && Continues_Utf8(text[length]))
         --length;
     return text.substr(0, length);
-}
-
-// Bytes that follow the first byte of a UTF-8 character; -1 if none begins so.
-int Following_Bytes(unsigned char first) {
-    if (first < 0x80)
-        return 0;
-    if (first >= 0xC2 && first < 0xE0)
-        return 1;
-    if (first >= 0xE0 && first < 0xF0)
-        return 2;
-    return first >= 0xF0 && first < 0xF5 ? 3 : -1;
-}
-
-bool Is_Utf8(std::string_view text) {
-    for (std::size_t i = 0; i < text.size();) {
-        const int following = Following_Bytes(static_cast<unsigned char>(text[i++]));
-        if (following < 0)
-            return false;
-        for (int k = 0; k < following; ++k, ++i)
-            if (i >= text.size() || !Is_Continuation(text[i]))
-                return false;
-    }
-    return true;
 }
 
 std::string To_Utf8(const std::string& text) {
@@ -74,7 +47,7 @@ std::string Rest_Of_Description(ByteReader& reader) {
     reader.Int16();
     std::string text = reader.Text(reader.Left());
     std::string whole = text;
-    while (!whole.empty() && Is_Continuation(whole.back()))
+    while (!whole.empty() && Continues_Utf8(whole.back()))
         whole.pop_back();
     if (!whole.empty() && !Is_Utf8(text))
         whole.pop_back(); // the first byte of a broken character

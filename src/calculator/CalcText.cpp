@@ -1,5 +1,6 @@
 #include "calculator/CalcText.h"
 
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 
@@ -159,10 +160,6 @@ bool IsNegative(double value) {
 
 bool HasPoint(std::string_view text) {
     return Holds(Trim(text), '.');
-}
-
-double Sign_Of(double value) {
-    return value > 0 ? 1 : value < 0 ? -1 : 0;
 }
 
 double Checked_Power(double x, double y) {

@@ -52,7 +52,6 @@ bool Equal_To_Decimals(double a, double b, int decimals);
 bool IsZero(double value);
 bool IsNegative(double value);
 bool HasPoint(std::string_view text);
-double Sign_Of(double value); // -1, 0 or 1
 
 // x ^ y; fails where a negative base has no real power, and out of range.
 double Checked_Power(double x, double y);

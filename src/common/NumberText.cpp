@@ -16,10 +16,6 @@ constexpr int significantDigits = 15;
 // Enough digits that a text which looks like a tie at the fifteenth digit is one.
 constexpr int exactDigits = 60;
 
-bool Is_Digit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 // "d.ddde+xx" as std::to_chars writes it.
 DecimalText Parse_Scientific(std::string_view text) {
     DecimalText number;
@@ -168,15 +164,6 @@ int Split_Exponent(DecimalText& number, const Pattern& p) {
     return exponent;
 }
 
-// Blanks are skipped wherever they stand.
-std::string Without_Blanks(std::string_view text) {
-    std::string packed;
-    for (const char c : text)
-        if (c != ' ')
-            packed += c;
-    return packed;
-}
-
 // Length of the longest run from the start that forms a decimal number; 0 if there is none.
 std::size_t Number_Length(std::string_view text) {
     std::size_t i = 0;
@@ -288,7 +275,7 @@ bool Is_Numeric(std::string_view text) {
 }
 
 double Leading_Value(std::string_view text) {
-    const std::string packed = Without_Blanks(text);
+    const std::string packed = Replace_All(text, " ", {});
     const std::size_t length = Number_Length(packed);
     double value = 0;
     if (length > 0 && !Read_Double(std::string_view{packed}.substr(0, length), value))

@@ -51,6 +51,10 @@ double Round_Half_Even(double value);
 std::int16_t Whole_16(double value);
 std::int32_t Whole_32(double value);
 
+inline bool Is_Digit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 // Without the blanks at both ends.
 std::string Trim(std::string_view text);
 

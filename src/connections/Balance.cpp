@@ -396,17 +396,6 @@ std::optional<Balance> Balanced_Welds(int item, double L, double kL, double aL, 
     return In_The_Groups_Frame(C, centre, theta, side, 1);
 }
 
-std::optional<double> Balanced_Bolt_Coefficient(const BoltGroup& group, double ex, double angle) {
-    const auto balance = Balanced_Bolts(group, ex, angle);
-    return balance ? std::optional(balance->C) : std::nullopt;
-}
-
-std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, double aL,
-                                                double angle) {
-    const auto balance = Balanced_Welds(item, L, kL, aL, angle);
-    return balance ? std::optional(balance->C) : std::nullopt;
-}
-
 double Excess_Over(const std::optional<Balance>& balance, double shown, double tolerance) {
     if (!balance || !(balance->C > 0) || !std::isfinite(shown))
         return 0;

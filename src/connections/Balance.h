@@ -25,15 +25,12 @@ struct Balance {
 // (1 - e^(-10 D))^0.55. Lengths in one unit, the angle in degrees. None where there is no group,
 // the numbers are out of range, the group is larger than a remark is worth, or no centre is found.
 std::optional<Balance> Balanced_Bolts(const BoltGroup& group, double ex, double angle);
-std::optional<double> Balanced_Bolt_Coefficient(const BoltGroup& group, double ex, double angle);
 
 // C of an item of the weld configurations, each element with its own deformation limits and its
 // true angle, the critical one by the smallest ultimate deformation over radius (AISC Manual,
 // tables 8-4 to 8-11). Arguments as for the configurations' routines. None as above, and for L <=
 // 0.
 std::optional<Balance> Balanced_Welds(int item, double L, double kL, double aL, double angle);
-std::optional<double> Balanced_Weld_Coefficient(int item, double L, double kL, double aL,
-                                                double angle);
 
 // Differences of more than this part of the balanced C are worth a remark. The bolt search counts
 // the farthest bolt with 1, which alone makes 1.9 per cent.

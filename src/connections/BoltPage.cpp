@@ -1,6 +1,6 @@
 #include "connections/BoltPage.h"
 
-#include "common/Extremes.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "connections/Balance.h"
@@ -73,8 +73,7 @@ int CountBoltRows(const FlexGrid& grid) {
 }
 
 void ModifyTextC(TextBox& editor) {
-    if (!Trim(editor.Text()).empty())
-        editor.Set_Text(Format_Number(Typed_Number(editor.Text()), inputPattern));
+    editor.Set_Text(Typed_In_Pattern(editor.Text(), inputPattern));
 }
 
 BoltPage::BoltPage(Desk& desk)
@@ -149,11 +148,7 @@ void BoltPage::Init_cFlex() {
     cFlex.Set_Word_Wrap(true);
     for (int col = 0; col < BoltColumn::Count; ++col) {
         cFlex.Set_Col_Width(col, widths[col]);
-        cFlex.Set_Style(0, col,
-                        {.Align = Alignment::Centre,
-                         .Tahoma = true,
-                         .Fore = Colours::HeadText,
-                         .Back = Colours::HeadBack});
+        cFlex.Set_Style(0, col, HeadStyle);
         cFlex.Set_Text(0, col, heads[col]);
     }
     cFlex.Set_Remark(0, BoltColumn::C, std::string{farthestBoltRemark});

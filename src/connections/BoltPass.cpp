@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "connections/BoltFunctions.h"
 #include "connections/Numbers.h"
@@ -74,7 +75,7 @@ void Take_Pass_Step_By_Step(std::vector<TurnedBolt>& bolts, double Ro, BoltPass&
         Keep(pass.Delta, (ultimateBoltDeformation * pass.d) / dmax);
         Keep(pass.R, Bolt_Force(pass.Delta));
         Keep(pass.SM, pass.SM + (pass.R / Rmax()) * pass.d);
-        Keep(pass.SV, pass.SV + Sgn(pass.X) * ((pass.R / Rmax()) * std::abs(pass.X / pass.d)));
+        Keep(pass.SV, pass.SV + Sign_Of(pass.X) * ((pass.R / Rmax()) * std::abs(pass.X / pass.d)));
         Keep(pass.SD, pass.SD + pass.d * pass.d);
     });
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "connections/Numbers.h"
@@ -57,8 +58,8 @@ inline void WeldCut::Take(const WeldLine& line, std::int16_t stripsPerUnit) {
     a = line.lineAngle;
     cosA = std::cos(a);
     sinA = std::sin(a);
-    sx = Sgn(dx);
-    sy = Sgn(dy);
+    sx = Sign_Of(dx);
+    sy = Sign_Of(dy);
     x1 = line.x1;
     y1 = line.y1;
 }
@@ -99,7 +100,7 @@ inline WeldElement Element_At(const WeldCut& cut, const WeldAngles& at, std::siz
     WeldElement element;
     const double degrees = std::abs((at.phi * 180.0) / pi);
     if (std::isfinite(at.X))
-        element.forceSign = static_cast<std::int16_t>(Sgn(at.X));
+        element.forceSign = static_cast<std::int16_t>(Sign_Of(at.X));
     element.theta = std::abs(at.phi);
     element.radiusAngle = at.beta;
     element.r = at.r;

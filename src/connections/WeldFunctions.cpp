@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "common/Extremes.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "connections/Numbers.h"
 #include "connections/WeldPass.h"

@@ -25,8 +25,7 @@ double Compared(const std::string& text) {
 } // namespace
 
 void ModifyTextWeld(TextBox& editor) {
-    if (!Trim(editor.Text()).empty())
-        editor.Set_Text(Format_Number(Typed_Number(editor.Text()), inputPattern));
+    editor.Set_Text(Typed_In_Pattern(editor.Text(), inputPattern));
 }
 
 WeldPage::WeldPage(Desk& desk)

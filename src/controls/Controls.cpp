@@ -121,16 +121,6 @@ void ComboBox::Set_Place(const Placement& place) {
     Change_Place(place_, place, Shown);
 }
 
-int Find_By_Typing(const ComboBox& list, const std::string& typed) {
-    const std::string wanted = Upper(typed);
-    int best = -1;
-    for (int i = 0; i < list.Count(); ++i)
-        if (Upper(list.Item(i)).starts_with(wanted) &&
-            (best < 0 || list.Item(i).size() <= list.Item(best).size()))
-            best = i;
-    return best;
-}
-
 int TextBox::Length() const {
     return Utf8_Length(text_);
 }

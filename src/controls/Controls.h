@@ -141,11 +141,6 @@ class ComboBox {
     bool visible_ = true;
 };
 
-// The position that a typed beginning means, letter case free; -1: none. Of the items that begin
-// so, the shortest counts, and of equally short ones the last: a designation that is typed in full
-// is found although a longer one stands before it, and of a group the lightest.
-int Find_By_Typing(const ComboBox& list, const std::string& typed);
-
 class TextBox {
   public:
     Handler OnChange;

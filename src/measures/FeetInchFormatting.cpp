@@ -1,5 +1,6 @@
 #include "measures/FeetInchFormatting.h"
 
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "measures/FeetInchParsing.h"
@@ -14,8 +15,7 @@ namespace {
 constexpr std::int16_t fold = 1; // the value of inchesOnly that folds feet into inches
 
 struct Length {
-    int Sign = 0; // -1, 0, 1
-    double Feet = 0;
+    double Sign = 0, Feet = 0; // -1, 0, 1; whole ones
     std::int16_t Inches = 0, Numerator = 0, Divisor = 0;
 };
 
@@ -27,7 +27,7 @@ std::int16_t Common_Divisor(std::int16_t numerator, std::int16_t denominator) {
 Length Split_Length(double value, std::int16_t denominator) {
     Length length;
     const double size = std::abs(Finite(value));
-    length.Sign = (value > 0 ? 1 : 0) - (value < 0 ? 1 : 0);
+    length.Sign = Sign_Of(value);
     length.Feet = std::trunc(size);
     const double rest = (size - length.Feet) * InchesPerFoot;
     length.Inches = Whole_16(std::trunc(rest));
@@ -152,20 +152,6 @@ std::string Form_To_Words(std::string_view text) {
 
 } // namespace
 
-double Float_Remainder(double a, double b) {
-    return Finite(a - std::trunc(Finite(a / b)) * b);
-}
-
-std::int32_t Greatest_Common_Divisor(double a, double b) {
-    if (b == 0)
-        return 0;
-    for (double rest = Float_Remainder(a, b); rest != 0; rest = Float_Remainder(a, b)) {
-        a = b;
-        b = rest;
-    }
-    return Whole_32(b);
-}
-
 std::string FeetInch_Digits(std::int16_t inchesOnly, double feet, double inches, double numerator,
                             std::int16_t g, std::int16_t denominator) {
     const double divisor = g;
@@ -212,6 +198,10 @@ std::string Format_FeetInch(double value, int denominator, int inchesOnly, int i
             inWords == 0 ? Digit_Form(length, folding, parts) : Word_Form(length, folding, parts);
     });
     return text;
+}
+
+std::string Length_Text(double feet) {
+    return Format_FeetInch(feet, Sixteenths, 0, 0);
 }
 
 std::string FeetInch_Text_To_Words(std::string_view text) {

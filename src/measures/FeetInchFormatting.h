@@ -21,6 +21,9 @@ inline constexpr int Sixteenths = 16;
 // feet in words, a denominator of 0 or beyond 16 bits.
 std::string Format_FeetInch(double value, int denominator, int inchesOnly, int inWords);
 
+// The same as it stands in the grids: 12'-6 3/8".
+std::string Length_Text(double feet);
+
 // feet, inches and the numerator are whole numbers; g is the greatest common divisor of numerator
 // and denominator, and fails if it is 0. Every text ends in the inch mark.
 std::string FeetInch_Digits(std::int16_t inchesOnly, double feet, double inches, double numerator,
@@ -36,11 +39,5 @@ std::string FeetInch_Words(std::int16_t inchesOnly, std::int16_t feet, std::int1
 // whole numbers, ties to even, and zero has no word: 12'-0" reads "Twelve Feet and  Inch"
 // in the read-out. Never fails.
 std::string FeetInch_Text_To_Words(std::string_view text);
-
-// Euclid's algorithm; 0 if b is 0, b if a is 0. Fails beyond 32 bits.
-std::int32_t Greatest_Common_Divisor(double a, double b);
-
-// a - trunc(a / b) * b, with the sign of a. Fails if b is 0 or the quotient is out of range.
-double Float_Remainder(double a, double b);
 
 } // namespace Tensarix

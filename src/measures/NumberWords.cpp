@@ -44,7 +44,7 @@ std::string Word_Of(const DigitWords& words, std::int16_t digit) {
 // 0 for anything that is no digit.
 std::int16_t Digit_At(std::string_view digits, std::size_t at) {
     const char c = at < digits.size() ? digits[at] : '0';
-    return static_cast<std::int16_t>(c >= '0' && c <= '9' ? c - '0' : 0);
+    return static_cast<std::int16_t>(Is_Digit(c) ? c - '0' : 0);
 }
 
 std::string_view Scale_Word(std::int16_t group) {

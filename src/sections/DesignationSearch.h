@@ -1,11 +1,10 @@
 // Finds sections by what a user types of their designation, over all families, in US and in SI
-// names: letter case and blanks are free, "*" counts as "x", and a fraction as its decimals, so
-// that 1/2, .5, 0.5 and 0.500 mean the same.
+// names, as TypedName reads it.
 #pragma once
 
+#include "controls/TypedName.h"
 #include "sections/PropertyTable.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -45,29 +44,17 @@ class DesignationSearch {
 
     std::size_t Count() const { return sections_.size(); }
 
-    // A name, prepared for the comparison.
-    struct Key {
-        struct Start { // of the whole, or of a number or word in it
-            std::uint8_t At, Level;
-        };
-        std::string Decimal, Literal; // with fractions as decimals; as it is written
-        std::vector<Start> DecimalStarts, LiteralStarts;
-    };
-
   private:
     struct Section {
         SectionPlace Place;
         std::string Names[2], Weights[2], Depths[2]; // by profile
-        Key Keys[2];
+        NameKey Keys[2];
     };
 
     FoundSection Found(const Section& section, Profile units, bool whole) const;
 
     std::vector<Section> sections_; // in the Manual's order
 };
-
-// The numbers of a designation, fractions as decimals: L8x6x7/16 gives 8, 6, 0.4375.
-std::vector<double> Numbers_In_Name(std::string_view name);
 
 // What to tell of a text that no section of a family is named by: "HSS8x8x1/2 is in the list of
 // Square HSS". Empty if it names none of another family either.

@@ -1,6 +1,6 @@
 #include "sections/TableGrid.h"
 
-#include "common/Extremes.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "sections/BrowseGrid.h"

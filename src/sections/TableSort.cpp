@@ -2,7 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/NumberText.h"
-#include "sections/DesignationSearch.h"
+#include "controls/TypedName.h"
 
 #include <algorithm>
 #include <numeric>

@@ -47,11 +47,7 @@ void AnySectionFrm::Init_FoundFlex() {
     int col = 0;
     for (const FoundColumn& column : columns) {
         FoundFlex.Set_Col_Width(col, column.Width);
-        FoundFlex.Set_Style(0, col,
-                            {.Align = Alignment::Centre,
-                             .Tahoma = true,
-                             .Fore = Colours::HeadText,
-                             .Back = Colours::HeadBack});
+        FoundFlex.Set_Style(0, col, HeadStyle);
         FoundFlex.Set_Text(0, col++, column.Head);
     }
 }

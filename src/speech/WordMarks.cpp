@@ -1,5 +1,7 @@
 #include "speech/WordMarks.h"
 
+#include "common/NumberText.h"
+
 #include <algorithm>
 
 namespace Tensarix {
@@ -18,8 +20,7 @@ bool Is_Break(char c) {
 // Letters and digits; every byte of a character beyond ASCII counts as one.
 bool Is_Speakable(char c) {
     const auto byte = static_cast<unsigned char>(c);
-    return byte >= 0x80 || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') ||
-           (c >= 'a' && c <= 'z');
+    return byte >= 0x80 || Is_Digit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
 // Control characters, line ends among them, are none that XML or a line of its own could hold.

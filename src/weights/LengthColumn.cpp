@@ -14,15 +14,11 @@ constexpr std::string_view metrePattern = "0.00     ";
 constexpr std::string_view invalidText = "Invalid Distance Input! ";
 constexpr std::string_view warningTitle = "Warning";
 
-std::string Feet_Text(double feet) {
-    return Format_FeetInch(feet, Sixteenths, 0, 0);
-}
-
 } // namespace
 
 void Commit_Length(TextBox& editor) {
     if (const std::optional<double> feet = Feet_Of(Trim(editor.Text())))
-        editor.Set_Text(Feet_Text(*feet).append(CellPadding));
+        editor.Set_Text(Length_Text(*feet).append(CellPadding));
 }
 
 void Commit_Metric(TextBox& editor) {
@@ -65,7 +61,7 @@ void LengthColumn::Validate() const {
         Commit_Length(editor);
     } else {
         parts_.Host.Boxes.Show(invalidText, warningTitle, MessageIcon::Stop);
-        editor.Set_Text(Feet_Text(parts_.LastLength));
+        editor.Set_Text(Length_Text(parts_.LastLength));
     }
 }
 

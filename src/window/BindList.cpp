@@ -2,6 +2,7 @@
 #include "window/Bind.h"
 
 #include "common/Failure.h"
+#include "controls/TypedName.h"
 #include "window/KeysToControl.h"
 #include "window/Link.h"
 #include "window/To_Qt.h"

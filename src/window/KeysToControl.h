@@ -6,6 +6,8 @@
 
 #include <QKeyEvent>
 
+#include <string>
+
 class QInputMethodEvent;
 class QLineEdit;
 class QWidget;
@@ -25,6 +27,19 @@ bool Tell_Key_Down(Control& control, const QKeyEvent& event) {
     control.OnKeyDown(code);
     return shown && !control.Visible();
 }
+
+// A window that answers a key which a filter refuses, so that nobody believes that the keyboard is
+// broken.
+class RefusedKeyWindow {
+  public:
+    virtual void Tell_Refused_Key(const std::string& answer) = 0;
+
+  protected:
+    ~RefusedKeyWindow() = default;
+};
+
+// Tells it to the nearest such window around the widget.
+void Answer_Refused_Key(QWidget& widget, int character);
 
 // True if the key has been dealt with: the filter has refused its character, or the box has got the
 // one that stands for the number pad's separator.

@@ -78,16 +78,13 @@ void Program::Show_AnySectionFrm(AnySectionFrm& form) {
 }
 
 void Program::Show_Guide(std::string_view chapter) {
-    GuideWindow::Open(machine_.Places.Program,
-                      QString::fromUtf8(chapter.data(), static_cast<qsizetype>(chapter.size())),
-                      window_.get());
+    GuideWindow::Open(machine_.Places.Program, To_Qt(chapter), window_.get());
 }
 
 void Program::Add_Guide_Key(QDialog& dialog, const char* chapter) {
     QObject::connect(new QShortcut(Qt::Key_F1, &dialog), &QShortcut::activated, &dialog,
                      [this, &dialog, chapter] {
-                         GuideWindow::Open(machine_.Places.Program, QString::fromUtf8(chapter),
-                                           &dialog);
+                         GuideWindow::Open(machine_.Places.Program, To_Qt(chapter), &dialog);
                      });
 }
 

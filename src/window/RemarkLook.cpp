@@ -1,6 +1,7 @@
 #include "window/RemarkLook.h"
 
 #include "window/Theme.h"
+#include "window/To_Qt.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -86,12 +87,11 @@ void Paint_Unsafe_Sign(QPainter& painter, const QRect& cell, const QPalette& pal
 }
 
 QString Remark_In_Words(const std::string& remark, RemarkWeight weight) {
-    const QString text = QString::fromStdString(remark);
+    const QString text = To_Qt(remark);
     const std::string_view word = Weight_Word(weight);
     return remark.empty() || weight == RemarkWeight::Note
                ? text
-               : QString::fromUtf8(word.data(), static_cast<qsizetype>(word.size())) +
-                     QStringLiteral(": ") + text;
+               : To_Qt(word) + QStringLiteral(": ") + text;
 }
 
 QString Tip_Text(const QString& text) {

@@ -1,5 +1,6 @@
 #include "common/Failure.h"
 #include "controls/Controls.h"
+#include "controls/TypedName.h"
 
 #include <gtest/gtest.h>
 
@@ -37,7 +38,8 @@ TEST(ComboBox, TypedTextIsNoPosition) {
 
 TEST(ComboBox, ATypedBeginningFindsTheNearestDesignation) {
     ComboBox combo;
-    for (const char* item : {"W18x311", "W18x55", "W18x50", "W12x305", "W12x30", "W12x26"})
+    for (const char* item :
+         {"W18x311", "W18x55", "W18x50", "W12x305", "W12x30", "W12x26", "HSS8x8x5/8", "HSS8x8x1/2"})
         combo.Add(item);
     const auto found = [&](const char* typed) {
         const int position = Find_By_Typing(combo, typed);
@@ -48,6 +50,8 @@ TEST(ComboBox, ATypedBeginningFindsTheNearestDesignation) {
     EXPECT_EQ(found("w12x305"), "W12x305");
     EXPECT_EQ(found("w12"), "W12x26");
     EXPECT_EQ(found("w13"), "");
+    EXPECT_EQ(found("hss 8*8*.5"), "HSS8x8x1/2"); // as where any section is searched
+    EXPECT_EQ(found("8x8x1/2"), "");              // no beginning
 }
 
 TEST(OptionButton, OneOfAGroupIsChosen) {

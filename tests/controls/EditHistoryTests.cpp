@@ -1,5 +1,5 @@
 #include "controls/CellEditing.h"
-#include "controls/CellSearch.h"
+#include "controls/TypedName.h"
 
 #include <gtest/gtest.h>
 

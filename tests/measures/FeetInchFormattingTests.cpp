@@ -1,6 +1,7 @@
 #include "measures/FeetInchFormatting.h"
 
 #include "Largest.h"
+#include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "measures/FeetInchParsing.h"
 

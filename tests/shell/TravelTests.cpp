@@ -1,6 +1,7 @@
 #include "NoDialogs.h"
 #include "StandIns.h"
 #include "common/NumberText.h"
+#include "controls/TypedName.h"
 #include "shell/AnySectionFrm.h"
 #include "shell/MainFrm.h"
 

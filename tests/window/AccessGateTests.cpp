@@ -1,6 +1,7 @@
 // What has to hold on every screen for whoever works without a mouse or without seeing it.
 #include "EveryScreen.h"
 #include "WindowTest.h"
+#include "window/To_Qt.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/grid/GridView.h"
 #include "window/pages/IconList.h"
@@ -291,7 +292,7 @@ class AccessGate : public WindowTest {
 TEST_F(AccessGate, EveryScreen) {
     program->Window().resize(1240, 700);
     const auto faults = For_Each_Screen(*program, [this](const std::string& name, QWidget& top) {
-        screen = QString::fromStdString(name);
+        screen = To_Qt(name);
         Check_Names(top);
         Check_Mnemonics(top);
         Check_Default(top);

@@ -1,5 +1,6 @@
 // Find Sections and View All through real keys and clicks.
 #include "WindowTest.h"
+#include "window/To_Qt.h"
 #include "window/grid/GridView.h"
 
 #include <QComboBox>
@@ -87,8 +88,8 @@ TEST_F(FindWindowTest, ViewAllOfTheLongestFamily) {
     auto& grid = Find<GridView>("xShapeFlex");
     for (int row = 1; row < program->Form().ViewAll.xShapeFlex.Rows(); ++row)
         for (const int col : {0, 1})
-            ASSERT_LT(grid.fontMetrics().horizontalAdvance(QString::fromStdString(
-                          program->Form().ViewAll.xShapeFlex.Text(row, col))),
+            ASSERT_LT(grid.fontMetrics().horizontalAdvance(
+                          To_Qt(program->Form().ViewAll.xShapeFlex.Text(row, col))),
                       grid.Cell_Rect(1, col).width());
     const QRect names = grid.Cell_Rect(1, 1);
     grid.setFocus();

@@ -3,6 +3,7 @@
 #include "ScreenReader.h"
 #include "WindowTest.h"
 #include "window/RemarkLook.h"
+#include "window/To_Qt.h"
 #include "window/grid/GridModel.h"
 #include "window/grid/GridView.h"
 
@@ -108,7 +109,7 @@ TEST_F(GridWindowTest, AScreenReaderIsToldEachMoveOnce) {
     view.setFocus(Qt::TabFocusReason);
     Settle();
     const auto cell = [&grid](int row, int col) {
-        return QStringLiteral("cell ") + QString::fromStdString(grid.Text(row, col)).trimmed();
+        return QStringLiteral("cell ") + To_Qt(grid.Text(row, col)).trimmed();
     };
     EXPECT_EQ(ScreenReader::Told(), (QStringList{view.accessibleName(), cell(2, 2)}));
     for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down}) {

@@ -2,6 +2,7 @@
 
 #include "ui_CalcConstantDialog.h"
 #include "window/FittingArea.h"
+#include "window/To_Qt.h"
 #include "window/calculator/CalcRows.h"
 
 namespace Tensarix {
@@ -14,7 +15,7 @@ CalcConstantDialog::CalcConstantDialog(CalcConstantFrm& frm, QWidget* parent)
     : QDialog(parent), frm_(frm), ui_(std::make_unique<Ui::CalcConstantDialog>()) {
     ui_->setupUi(this);
     for (const std::string& row : frm_.ConstantBox)
-        ui_->ConstantBox->addItem(QString::fromStdString(row));
+        ui_->ConstantBox->addItem(To_Qt(row));
     Show_State();
     connect(ui_->ConstantBox, &QListWidget::itemSelectionChanged, this, [this] {
         for (const QListWidgetItem* item : ui_->ConstantBox->selectedItems())
@@ -32,10 +33,10 @@ CalcConstantDialog::CalcConstantDialog(CalcConstantFrm& frm, QWidget* parent)
 CalcConstantDialog::~CalcConstantDialog() = default;
 
 void CalcConstantDialog::Show_State() {
-    ui_->ConstLab->setText(QString::fromStdString(frm_.ConstLab));
-    ui_->TextBox1->setText(QString::fromStdString(frm_.TextBox1));
+    ui_->ConstLab->setText(To_Qt(frm_.ConstLab));
+    ui_->TextBox1->setText(To_Qt(frm_.TextBox1));
     ui_->TextBox1->setCursorPosition(0);
-    ui_->OriginLab->setText(QString::fromStdString(frm_.Origin));
+    ui_->OriginLab->setText(To_Qt(frm_.Origin));
     ui_->OKButton->setEnabled(frm_.OKEnabled);
 }
 

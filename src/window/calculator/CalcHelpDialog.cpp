@@ -2,6 +2,7 @@
 
 #include "ui_CalcHelpDialog.h"
 #include "window/FittingArea.h"
+#include "window/To_Qt.h"
 #include "window/calculator/CalcRows.h"
 
 #include <algorithm>
@@ -16,8 +17,8 @@ CalcHelpDialog::CalcHelpDialog(CalcHelpFrm& frm, Voice& voice, QWidget* parent)
     : QDialog(parent), frm_(frm), voice_(voice), ui_(std::make_unique<Ui::CalcHelpDialog>()) {
     ui_->setupUi(this);
     for (const std::string& title : frm_.MenuBox)
-        ui_->MenuBox->addItem(QString::fromStdString(title));
-    ui_->HBox->setPlainText(QString::fromStdString(frm_.HBox));
+        ui_->MenuBox->addItem(To_Qt(title));
+    ui_->HBox->setPlainText(To_Qt(frm_.HBox));
     connect(ui_->MenuBox, &QListWidget::itemSelectionChanged, this, &CalcHelpDialog::Choose);
     // A click gives the text the focus; the arrow keys stay with the topics.
     connect(ui_->MenuBox, &QListWidget::itemClicked, ui_->HBox, qOverload<>(&QWidget::setFocus));
@@ -44,7 +45,7 @@ void CalcHelpDialog::Choose() {
 }
 
 void CalcHelpDialog::Show_Text() {
-    ui_->HBox->setPlainText(QString::fromStdString(frm_.HBox));
+    ui_->HBox->setPlainText(To_Qt(frm_.HBox));
     ui_->HBox->moveCursor(QTextCursor::Start);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui_CalcMemoryDialog.h"
 #include "window/FittingArea.h"
+#include "window/To_Qt.h"
 #include "window/calculator/CalcRows.h"
 
 namespace Tensarix {
@@ -12,7 +13,7 @@ constexpr int firstLines = 30;
 
 // The caption with its accelerator marked.
 QString With_Accelerator(const std::string& caption, char accelerator) {
-    QString text = QString::fromStdString(caption);
+    QString text = To_Qt(caption);
     const qsizetype at = text.indexOf(QLatin1Char(accelerator), 0, Qt::CaseInsensitive);
     return at < 0 ? text : text.insert(at, QLatin1Char('&'));
 }
@@ -33,10 +34,10 @@ CalcMemoryDialog::CalcMemoryDialog(CalcMemoryFrm& frm, QWidget* parent)
 CalcMemoryDialog::~CalcMemoryDialog() = default;
 
 void CalcMemoryDialog::Show_Texts() {
-    setWindowTitle(QString::fromStdString(frm_.Title));
-    ui_->PromptLab->setText(QString::fromStdString(frm_.Prompt));
+    setWindowTitle(To_Qt(frm_.Title));
+    ui_->PromptLab->setText(To_Qt(frm_.Prompt));
     ui_->OKButton->setText(With_Accelerator(frm_.OkCaption, frm_.Accelerator));
-    ui_->DescFrame->setTitle(QString::fromStdString(frm_.FrameCaption));
+    ui_->DescFrame->setTitle(To_Qt(frm_.FrameCaption));
     ui_->DescBox->setAccessibleName(ui_->DescFrame->title());
     ui_->DescBox->setReadOnly(frm_.DescriptionLocked);
     ui_->DeleteFrame->setVisible(frm_.DeleteFrame);
@@ -73,7 +74,7 @@ void CalcMemoryDialog::Take_Selection() {
 
 void CalcMemoryDialog::Show_State() {
     Show_Rows(*ui_->ItemBox, frm_.ItemBox, frm_.Selected);
-    if (const QString text = QString::fromStdString(frm_.DescBox); ui_->DescBox->text() != text)
+    if (const QString text = To_Qt(frm_.DescBox); ui_->DescBox->text() != text)
         ui_->DescBox->setText(text);
     ui_->OKButton->setEnabled(frm_.OKEnabled);
 }

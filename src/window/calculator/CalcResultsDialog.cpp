@@ -3,6 +3,7 @@
 #include "calculator/CalcResults.h"
 #include "ui_CalcResultsDialog.h"
 #include "window/FittingArea.h"
+#include "window/To_Qt.h"
 #include "window/calculator/CalcRows.h"
 
 #include <QKeyEvent>
@@ -36,14 +37,13 @@ void CalcResultsDialog::Show_Results() {
     QListWidget& list = *ui_->ResultBox;
     const int known = list.count();
     const int chosen = list.currentRow();
-    const auto newest =
-        results_.empty() ? QString() : QString::fromStdString(Result_Text(results_[0]));
+    const auto newest = results_.empty() ? QString() : To_Qt(Result_Text(results_[0]));
     const bool same = known == static_cast<int>(results_.size()) &&
                       (known == 0 || list.item(0)->text() == newest);
     if (!same) {
         list.clear();
         for (const CalcResult& result : results_)
-            list.addItem(QString::fromStdString(Result_Text(result)));
+            list.addItem(To_Qt(Result_Text(result)));
         list.setCurrentRow(chosen < 0 ? 0 : std::min(chosen + 1, list.count() - 1));
     }
     Fit_Width(list);

@@ -1,5 +1,7 @@
 #include "window/calculator/CalcRows.h"
 
+#include "window/To_Qt.h"
+
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QListWidget>
@@ -50,8 +52,8 @@ void Show_Rows(QTreeWidget& list, const std::vector<CalcRow>& rows,
     Keep_Count(list, static_cast<int>(rows.size()));
     for (std::size_t i = 0; i < rows.size(); ++i) {
         QTreeWidgetItem& item = *list.topLevelItem(static_cast<int>(i));
-        item.setText(0, QString::fromStdString(rows[i].Name));
-        item.setText(1, QString::fromStdString(rows[i].Value));
+        item.setText(0, To_Qt(rows[i].Name));
+        item.setText(1, To_Qt(rows[i].Value));
         if (item.isSelected() != selected[i])
             item.setSelected(selected[i]);
     }

@@ -1,6 +1,7 @@
 #include "window/desktop/DesktopVoice.h"
 
 #include "controls/View.h"
+#include "window/To_Qt.h"
 
 #include <QByteArrayList>
 #include <QDir>
@@ -110,7 +111,7 @@ void DesktopVoice::Speak(std::string_view text) {
         turn_.start(0);
     }
     std::vector<WordPlace> words = Words_Of(text);
-    due_.push_back({QString::fromStdString(Marked_Text(text, words)).toUtf8(), std::move(words)});
+    due_.push_back({To_Qt(Marked_Text(text, words)).toUtf8(), std::move(words)});
     if (connected_)
         Send_Next();
     else

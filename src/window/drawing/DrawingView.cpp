@@ -3,6 +3,7 @@
 #include "window/Bind.h"
 #include "window/Link.h"
 #include "window/Theme.h"
+#include "window/To_Qt.h"
 
 #include <QEvent>
 #include <QFontMetricsF>
@@ -61,7 +62,7 @@ void DrawingView::Take_Over() {
     if (version_ != box_->DrawingVersion()) {
         version_ = box_->DrawingVersion();
         layout_.reset();
-        setAccessibleDescription(QString::fromStdString(box_->Shows().Sentence));
+        setAccessibleDescription(To_Qt(box_->Shows().Sentence));
     }
     update();
 }
@@ -71,8 +72,7 @@ const Drawn::Layout& DrawingView::Laid_Out() {
         return *layout_;
     const QFontMetricsF metrics(font(), this);
     const auto measure = [&metrics](const std::string& words) {
-        return Drawn::Size{metrics.horizontalAdvance(QString::fromStdString(words)),
-                           metrics.height()};
+        return Drawn::Size{metrics.horizontalAdvance(To_Qt(words)), metrics.height()};
     };
     const Drawn::Size view{static_cast<double>(width()), static_cast<double>(height())};
     layout_ = box_ ? Drawn::Lay_Out(box_->Shows(), view, measure) : Drawn::Layout{};
@@ -139,7 +139,7 @@ void DrawingView::Paint_Text(QPainter& painter, const Drawn::Text& text) const {
     painter.setPen(lit     ? palette().color(QPalette::HighlightedText)
                    : plain ? palette().color(QPalette::WindowText)
                            : Ink_Colour(text.In, palette()));
-    painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString::fromStdString(text.Words));
+    painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, To_Qt(text.Words));
 }
 
 void DrawingView::resizeEvent(QResizeEvent* event) {
@@ -158,7 +158,7 @@ void DrawingView::mouseMoveEvent(QMouseEvent* event) {
     if (box_ && box_->Tell) {
         const Drawn::Point at{event->position().x(), event->position().y()};
         const std::string name = Drawn::Name_At(Laid_Out(), at, pointingReach);
-        const QString told = QString::fromStdString(box_->Tell(name, Laid_Out().In_Drawing(at)));
+        const QString told = To_Qt(box_->Tell(name, Laid_Out().In_Drawing(at)));
         QToolTip::showText(event->globalPosition().toPoint(), told, this);
     }
     QWidget::mouseMoveEvent(event);

@@ -3,6 +3,7 @@
 #include "window/Bind.h"
 #include "window/LabelOf.h"
 #include "window/Link.h"
+#include "window/To_Qt.h"
 #include "window/grid/GridModel.h"
 #include "window/grid/GridView.h"
 
@@ -69,7 +70,7 @@ void CellOverlay::Place() {
 void CellOverlay::Name_By_Cell() {
     QStringList name{name_};
     const auto add = [this, &name](int row, int col, const QString& before) {
-        const QString text = QString::fromStdString(grid_.Text(row, col)).simplified();
+        const QString text = To_Qt(grid_.Text(row, col)).simplified();
         if (!text.isEmpty())
             name.append(before + text);
     };

@@ -1,9 +1,9 @@
 // The keys and the mouse of a grid: they tell the record where to go, and what to do there.
-#include "controls/CellSearch.h"
+#include "controls/TypedName.h"
 #include "window/FocusFrame.h"
 #include "window/KeyCodes.h"
+#include "window/KeysToControl.h"
 #include "window/Link.h"
-#include "window/RefusedKey.h"
 #include "window/grid/GridView.h"
 
 #include <QApplication>
@@ -114,7 +114,7 @@ void GridView::Edit_Key(QKeyEvent* event) {
     }
     if (!had || hasFocus()) {
         if (grid_->OnKeyPress)
-            Answer_Refused_Key(character);
+            Answer_Refused_Key(*this, character);
         event->ignore(); // the window's own shortcuts and default buttons
         return;
     }

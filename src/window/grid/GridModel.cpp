@@ -2,6 +2,7 @@
 
 #include "window/RemarkLook.h"
 #include "window/Theme.h"
+#include "window/To_Qt.h"
 
 #include <QAbstractScrollArea>
 #include <QBrush>
@@ -112,7 +113,7 @@ QVariant GridModel::Cell(int row, int col, int role) const {
     const CellStyle& style = grid_.Style(row, col);
     switch (role) {
     case Qt::DisplayRole:
-        return QString::fromStdString(grid_.Text(row, col));
+        return To_Qt(grid_.Text(row, col));
     case Qt::TextAlignmentRole: {
         const bool wraps = row < grid_.FixedRows() && grid_.Word_Wrap();
         return static_cast<int>(Shown_Alignment(style.Align).toInt()) |
@@ -132,7 +133,7 @@ QVariant GridModel::Cell(int row, int col, int role) const {
         return Description(row, col);
     case RemarkRole:
         if (const std::string& remark = grid_.Remark(row, col); !remark.empty())
-            return QString::fromStdString(remark);
+            return To_Qt(remark);
         return {};
     case WeightRole:
         return static_cast<int>(grid_.Remark_Weight(row, col));

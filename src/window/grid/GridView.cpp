@@ -1,7 +1,9 @@
 #include "window/grid/GridView.h"
 
+#include "common/NumberText.h"
 #include "window/Bind.h"
 #include "window/Link.h"
+#include "window/To_Qt.h"
 #include "window/grid/GridModel.h"
 #include "window/grid/HeadView.h"
 
@@ -47,8 +49,7 @@ class FixedColumns final : public QTableView {
 
 // With the widest digit for each: a column of numbers has few of these.
 std::string Pattern(std::string text) {
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; }, '0');
+    std::replace_if(text.begin(), text.end(), Is_Digit, '0');
     return text;
 }
 
@@ -274,8 +275,8 @@ int GridView::Fitting_Width(int col) const {
             !measured.emplace(Pattern(text), style.Bold).second)
             continue;
         const QFontMetrics metrics(Cell_Font(font(), style));
-        for (const QString& line : QString::fromStdString(Pattern(text))
-                                       .split(head && grid_->Word_Wrap() ? words : lines))
+        for (const QString& line :
+             To_Qt(Pattern(text)).split(head && grid_->Word_Wrap() ? words : lines))
             width = std::max(width, metrics.horizontalAdvance(line));
     }
     return width == 0 ? 0 : width + cellMargin;

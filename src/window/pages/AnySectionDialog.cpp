@@ -3,6 +3,7 @@
 #include "ui_AnySectionDialog.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
+#include "window/To_Qt.h"
 
 #include <QKeyEvent>
 #include <QShortcut>
@@ -36,7 +37,7 @@ AnySectionDialog::AnySectionDialog(AnySectionFrm& form, QWidget* parent) : QDial
     connect(ui.SearchBox, &QLineEdit::textChanged, this,
             [&form](const QString& text) { form.SearchBox.Set_Text(text.toStdString()); });
     form.OnCurrent = [&form, box = ui.SearchBox] {
-        box->setAccessibleDescription(QString::fromStdString(form.Current_Text()));
+        box->setAccessibleDescription(To_Qt(form.Current_Text()));
     };
     Bind(ui.FoundFlex, form.FoundFlex);
     ui.FoundFlex->Show_All_Columns();

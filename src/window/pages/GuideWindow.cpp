@@ -2,6 +2,7 @@
 
 #include "ui_GuideWindow.h"
 #include "window/FittingArea.h"
+#include "window/To_Qt.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,8 +48,7 @@ GuideWindow* GuideWindow::Open(const std::filesystem::path& programFolder, const
 
 GuideWindow::GuideWindow(const std::filesystem::path& programFolder, QWidget* parent)
     : QDialog(parent),
-      folder_(
-          QDir(QString::fromStdString(programFolder.string())).filePath(QStringLiteral("guide"))) {
+      folder_(QDir(To_Qt(programFolder.string())).filePath(QStringLiteral("guide"))) {
     Ui::GuideWindow ui;
     ui.setupUi(this);
     text_ = ui.GuideText;

@@ -3,6 +3,7 @@
 #include "common/Failure.h"
 #include "window/Link.h"
 #include "window/Theme.h"
+#include "window/To_Qt.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -56,7 +57,7 @@ void IconList::Pull() {
     if (count() != list_->Count()) {
         clear();
         for (int i = 1; i <= list_->Count(); ++i)
-            addItem(QString::fromStdString(list_->Item(i).Text));
+            addItem(To_Qt(list_->Item(i).Text));
         Draw_Icons();
     }
     setCurrentRow(list_->Selected_Item() - 1);

@@ -3,7 +3,7 @@
 #include "ui_ProgramWindow.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
-#include "window/RefusedKey.h"
+#include "window/To_Qt.h"
 #include "window/grid/PopupMenu.h"
 #include "window/pages/BeamForm.h"
 #include "window/pages/BrowseForm.h"
@@ -81,7 +81,7 @@ class MenuKeys final : public QObject {
 ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form), events_(events) {
     Ui::ProgramWindow ui;
     ui.setupUi(this);
-    setWindowTitle(QString::fromStdString(form.Caption));
+    setWindowTitle(To_Qt(form.Caption));
     QPushButton* const modes[] = {ui.OptButton0, ui.OptButton1, ui.OptButton2, ui.OptButton3,
                                   ui.OptButton4};
     for (std::size_t i = 0; i < form.OptButton.size(); ++i) {
@@ -101,10 +101,6 @@ ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form)
     Bind_Travel_Keys(form.Sections, this, *ui.SelectionTab);
     Make_Any_Section_Box(ui.menuBar);
     Bind(ui.StatBar, form.Shared.StatBar);
-    AnswerRefusedKey = [&form](const std::string& answer) {
-        form.Shared.StatBar.Set_Remark(answer);
-    };
-    connect(this, &QObject::destroyed, [] { AnswerRefusedKey = nullptr; });
     Bind(ui.mnuCalc, form.mnuCalc);
     Bind(ui.mnuWtCalc, form.mnuWtCalc);
     Bind(ui.mnuWtCalcA, form.mnuWtCalcA);
@@ -134,6 +130,10 @@ void ProgramWindow::Restore_Place() {
     const std::string saved = form_.Shared.Saved.Text(Setting::MainWindowPlace);
     if (!restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(saved))))
         Fit_To_Screen(*this, firstSize);
+}
+
+void ProgramWindow::Tell_Refused_Key(const std::string& answer) {
+    form_.Shared.StatBar.Set_Remark(answer);
 }
 
 bool ProgramWindow::Raise(const QByteArray& activationToken) {

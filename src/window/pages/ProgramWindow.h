@@ -2,13 +2,14 @@
 #pragma once
 
 #include "shell/MainFrm.h"
+#include "window/KeysToControl.h"
 #include "window/desktop/EventsAndClock.h"
 
 #include <QMainWindow>
 
 namespace Tensarix {
 
-class ProgramWindow final : public QMainWindow {
+class ProgramWindow final : public QMainWindow, public RefusedKeyWindow {
     Q_OBJECT
 
   public:
@@ -17,6 +18,7 @@ class ProgramWindow final : public QMainWindow {
     // Un-minimises the window and brings it to the front, by the token that the desktop gave the
     // one who asks for it. False: the window has been closed.
     bool Raise(const QByteArray& activationToken);
+    void Tell_Refused_Key(const std::string& answer) override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -114,7 +114,7 @@ QString ReportView::Line(int line) const {
     const std::string& text = box_->Text();
     const std::size_t start = starts_[static_cast<std::size_t>(line)];
     const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
-    return QString::fromUtf8(text.data() + start, static_cast<qsizetype>(end - start));
+    return To_Qt(std::string_view{text}.substr(start, end - start));
 }
 
 int ReportView::Line_Height() const {

@@ -3,6 +3,7 @@
 #include "window/FocusFrame.h"
 #include "window/Link.h"
 #include "window/RemarkLook.h"
+#include "window/To_Qt.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -59,13 +60,13 @@ void VerdictLine::Pull() {
     const int margin = static_cast<int>(document()->documentMargin());
     setFixedHeight(lines * fontMetrics().lineSpacing() + 2 * (frameWidth() + margin));
     setHtml(In_Html());
-    setAccessibleDescription(QString::fromStdString(verdicts_->Text()));
+    setAccessibleDescription(To_Qt(verdicts_->Text()));
 }
 
 QString VerdictLine::In_Html() const {
     const auto& rows = verdicts_->Rows();
     if (rows.empty())
-        return QString::fromStdString(verdicts_->Otherwise()).toHtmlEscaped();
+        return To_Qt(verdicts_->Otherwise()).toHtmlEscaped();
     const QString ink = palette().color(QPalette::Text).name();
     const QString ground = Remark_Ground(RemarkWeight::Unsafe, palette()).name();
     QString html;
@@ -73,9 +74,8 @@ QString VerdictLine::In_Html() const {
     for (const auto& [row, verdict] : rows) {
         if (++count > mostShown)
             return html + QStringLiteral("...");
-        const QString words = QStringLiteral("Row %1: %2.")
-                                  .arg(row)
-                                  .arg(QString::fromStdString(verdict.Words).toHtmlEscaped());
+        const QString words =
+            QStringLiteral("Row %1: %2.").arg(row).arg(To_Qt(verdict.Words).toHtmlEscaped());
         const QString link =
             QStringLiteral("<a href='%1' style='color:%2'>%3</a>").arg(row).arg(ink, words);
         if (verdict.Computing)
