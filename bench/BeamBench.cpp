@@ -52,10 +52,10 @@ BENCHMARK(Change_Of_Size)->Unit(benchmark::kMicrosecond)->UseManualTime();
 
 void Change_Of_Code(benchmark::State& state) {
     StartedPage started;
-    int code = Code9thEdition;
+    int code = code9thEdition;
     Bench::Compare(
         state, "ratio_to_read",
-        [&] { started.Page.AppliedCode.Select(code = Code9thEdition + Code13thEdition - code); },
+        [&] { started.Page.AppliedCode.Select(code = code9thEdition + code13thEdition - code); },
         Read);
 }
 BENCHMARK(Change_Of_Code)->Unit(benchmark::kMicrosecond)->UseManualTime();

@@ -72,7 +72,7 @@ BENCHMARK(BM_BoltYield)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 std::vector<WeldLine> Turned_Box(double angle) {
     std::vector<WeldLine> lines = Weld_Configuration_Lines(4, 100, 50);
-    const double theta = angle * Plain::TruncatedPi / 180;
+    const double theta = angle * Plain::truncatedPi / 180;
     for (WeldLine& line : lines) {
         const WeldLine old = line;
         line.x1 = old.x1 * std::cos(theta) - old.y1 * std::sin(theta);

@@ -11,7 +11,7 @@
 
 namespace Tensarix::Plain {
 
-constexpr double TruncatedPi = 3.14159265358979;
+constexpr double truncatedPi = 3.14159265358979;
 
 inline void Assign(double& target, double value) {
     if (std::isfinite(value))
@@ -47,15 +47,15 @@ inline std::vector<Element> Elements(const std::vector<WeldLine>& lines, double 
             const double u = std::tan(beta);
             const double t = std::tan(a);
             if (a == 0)
-                phi = TruncatedPi / 2 - beta;
-            else if (a == TruncatedPi / 2)
+                phi = truncatedPi / 2 - beta;
+            else if (a == truncatedPi / 2)
                 phi = beta;
             else if (u != 0)
                 Assign(phi, std::atan((t + 1 / (-u)) / (1.0 - t / (-u))));
             const double r = std::sqrt(ym * ym + (xm + Ro) * (xm + Ro));
             if (r == 0)
                 continue;
-            const double degrees = std::abs((phi * 180.0) / TruncatedPi);
+            const double degrees = std::abs((phi * 180.0) / truncatedPi);
             const double deltaU = std::min(std::pow(degrees + 6.0, -0.65) * 1.087, 0.17) * 0.0625;
             elements.push_back({r, beta, std::pow(degrees + 2.0, -0.32) * (0.209 * 0.0625),
                                 std::abs(phi), length, deltaU / r, Sign(xm + Ro)});

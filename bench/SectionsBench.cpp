@@ -21,7 +21,7 @@ void Read_Family(const char* type) {
 
 void View_All(benchmark::State& state, Profile profile, DimensionStyle style) {
     FlexGrid grid;
-    const Family& family = Families[UnEqualDoubleAngleFamily];
+    const Family& family = allFamilies[unEqualDoubleAngleFamily];
     Bench::Compare(
         state, ratioToRead,
         [&] {
@@ -42,7 +42,7 @@ BENCHMARK_CAPTURE(View_All, SI, Profile::SI, DimensionStyle::Decimal)
 
 void Find_Over_W(benchmark::State& state, const char* criterion) {
     FlexGrid grid;
-    const Family& family = Families[0];
+    const Family& family = allFamilies[0];
     Bench::Compare(
         state, ratioToRead,
         [&] {

@@ -102,11 +102,11 @@ void View_All_To_Painted_Grid(benchmark::State& state) {
     program.Form().OptButton[static_cast<std::size_t>(Mode::ViewAll)].Select();
     ComboBox& families = program.Form().ViewAll.xShapeType;
     const auto showAnother = [&] {
-        families.Select(PipeFamily);
+        families.Select(pipeFamily);
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     };
-    const auto chooseLongest = [&] { families.Select(UnEqualDoubleAngleFamily); };
+    const auto chooseLongest = [&] { families.Select(unEqualDoubleAngleFamily); };
     double painted = 1e9, unpainted = 1e9;
     for (auto _ : state) {
         showAnother();

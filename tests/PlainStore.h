@@ -18,7 +18,7 @@ namespace Tensarix::Tests {
 class PlainStore {
   public:
     explicit PlainStore(const std::filesystem::path& folder = TENSARIX_PROGRAM_DIR) {
-        EXPECT_EQ(sqlite3_open((folder / SectionStoreFile).c_str(), &database_), SQLITE_OK);
+        EXPECT_EQ(sqlite3_open((folder / sectionStoreFile).c_str(), &database_), SQLITE_OK);
     }
     ~PlainStore() { sqlite3_close(database_); }
     PlainStore(const PlainStore&) = delete;
@@ -60,8 +60,8 @@ class ChangedStore {
   public:
     explicit ChangedStore(const std::string& sql) {
         std::filesystem::create_directories(Folder);
-        std::filesystem::copy_file(std::filesystem::path{TENSARIX_PROGRAM_DIR} / SectionStoreFile,
-                                   Folder / SectionStoreFile,
+        std::filesystem::copy_file(std::filesystem::path{TENSARIX_PROGRAM_DIR} / sectionStoreFile,
+                                   Folder / sectionStoreFile,
                                    std::filesystem::copy_options::overwrite_existing);
         PlainStore(Folder).Run(sql);
     }

@@ -113,13 +113,13 @@ void Write_Store(const std::filesystem::path& path, const std::vector<SectionRow
     const Database database{raw};
     Need(raw, result);
     Run(database, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF");
-    Run(database, "PRAGMA application_id = " + std::to_string(SectionStoreApplicationId));
-    Run(database, "PRAGMA user_version = " + std::to_string(SectionStoreVersion));
+    Run(database, "PRAGMA application_id = " + std::to_string(sectionStoreApplicationId));
+    Run(database, "PRAGMA user_version = " + std::to_string(sectionStoreVersion));
     Run(database, "BEGIN");
     Create_Tables(database);
     Insertion property(database, "StoreProperty", 2);
-    property.Text(PasswordProperty);
-    property.Text(SectionStorePassword);
+    property.Text(passwordProperty);
+    property.Text(sectionStorePassword);
     property.Execute();
     Insert_Sections(database, rows);
     Create_Indexes(database);

@@ -223,12 +223,12 @@ class Walk {
         To(Mode::BeamLoad);
         page.zShapeFlex.Move_To(13, 1);
         Show("beam, 9th");
-        page.AppliedCode.Select(Code13thEdition);
+        page.AppliedCode.Select(code13thEdition);
         page.BeamSpanBox.Set_Text("25'-6 1/2\"");
         page.CFactor.Set_Text("15.00");
         Show("beam, 13th");
         page.CodeOpt[1].Select();
-        page.zShapeType.Select(FirstChannelFamily);
+        page.zShapeType.Select(firstChannelFamily);
         Show("beam, channel");
         page.BeamSpanBox.Set_Text("1'");
         Show("beam, all remarks");

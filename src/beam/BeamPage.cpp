@@ -24,7 +24,7 @@ constexpr std::string_view noSetting = "0"; // of the keys with a tab and a meth
 const BeamRows& Rows_Of_Family(int position) {
     if (position < firstSFamily)
         return WShape_For_AllowableLoad;
-    return position < FirstChannelFamily ? SShape_For_AllowableLoad : CShape_For_AllowableLoad;
+    return position < firstChannelFamily ? SShape_For_AllowableLoad : CShape_For_AllowableLoad;
 }
 
 } // namespace
@@ -34,7 +34,7 @@ BeamPage::BeamPage(Desk& desk) : desk_(desk) {
     CodeOpt[0].Set_Caption("ASD - Allowable Stress Design");
     CodeOpt[1].Set_Caption("LRFD - Load and Resistance Factor Design");
     UniWTLab.Set_Caption("Maximum Allowable Uniform Load =");
-    AppliedCode.Select(Code9thEdition);
+    AppliedCode.Select(code9thEdition);
     Wire_Lists();
     Wire_Boxes();
 }
@@ -70,7 +70,7 @@ void BeamPage::Wire_Boxes() {
 }
 
 void BeamPage::Start_Families() {
-    for (int position = 0; position < BeamFamilies; ++position)
+    for (int position = 0; position < beamFamilies; ++position)
         zShapeType.Add(std::string{Family_At(position).Name});
     Attempt([&] { zShapeType.Select(desk_.Saved.Position(Setting::zShapeType)); });
 }
@@ -83,7 +83,7 @@ void BeamPage::Start_Inputs() {
         Load_Span(Length_Text(Text_Number(Setting::BeamSpan.Default)));
     Attempt([&] {
         const int tab = desk_.Saved.Position(Setting::AppliedCode);
-        if (tab != Code9thEdition && tab != Code13thEdition)
+        if (tab != code9thEdition && tab != code13thEdition)
             throw Failure("no such tab");
         if (tab == AppliedCode.Tab())
             AppliedCode_Click();
@@ -225,7 +225,7 @@ void BeamPage::BeamSpanBox_KeyDown(int keyCode) {
     const bool valid = Typed_Span().has_value();
     BeamSpanBox_LostFocus();
     if (desk_.ReadOut && valid)
-        desk_.Say(Format_FeetInch(Typed_Span().value_or(0), Sixteenths, 0, 1));
+        desk_.Say(Format_FeetInch(Typed_Span().value_or(0), lengthDenominator, 0, 1));
 }
 
 void BeamPage::BeamSpanBox_LostFocus() {

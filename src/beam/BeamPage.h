@@ -17,11 +17,11 @@
 namespace Tensarix {
 
 // The tabs of AppliedCode, by number.
-inline constexpr int Code9thEdition = 1;
-inline constexpr int Code13thEdition = 2;
+inline constexpr int code9thEdition = 1;
+inline constexpr int code13thEdition = 2;
 
 // In zShapeType, and to its end.
-inline constexpr int FirstChannelFamily = 4;
+inline constexpr int firstChannelFamily = 4;
 
 class BeamPage {
   public:
@@ -90,11 +90,11 @@ class BeamPage {
     std::string Left_Out(const BeamInput& input) const;
     BeamLoad By_Whole_Rules(const BeamInput& input, double spanFeet) const;
     std::string Unsaid(const BeamInput& input, const BeamLoad& load) const;
-    bool Is_Channel() const { return zShapeType.ListIndex() >= FirstChannelFamily; }
+    bool Is_Channel() const { return zShapeType.ListIndex() >= firstChannelFamily; }
 
     BeamSection Read_Section() const;
     BeamInput Read_Inputs() const;
-    bool Is_9th_Edition() const { return AppliedCode.Tab() == Code9thEdition; }
+    bool Is_9th_Edition() const { return AppliedCode.Tab() == code9thEdition; }
     double Magnification() const; // 0.15 for 15 %
     BeamMethod Rules() const;
     DesignMethod Method() const { return static_cast<DesignMethod>(CodeIndex); }

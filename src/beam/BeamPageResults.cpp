@@ -163,7 +163,7 @@ std::string BeamPage::Unsaid(const BeamInput& input, const BeamLoad& load) const
     const double deflection = Deflection_Inches(load.LoadKipsPerFoot, load.SpanFeet, section.Ix);
     if ((Is_9th_Edition() || Method() == DesignMethod::ASD) && deflection > 0)
         Attempt([&] {
-            const double ratio = load.SpanFeet * InchesPerFoot / deflection;
+            const double ratio = load.SpanFeet * inchesPerFoot / deflection;
             Add_Line(text, "Deflection under this load: " + Format_Number(deflection, loadPattern) +
                                " in., L/" + Format_Number(ratio, "0"));
         });

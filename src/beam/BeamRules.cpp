@@ -94,13 +94,13 @@ double Nominal_Moment(const BeamSection& section, double yield) {
     const double limit = Slenderness_Limit(compactFlange, yield);
     double moment = 0;
     if (section.bf_2tf <= limit) {
-        Keep(moment, (yield * section.Zx) / InchesPerFoot);
+        Keep(moment, (yield * section.Zx) / inchesPerFoot);
         return moment;
     }
     const double plastic = yield * section.Zx;
     const double share = (section.bf_2tf - limit) / ((limit / compactFlange) - limit);
     Keep(moment,
-         (plastic - (plastic - (yield * residualShare) * section.Sx) * share) / InchesPerFoot);
+         (plastic - (plastic - (yield * residualShare) * section.Sx) * share) / inchesPerFoot);
     return moment;
 }
 
@@ -125,7 +125,7 @@ bool Web_Buckles_13th(const BeamSection& section, float yieldKsi) {
 BeamLoad Whole_Rules_9th(const BeamSection& section, float yieldKsi, double spanFeet) {
     const double yield = yieldKsi;
     return Load_At({Shear_Share_9th(section.h_tw, yield) * yield * section.d * section.tw,
-                    Bending_Share_9th(section.bf_2tf, yield) * yield * section.Sx / InchesPerFoot},
+                    Bending_Share_9th(section.bf_2tf, yield) * yield * section.Sx / inchesPerFoot},
                    spanFeet);
 }
 
@@ -146,18 +146,18 @@ double Braced_Feet_9th(const BeamSection& section, float yieldKsi) {
     double inches = 0;
     Keep(inches, Smallest_Of({76.0 * section.bf / std::sqrt(yield),
                               20000.0 * section.bf * section.tf / (section.d * yield)}));
-    return inches / InchesPerFoot;
+    return inches / inchesPerFoot;
 }
 
 double Braced_Feet_13th(const BeamSection& section, float yieldKsi) {
-    return Slenderness_Limit(1.76, yieldKsi) * section.ry / InchesPerFoot;
+    return Slenderness_Limit(1.76, yieldKsi) * section.ry / inchesPerFoot;
 }
 
 double Deflection_Inches(double loadKipsPerFoot, double spanFeet, double Ix) {
-    const double span = spanFeet * InchesPerFoot;
+    const double span = spanFeet * inchesPerFoot;
     double inches = 0;
     Keep(inches,
-         5.0 * loadKipsPerFoot / InchesPerFoot * std::pow(span, 4) / (384.0 * elasticKsi * Ix));
+         5.0 * loadKipsPerFoot / inchesPerFoot * std::pow(span, 4) / (384.0 * elasticKsi * Ix));
     return inches;
 }
 

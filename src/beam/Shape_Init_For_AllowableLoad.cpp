@@ -41,7 +41,7 @@ void Lay_Out(FlexGrid& grid, int rows) {
         grid.Set_Row_Height(row, row == 0 ? headHeight : rowHeight);
     for (int col = 0; col < columnCount; ++col) {
         grid.Set_Col_Width(col, columns[col].Width);
-        grid.Set_Style(0, col, HeadStyle);
+        grid.Set_Style(0, col, headStyle);
         grid.Set_Text(0, col, std::string{columns[col].Head});
         for (int row = 1; row <= rows; ++row)
             grid.Set_Style(row, col, columns[col].Style);
@@ -54,7 +54,7 @@ void Write_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Pr
         grid.Set_Text(row, valueColumn,
                       Value_Text(record, property, Profile::US, DimensionStyle::Decimal));
         if (property.USColumn == property.SIColumn && property.Kind == PropertyKind::Length)
-            grid.Set_Remark(row, valueColumn, std::string{SIColumnRemark}, RemarkWeight::Caution);
+            grid.Set_Remark(row, valueColumn, std::string{siColumnRemark}, RemarkWeight::Caution);
     });
     grid.Set_Text(row, unitColumn, std::string{property.USUnit});
 }

@@ -23,7 +23,7 @@ struct BeamRows {
 extern const BeamRows WShape_For_AllowableLoad, SShape_For_AllowableLoad, CShape_For_AllowableLoad;
 
 // Of the channels' row rx.
-inline constexpr std::string_view SIColumnRemark =
+inline constexpr std::string_view siColumnRemark =
     "This row reads the SI figure of the section: its value is in mm";
 
 } // namespace Tensarix

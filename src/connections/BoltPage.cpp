@@ -148,7 +148,7 @@ void BoltPage::Init_cFlex() {
     cFlex.Set_Word_Wrap(true);
     for (int col = 0; col < BoltColumn::Count; ++col) {
         cFlex.Set_Col_Width(col, widths[col]);
-        cFlex.Set_Style(0, col, HeadStyle);
+        cFlex.Set_Style(0, col, headStyle);
         cFlex.Set_Text(0, col, heads[col]);
     }
     cFlex.Set_Remark(0, BoltColumn::C, std::string{farthestBoltRemark});

@@ -29,7 +29,7 @@ class DrawingBox {
         Shown.Changed();
     }
     // Counts the drawings, so that a view knows when to lay out again.
-    unsigned DrawingVersion() const { return version_; }
+    unsigned Drawing_Version() const { return version_; }
 
   private:
     Drawing drawing_;

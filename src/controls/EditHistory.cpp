@@ -34,7 +34,7 @@ void EditHistory::Note() {
     if (step.empty())
         return;
     steps_.push_back(std::move(step));
-    if (steps_.size() > MostSteps)
+    if (steps_.size() > mostSteps)
         steps_.pop_front();
 }
 

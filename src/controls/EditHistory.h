@@ -15,7 +15,7 @@ namespace Tensarix {
 
 class EditHistory {
   public:
-    static constexpr std::size_t MostSteps = 200;
+    static constexpr std::size_t mostSteps = 200;
 
     // editable: which cells count. The grid outlives the history.
     EditHistory(FlexGrid& grid, std::function<bool(int row, int col)> editable)

@@ -38,7 +38,7 @@ struct CellStyle {
 };
 
 // Of the heads of all grids.
-inline constexpr CellStyle HeadStyle{.Align = Alignment::Centre,
+inline constexpr CellStyle headStyle{.Align = Alignment::Centre,
                                      .Tahoma = true,
                                      .Fore = Colours::HeadText,
                                      .Back = Colours::HeadBack};

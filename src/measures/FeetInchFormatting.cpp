@@ -29,7 +29,7 @@ Length Split_Length(double value, std::int16_t denominator) {
     const double size = std::abs(Finite(value));
     length.Sign = Sign_Of(value);
     length.Feet = std::trunc(size);
-    const double rest = (size - length.Feet) * InchesPerFoot;
+    const double rest = (size - length.Feet) * inchesPerFoot;
     length.Inches = Whole_16(std::trunc(rest));
     length.Numerator = Whole_16((rest - length.Inches) * denominator);
     if (length.Numerator == denominator) {
@@ -43,7 +43,7 @@ Length Split_Length(double value, std::int16_t denominator) {
 std::string Digit_Form(const Length& length, std::int16_t inchesOnly, std::int16_t denominator) {
     const std::string text = FeetInch_Digits(inchesOnly, length.Feet, length.Inches,
                                              length.Numerator, length.Divisor, denominator);
-    return length.Sign < 0 ? DashMark + text : text;
+    return length.Sign < 0 ? dashMark + text : text;
 }
 
 std::string Word_Form(const Length& length, std::int16_t inchesOnly, std::int16_t denominator) {
@@ -105,8 +105,8 @@ std::int16_t Number_Ahead_Of_Mark(std::string_view text) {
 }
 
 std::string Marked_Inches_To_Words(std::string_view text) {
-    const int blank = Position_Of(text, BlankMark);
-    const int slash = Position_Of(text, SlashMark);
+    const int blank = Position_Of(text, blankMark);
+    const int slash = Position_Of(text, slashMark);
     if (blank == 0 && slash == 0)
         return Inch_Words(Number_Ahead_Of_Mark(text));
     if (blank == 0)
@@ -120,9 +120,9 @@ std::string Marked_Inches_To_Words(std::string_view text) {
 
 // The inch part starts two characters behind the foot mark, right behind the dash.
 std::string Full_Form_To_Words(std::string_view text) {
-    const int foot = Position_Of(text, FootMark);
-    const int blank = Position_Of(text, BlankMark);
-    const int slash = Position_Of(text, SlashMark);
+    const int foot = Position_Of(text, footMark);
+    const int blank = Position_Of(text, blankMark);
+    const int slash = Position_Of(text, slashMark);
     const int start = foot + 2;
     const std::string feet = Feet_Words(Number_Between(text, 1, foot + 1)) + " and ";
     if (blank == 0 && slash == 0)
@@ -139,11 +139,11 @@ std::string Full_Form_To_Words(std::string_view text) {
 // Empty where the form has no reading.
 std::string Form_To_Words(std::string_view text) {
     switch (Classify_FeetInch(text)) {
-    case FormFeet:
+    case formFeet:
         return Feet_Words(Number_Ahead_Of_Mark(text));
-    case FormMarkedInches:
+    case formMarkedInches:
         return Marked_Inches_To_Words(text);
-    case FormFull:
+    case formFull:
         return Full_Form_To_Words(text);
     default:
         return {};
@@ -157,17 +157,17 @@ std::string FeetInch_Digits(std::int16_t inchesOnly, double feet, double inches,
     const double divisor = g;
     const double n = Finite(numerator / divisor), d = Finite(denominator / divisor);
     const bool folded = inchesOnly == fold || feet == 0;
-    const double whole = folded ? feet * InchesPerFoot + inches : inches;
+    const double whole = folded ? feet * inchesPerFoot + inches : inches;
     std::string text;
     if (!folded)
-        text = Whole_Text(feet) + FootMark + DashMark;
+        text = Whole_Text(feet) + footMark + dashMark;
     if (whole != 0 || numerator == 0)
         text += Whole_Text(whole);
     if (whole != 0 && numerator != 0)
-        text += BlankMark;
+        text += blankMark;
     if (numerator != 0)
-        text += Whole_Text(n) + SlashMark + Whole_Text(d);
-    return text + InchMark;
+        text += Whole_Text(n) + slashMark + Whole_Text(d);
+    return text + inchMark;
 }
 
 std::string FeetInch_Words(std::int16_t inchesOnly, std::int16_t feet, std::int16_t inches,
@@ -175,7 +175,7 @@ std::string FeetInch_Words(std::int16_t inchesOnly, std::int16_t feet, std::int1
     const double divisor = g;
     const std::int16_t n = Whole_16(numerator / divisor), d = Whole_16(denominator / divisor);
     const bool folded = inchesOnly == fold || feet == 0;
-    const int whole = folded ? feet * InchesPerFoot + inches : inches;
+    const int whole = folded ? feet * inchesPerFoot + inches : inches;
     std::string words = folded ? "" : Feet_Words(feet);
     if (whole != 0)
         Join(words, Words(whole));
@@ -201,15 +201,15 @@ std::string Format_FeetInch(double value, int denominator, int inchesOnly, int i
 }
 
 std::string Length_Text(double feet) {
-    return Format_FeetInch(feet, Sixteenths, 0, 0);
+    return Format_FeetInch(feet, lengthDenominator, 0, 0);
 }
 
 std::string FeetInch_Text_To_Words(std::string_view text) {
-    const bool negative = text.starts_with(DashMark);
+    const bool negative = text.starts_with(dashMark);
     std::string words;
     Attempt([&] { words = Form_To_Words(negative ? text.substr(1) : text); });
     if (Trim(words).empty())
-        return std::string{LengthError};
+        return std::string{lengthError};
     return negative ? '(' + words + ')' : words;
 }
 

@@ -9,7 +9,7 @@
 namespace Tensarix {
 
 // Every caller shows lengths to the nearest sixteenth of an inch.
-inline constexpr int Sixteenths = 16;
+inline constexpr int lengthDenominator = 16;
 
 // value: feet, of either sign. denominator: of the fraction of an inch, to which the length is
 // rounded, ties to the even numerator. inchesOnly 1: feet are folded into the inches. inWords other
@@ -34,7 +34,7 @@ std::string FeetInch_Digits(std::int16_t inchesOnly, double feet, double inches,
 std::string FeetInch_Words(std::int16_t inchesOnly, std::int16_t feet, std::int16_t inches,
                            std::int16_t numerator, std::int16_t g, std::int16_t denominator);
 
-// A text that carries its marks, as FeetInch_Digits writes it, in words. LengthError where it has
+// A text that carries its marks, as FeetInch_Digits writes it, in words. lengthError where it has
 // no reading: no inch or foot mark, a blank without a fraction. Feet and inches are rounded to
 // whole numbers, ties to even, and zero has no word: 12'-0" reads "Twelve Feet and  Inch"
 // in the read-out. Never fails.

@@ -34,18 +34,18 @@ void Split_Fraction(InchPieces& pieces, std::string_view text, std::int16_t blan
                     std::int16_t slash) {
     const std::string_view tail = Behind(text, slash);
     const std::string trimmed = Trim(tail);
-    const std::size_t mark = trimmed.ends_with(InchMark) ? 1 : 0;
+    const std::size_t mark = trimmed.ends_with(inchMark) ? 1 : 0;
     const auto length = static_cast<std::size_t>(
         Whole_16(static_cast<double>(trimmed.size()) - static_cast<double>(mark)));
     pieces.Denominator = Trim(tail.substr(0, length));
-    pieces.InOrder = slash > 1 && blank < slash && Position_Of(trimmed, SlashMark) == 0;
+    pieces.InOrder = slash > 1 && blank < slash && Position_Of(trimmed, slashMark) == 0;
     if (blank < slash)
         pieces.Numerator = Trim(Behind(Ahead_Of(text, slash), blank));
 }
 
 InchPieces Split_Inches(std::string_view text) {
-    const std::int16_t blank = Position_Of(text, BlankMark);
-    const std::int16_t slash = Position_Of(text, SlashMark);
+    const std::int16_t blank = Position_Of(text, blankMark);
+    const std::int16_t slash = Position_Of(text, slashMark);
     InchPieces pieces;
     pieces.Form = static_cast<InchForm>((blank >= 1 ? 1 : 0) + (slash >= 1 ? 2 : 0));
     if (blank >= 1)
@@ -56,7 +56,7 @@ InchPieces Split_Inches(std::string_view text) {
 }
 
 bool Is_Plain_Number(std::string_view text) {
-    if (text.ends_with(InchMark))
+    if (text.ends_with(inchMark))
         text.remove_suffix(1);
     return Is_Numeric(text);
 }
@@ -106,21 +106,21 @@ std::int16_t Check_Both_Pieces(std::int16_t code, std::string_view text, std::in
                                std::int16_t dash) {
     code = Check_Feet_Piece(code, text, foot);
     const std::string_view rest = Behind(text, dash);
-    if (Position_Of(rest, DashMark) >= 1)
-        code = FormRejected;
-    return code == FormRejected ? code : Check_Inch_Piece(code, rest);
+    if (Position_Of(rest, dashMark) >= 1)
+        code = formRejected;
+    return code == formRejected ? code : Check_Inch_Piece(code, rest);
 }
 
 std::string_view Without_Leading_Dash(std::string_view text) {
-    return text.starts_with(DashMark) ? text.substr(1) : text;
+    return text.starts_with(dashMark) ? text.substr(1) : text;
 }
 
 double Read_Form(std::int16_t code, std::string_view text) {
     switch (code) {
-    case FormFeet:
+    case formFeet:
         return Read_Feet(text);
-    case FormFeetInches:
-    case FormFull:
+    case formFeetInches:
+    case formFull:
         return Read_FeetInch(text);
     default:
         return Read_Inches_As_Feet(text);
@@ -135,39 +135,39 @@ std::int16_t Position_Of(std::string_view text, char mark) {
 }
 
 bool Is_Form_Accepted(std::int16_t code) {
-    return code == FormInches || code == FormFeet || code == FormFeetInches ||
-           code == FormMarkedInches || code == FormFull;
+    return code == formInches || code == formFeet || code == formFeetInches ||
+           code == formMarkedInches || code == formFull;
 }
 
 std::int16_t Check_Feet_Piece(std::int16_t code, std::string_view text, std::int16_t footPos) {
-    return Is_Numeric(Ahead_Of(text, footPos)) ? code : FormRejected;
+    return Is_Numeric(Ahead_Of(text, footPos)) ? code : formRejected;
 }
 
 std::int16_t Check_Inch_Piece(std::int16_t code, std::string_view text) {
-    return Is_Inch_Piece(text) ? code : FormRejected;
+    return Is_Inch_Piece(text) ? code : formRejected;
 }
 
 std::int16_t Classify_FeetInch(std::string_view text) {
     const std::string trimmed = Trim(text);
     const std::string_view copy = Without_Leading_Dash(trimmed);
-    const std::int16_t foot = Position_Of(copy, FootMark);
-    const std::int16_t dash = Position_Of(copy, DashMark);
-    const std::int16_t inch = Position_Of(copy, InchMark);
+    const std::int16_t foot = Position_Of(copy, footMark);
+    const std::int16_t dash = Position_Of(copy, dashMark);
+    const std::int16_t inch = Position_Of(copy, inchMark);
     if (foot == 1 || inch == 1)
-        return FormRejected;
+        return formRejected;
     const auto code =
         static_cast<std::int16_t>((foot >= 1 ? 1 : 0) + (dash >= 1 ? 2 : 0) + (inch >= 1 ? 4 : 0));
     switch (code) {
-    case FormInches:
-    case FormMarkedInches:
+    case formInches:
+    case formMarkedInches:
         return Check_Inch_Piece(code, copy);
-    case FormFeet:
+    case formFeet:
         return Check_Feet_Piece(code, copy, foot);
-    case FormFeetInches:
-        return dash > foot ? Check_Both_Pieces(code, copy, foot, dash) : FormRejected;
-    case FormFull:
+    case formFeetInches:
+        return dash > foot ? Check_Both_Pieces(code, copy, foot, dash) : formRejected;
+    case formFull:
         return inch > dash && dash > foot ? Check_Both_Pieces(code, copy, foot, dash)
-                                          : FormRejected;
+                                          : formRejected;
     default:
         return code;
     }
@@ -178,16 +178,16 @@ double Read_Feet(std::string_view text) {
 }
 
 double Read_Inches_As_Feet(std::string_view text) {
-    return Finite(Inches_Value(text)) / InchesPerFoot;
+    return Finite(Inches_Value(text)) / inchesPerFoot;
 }
 
 double Read_FeetInch(std::string_view text) {
-    const std::int16_t dash = Position_Of(text, DashMark);
+    const std::int16_t dash = Position_Of(text, dashMark);
     return Finite(Read_Inches_As_Feet(Behind(text, dash)) + Read_Feet(text));
 }
 
 LengthValue Parse_ToFeet(std::string_view text) {
-    LengthValue result{std::string{LengthError}};
+    LengthValue result{std::string{lengthError}};
     Attempt([&] {
         const std::string_view length = Without_Leading_Dash(text);
         const double sign = length.size() < text.size() ? -1 : 1;
@@ -205,9 +205,9 @@ LengthValue Parse_FeetInch(std::string_view text, std::string_view unit) {
     if (target != "IN")
         return {};
     const std::optional<double> feet = Feet_Of(text);
-    LengthValue result{std::string{LengthError}};
+    LengthValue result{std::string{lengthError}};
     if (feet)
-        Attempt([&] { result = Finite(*feet * InchesPerFoot); });
+        Attempt([&] { result = Finite(*feet * inchesPerFoot); });
     return result;
 }
 

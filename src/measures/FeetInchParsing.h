@@ -14,33 +14,33 @@
 
 namespace Tensarix {
 
-inline constexpr char FootMark = '\'';
-inline constexpr char InchMark = '"';
-inline constexpr char DashMark = '-';
-inline constexpr char BlankMark = ' ';
-inline constexpr char SlashMark = '/';
+inline constexpr char footMark = '\'';
+inline constexpr char inchMark = '"';
+inline constexpr char dashMark = '-';
+inline constexpr char blankMark = ' ';
+inline constexpr char slashMark = '/';
 
-inline constexpr int InchesPerFoot = 12;
+inline constexpr int inchesPerFoot = 12;
 
 // Stands in place of a number where the text is no length.
-inline constexpr std::string_view LengthError = "*ERROR*";
+inline constexpr std::string_view lengthError = "*ERROR*";
 
 // The marks of a text, added up: 1 foot, 2 dash, 4 inch.
-inline constexpr std::int16_t FormInches = 0;       // 6 1/2
-inline constexpr std::int16_t FormFeet = 1;         // 5'
-inline constexpr std::int16_t FormFeetInches = 3;   // 5'-6 1/2
-inline constexpr std::int16_t FormMarkedInches = 4; // 6 1/2"
-inline constexpr std::int16_t FormFull = 7;         // 5'-6 1/2"
-inline constexpr std::int16_t FormRejected = 100;   // the marks may do, the text doesn't
+inline constexpr std::int16_t formInches = 0;       // 6 1/2
+inline constexpr std::int16_t formFeet = 1;         // 5'
+inline constexpr std::int16_t formFeetInches = 3;   // 5'-6 1/2
+inline constexpr std::int16_t formMarkedInches = 4; // 6 1/2"
+inline constexpr std::int16_t formFull = 7;         // 5'-6 1/2"
+inline constexpr std::int16_t formRejected = 100;   // the marks may do, the text doesn't
 
-// Nothing, a number, or LengthError.
+// Nothing, a number, or lengthError.
 using LengthValue = std::variant<std::monostate, double, std::string>;
 
 // Unit "FT" gives feet, "IN" inches, in either case of letters; any other gives nothing, unread.
-// LengthError where the text is no length. Never fails, never rounds.
+// lengthError where the text is no length. Never fails, never rounds.
 LengthValue Parse_FeetInch(std::string_view text, std::string_view unit);
 
-// The number of feet, or LengthError. Never fails. A leading dash turns the sign of all that
+// The number of feet, or lengthError. Never fails. A leading dash turns the sign of all that
 // follows; a second one stays in the number, so that "--5" is plus 5 inches.
 LengthValue Parse_ToFeet(std::string_view text);
 
@@ -54,12 +54,12 @@ std::int16_t Classify_FeetInch(std::string_view text);
 // True for the five forms that are lengths; the dash between feet and inches is compulsory.
 bool Is_Form_Accepted(std::int16_t code);
 
-// The code, or FormRejected where what stands ahead of the foot mark (at footPos, from 1) is no
+// The code, or formRejected where what stands ahead of the foot mark (at footPos, from 1) is no
 // number. What stands behind the mark isn't looked at, so "5'6" and "5''''" are 5 feet; the box
 // then shows the length it took.
 std::int16_t Check_Feet_Piece(std::int16_t code, std::string_view text, std::int16_t footPos);
 
-// The code, or FormRejected where the text is no inch part: 6, 1/2, or 6 1/2, the inch mark
+// The code, or formRejected where the text is no inch part: 6, 1/2, or 6 1/2, the inch mark
 // allowed behind it. What follows a blank without a slash isn't looked at and drops out.
 std::int16_t Check_Inch_Piece(std::int16_t code, std::string_view text);
 

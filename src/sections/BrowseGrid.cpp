@@ -28,8 +28,8 @@ void Lay_Out_Rows(FlexGrid& grid, const Layout& layout) {
         grid.Set_Style(row, unitColumn, centreStyle);
         grid.Set_Style(row, meaningColumn, {});
         // What stands here is of the family shown before, until it is written.
-        Mark_Left(grid, row, valueColumn, StaleValueRemark);
-        Mark_Left(grid, row, unitColumn, StaleValueRemark);
+        Mark_Left(grid, row, valueColumn, staleValueRemark);
+        Mark_Left(grid, row, unitColumn, staleValueRemark);
     }
 }
 
@@ -55,9 +55,9 @@ void Write_Values(FlexGrid& grid, const Layout& layout, const SectionRecordset& 
         const Property& property = *entry.Browse;
         ++row;
         if (!Attempt([&] { Write_Value(grid, row, valueColumn, record, property, view); }))
-            Mark_Left(grid, row, valueColumn, StaleValueRemark);
+            Mark_Left(grid, row, valueColumn, staleValueRemark);
         else if (Is_Detailing_K(property, view.Units))
-            grid.Set_Remark(row, valueColumn, std::string{DetailingRemark});
+            grid.Set_Remark(row, valueColumn, std::string{detailingRemark});
         if (property.WritesUnit)
             grid.Set_Text(row, unitColumn, std::string{Unit_Text(property, view.Units)});
     }
@@ -98,7 +98,7 @@ void PlainInitializer::operator()(FlexGrid& grid, const ComboBox& sizeList, cons
         Write_Values(grid, Rows, read.Records, view);
     });
     for (int row = 1; !found && row < grid.Rows(); ++row)
-        Mark_Left(grid, row, valueColumn, StaleValueRemark);
+        Mark_Left(grid, row, valueColumn, staleValueRemark);
 }
 
 } // namespace Tensarix

@@ -12,10 +12,10 @@
 
 namespace Tensarix {
 
-inline constexpr std::string_view StaleValueRemark =
+inline constexpr std::string_view staleValueRemark =
     "Not tabulated for this section; the text is left from the section shown before";
 // On a "k" that isn't read from the design values.
-inline constexpr std::string_view DetailingRemark =
+inline constexpr std::string_view detailingRemark =
     "The detailing value, kdet, not the design value";
 
 // labelMode writes the fixed cells of the layout; otherwise the values and units of the section

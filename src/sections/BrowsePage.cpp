@@ -60,7 +60,7 @@ void BrowsePage::Init_ShapeFlex() {
     ShapeFlex.Set_Row_Height(0, 460);
     for (int col = 0; col < ShapeFlex.Cols(); ++col) {
         ShapeFlex.Set_Col_Width(col, widths[col]);
-        CellStyle style = HeadStyle;
+        CellStyle style = headStyle;
         style.Align = col == 3 ? Alignment::Left : Alignment::Centre;
         ShapeFlex.Set_Style(0, col, style);
         ShapeFlex.Set_Text(0, col, heads[col]);
@@ -109,9 +109,9 @@ void BrowsePage::ShowSectionProperties() {
     const int position = ShapeType.ListIndex();
     Attempt([&] {
         const Family& family = Family_At(position);
-        if (position == UnEqualDoubleAngleFamily)
+        if (position == unEqualDoubleAngleFamily)
             BaseImage.Set_Name(std::string{Double_Angle_Picture(ShapeSizeUS.Text())});
-        family.Browse(ShapeFlex, position == PipeFamily ? ShapeSizeSI : ShapeSizeUS, View(), false);
+        family.Browse(ShapeFlex, position == pipeFamily ? ShapeSizeSI : ShapeSizeUS, View(), false);
     });
     Draw_Section();
     desk_.Show_No_Selection();
@@ -119,7 +119,7 @@ void BrowsePage::ShowSectionProperties() {
 
 void BrowsePage::Draw_Section() {
     const int position = ShapeType.ListIndex();
-    const ComboBox& sizes = position == PipeFamily ? ShapeSizeSI : ShapeSizeUS;
+    const ComboBox& sizes = position == pipeFamily ? ShapeSizeSI : ShapeSizeUS;
     if (position < 0 || sizes.ListIndex() < 0)
         return;
     Drawing drawing = Read_Section_Drawing(position, sizes.Text(), View(), DrawingDetail::Full);

@@ -28,11 +28,11 @@ std::string Measure(const SectionRecordset& record, std::initializer_list<const 
 }
 
 int Position_Of_Type(std::string_view type) {
-    const auto* found = std::find_if(Families.begin(), Families.end(),
+    const auto* found = std::find_if(allFamilies.begin(), allFamilies.end(),
                                      [&](const Family& family) { return family.Type == type; });
-    if (found == Families.end())
+    if (found == allFamilies.end())
         throw Failure("no such family");
-    return static_cast<int>(found - Families.begin());
+    return static_cast<int>(found - allFamilies.begin());
 }
 
 } // namespace
@@ -41,7 +41,7 @@ DesignationSearch::DesignationSearch(const std::filesystem::path& programFolder)
     Attempt([&] {
         SectionRead read(programFolder, std::string{query});
         const SectionRecordset& record = read.Records;
-        std::array<int, Families.size()> counts{};
+        std::array<int, allFamilies.size()> counts{};
         for (read.Records.MoveFirst(); !record.At_End(); read.Records.MoveNext()) {
             Attempt([&] {
                 Section section;

@@ -23,23 +23,23 @@ bool Has_Rows(const SectionRecordset& records) {
 } // namespace
 
 const Family& Family_At(int position) {
-    if (position < 0 || position >= static_cast<int>(Families.size()))
+    if (position < 0 || position >= static_cast<int>(allFamilies.size()))
         throw Failure("no such family");
-    return Families[static_cast<std::size_t>(position)];
+    return allFamilies[static_cast<std::size_t>(position)];
 }
 
 const Family& Family_Of_Type(std::string_view type) {
     const std::string code = Trim(type);
-    const auto* found = std::find_if(Families.begin(), Families.end(),
+    const auto* found = std::find_if(allFamilies.begin(), allFamilies.end(),
                                      [&](const Family& family) { return family.Type == code; });
-    if (found == Families.end())
+    if (found == allFamilies.end())
         throw Failure("no such family");
     return *found;
 }
 
 void FillFamilyList(ComboBox& combo) {
     combo.Clear();
-    for (const Family& family : Families)
+    for (const Family& family : allFamilies)
         combo.Add(std::string{family.Name});
 }
 

@@ -20,7 +20,7 @@ struct Family {
     const FindInitializer& Find;
 };
 
-inline constexpr std::array<Family, 17> Families{{
+inline constexpr std::array<Family, 17> allFamilies{{
     {"W-Shape", "W", "WShapeImage", WShape_Initializer, xWShape_Initializer, fWShape_Initializer},
     {"M-Shape", "M", "MShapeImage", WShape_Initializer, xWShape_Initializer, fWShape_Initializer},
     {"HP-Shape", "HP", "HPShapeImage", WShape_Initializer, xWShape_Initializer,
@@ -52,9 +52,9 @@ inline constexpr std::array<Family, 17> Families{{
      fUnEqDAngle_Initializer},
 }};
 
-inline constexpr int PipeFamily = 12;
-inline constexpr int UnEqualDoubleAngleFamily = 16;
-inline constexpr int BeamFamilies = 6; // the first ones carry beam load
+inline constexpr int pipeFamily = 12;
+inline constexpr int unEqualDoubleAngleFamily = 16;
+inline constexpr int beamFamilies = 6; // the first ones carry beam load
 
 // The family at a list position; fails where there is none.
 const Family& Family_At(int position);

@@ -67,7 +67,7 @@ Advice Find_Property_Note(std::string_view type, std::string_view property, Prof
 }
 
 std::string_view Find_Criterion_Note(std::string_view criterion) {
-    return criterion == FindCriteria[0]
+    return criterion == findCriteria[0]
                ? "\"At least\" finds the numbers that begin with the digits typed: 3.25 finds "
                  "3.25 and 3.259, not 3.26."
                : std::string_view{};

@@ -45,7 +45,7 @@ FindPage::FindPage(Desk& desk)
 }
 
 void FindPage::Fill_Criteria() {
-    for (const std::string_view criterion : FindCriteria)
+    for (const std::string_view criterion : findCriteria)
         fCriterion.Add(std::string{criterion});
 }
 
@@ -184,7 +184,7 @@ SectionView FindPage::View() const {
 void FindPage::Show_What_To_Do() {
     const std::string_view hint = !searched_          ? "Choose a property and press Go"
                                   : count_.Found == 0 ? "No section meets the condition"
-                                                      : NoSectionDrawn;
+                                                      : noSectionDrawn;
     SectionDrawing.Set_Drawing({std::string{hint}});
 }
 

@@ -11,7 +11,7 @@
 
 namespace Tensarix {
 
-inline constexpr std::array<std::string_view, 6> FindCriteria{"At least", "=",  ">",
+inline constexpr std::array<std::string_view, 6> findCriteria{"At least", "=",  ">",
                                                               "<",        ">=", "<="};
 
 struct FindCondition {
@@ -39,7 +39,7 @@ struct FindInitializer {
 // and refuses 3.24 and 3.26; 10 accepts 10.9. The note beside the search tells it.
 bool AtLeastMatches(double search, double field);
 
-// The field against the search value by one of FindCriteria, in any case; another text never
+// The field against the search value by one of findCriteria, in any case; another text never
 // matches. "=" is exact to the last binary digit.
 bool Criterion_Matches(std::string_view criterion, double search, double field);
 

@@ -274,7 +274,7 @@ std::string Value_Text(const SectionRecordset& record, const Property& property,
     if (property.Kind == PropertyKind::Length) {
         const double value = Value_Number(record, property, profile);
         if (us && style == DimensionStyle::Imperial)
-            return Length_Text(value / InchesPerFoot).append(cellEnd);
+            return Length_Text(value / inchesPerFoot).append(cellEnd);
         return Format_Number(value, valuePattern);
     }
     if (property.Kind == PropertyKind::SecondMoment && !us)

@@ -411,7 +411,7 @@ Drawing Read_Section_Drawing(int familyPosition, const std::string& name, const 
     Drawing drawing;
     Attempt([&] {
         const Family& family = Family_At(familyPosition);
-        const SectionRead read(view.ProgramFolder, familyPosition == PipeFamily
+        const SectionRead read(view.ProgramFolder, familyPosition == pipeFamily
                                                        ? Query_By_SI_Name(name)
                                                        : Query_By_US_Label(name));
         drawing = Draw_Section(read.Records, family, view.Units, view.Style, detail);

@@ -123,13 +123,13 @@ void OpenSectionConnection(SectionConnection& connection, const std::filesystem:
     if (result != SQLITE_OK)
         throw Failure("section store can't be opened");
     Harden(raw);
-    const FieldValue id{double{SectionStoreApplicationId}};
-    const FieldValue version{double{SectionStoreVersion}};
+    const FieldValue id{double{sectionStoreApplicationId}};
+    const FieldValue version{double{sectionStoreVersion}};
     if (Single_Value(raw, "PRAGMA application_id") != id ||
         Single_Value(raw, "PRAGMA user_version") != version)
         throw Failure("not a section store");
     const std::string property = std::string{"SELECT Value FROM StoreProperty WHERE Name = '"}
-                                     .append(PasswordProperty)
+                                     .append(passwordProperty)
                                      .append("'");
     if (Single_Value(raw, property) != FieldValue{std::string{password}})
         throw Failure("wrong password");
@@ -268,7 +268,7 @@ std::string Query_Value_List(std::string_view familyCode, std::string_view colum
 }
 
 SectionRead::SectionRead(const std::filesystem::path& programFolder, const std::string& sql) {
-    OpenSectionConnection(Connection, programFolder / SectionStoreFile, SectionStorePassword);
+    OpenSectionConnection(Connection, programFolder / sectionStoreFile, sectionStorePassword);
     OpenSectionRecordset(Records, Connection, sql);
 }
 

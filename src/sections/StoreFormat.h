@@ -7,16 +7,16 @@
 namespace Tensarix {
 
 // An SQLite file. It keeps the name it has always had, whatever its format is now.
-inline constexpr std::string_view SectionStoreFile = "ShapeDataBase.mdb";
+inline constexpr std::string_view sectionStoreFile = "ShapeDataBase.mdb";
 
 // Kept in the store as a property and asked for by whoever opens it; it protects nothing.
-inline constexpr std::string_view SectionStorePassword = "KVQ04417263951";
+inline constexpr std::string_view sectionStorePassword = "KVQ04417263951";
 
 // "TnsX", in the place that SQLite has for the number of the program that owns a file.
-inline constexpr std::int32_t SectionStoreApplicationId = 0x546E7358;
-inline constexpr std::int32_t SectionStoreVersion = 1;
+inline constexpr std::int32_t sectionStoreApplicationId = 0x546E7358;
+inline constexpr std::int32_t sectionStoreVersion = 1;
 
 // StoreProperty(Name, Value): the row of this name holds the password.
-inline constexpr std::string_view PasswordProperty = "Password";
+inline constexpr std::string_view passwordProperty = "Password";
 
 } // namespace Tensarix

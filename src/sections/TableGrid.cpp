@@ -31,7 +31,7 @@ int Column_Of(std::span<const int> numbering, std::size_t entry) {
 }
 
 void Write_Head(FlexGrid& grid, int col, std::string text) {
-    grid.Set_Style(0, col, HeadStyle);
+    grid.Set_Style(0, col, headStyle);
     grid.Set_Text(0, col, std::move(text));
 }
 
@@ -119,7 +119,7 @@ void Lay_Out_Table(FlexGrid& grid, const Layout& layout, TableVariant variant, P
         const int col = Column_Of(layout.HeadColumns, i);
         Write_Head(grid, col, Head_Text(property, profile));
         if (Is_Detailing_K(property, profile))
-            grid.Set_Remark(0, col, std::string{DetailingRemark});
+            grid.Set_Remark(0, col, std::string{detailingRemark});
     }
     Mark_Shifted_Columns(grid, layout, variant, profile);
 }
@@ -133,7 +133,7 @@ void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, co
         const int col = Column_Of(layout.ValueColumns, i);
         grid.Set_Style(row, col, rightStyle);
         if (!Attempt([&] { Write_Value(grid, row, col, record, property, view); }))
-            Mark_Left(grid, row, col, EarlierValueRemark);
+            Mark_Left(grid, row, col, earlierValueRemark);
     }
 }
 

@@ -12,7 +12,7 @@
 namespace Tensarix {
 
 // Where two values share a column and the second one is not tabulated.
-inline constexpr std::string_view EarlierValueRemark =
+inline constexpr std::string_view earlierValueRemark =
     "Not tabulated for this section; the text is that of the property written here first";
 
 // Fills the grid with a family. Gives the number of sections.

@@ -73,12 +73,12 @@ bool Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& be
 void Draw_Table_Selection(DrawingBox& box, const FlexGrid& grid, int familyPosition,
                           const SectionView& view) {
     const std::string name =
-        Trim(grid.Text(grid.Row(), familyPosition == PipeFamily ? siNameColumn : usNameColumn));
+        Trim(grid.Text(grid.Row(), familyPosition == pipeFamily ? siNameColumn : usNameColumn));
     Drawing drawing;
     if (grid.Row() >= grid.FixedRows() && !name.empty())
         drawing = Read_Section_Drawing(familyPosition, name, view, DrawingDetail::Small);
     if (drawing.Empty())
-        drawing.Sentence = NoSectionDrawn;
+        drawing.Sentence = noSectionDrawn;
     box.Set_Drawing(std::move(drawing));
 }
 

@@ -35,6 +35,6 @@ bool Follow_Current_Cell(Desk& desk, const FlexGrid& grid, const CurrentCell& be
 // Draws the section of the current row, small; a row without one says what to do.
 void Draw_Table_Selection(DrawingBox& box, const FlexGrid& grid, int familyPosition,
                           const SectionView& view);
-inline constexpr std::string_view NoSectionDrawn = "Select a section to see it here";
+inline constexpr std::string_view noSectionDrawn = "Select a section to see it here";
 
 } // namespace Tensarix

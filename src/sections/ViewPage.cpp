@@ -29,7 +29,7 @@ ViewPage::ViewPage(Desk& desk)
         Show_Table_Selection(desk_, xShapeFlex);
         Draw_Table_Selection(SectionDrawing, xShapeFlex, xShapeType.ListIndex(), View());
     };
-    SectionDrawing.Set_Drawing({std::string{NoSectionDrawn}});
+    SectionDrawing.Set_Drawing({std::string{noSectionDrawn}});
     xShapeFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
 }
 
@@ -52,7 +52,7 @@ void ViewPage::xShapeType_Change() {
         const Family& family = Family_At(xShapeType.ListIndex());
         count_ = family.ViewAll(xShapeFlex, family.Type, View());
     });
-    SectionDrawing.Set_Drawing({std::string{NoSectionDrawn}});
+    SectionDrawing.Set_Drawing({std::string{noSectionDrawn}});
     if (Follow_Current_Cell(desk_, xShapeFlex, before))
         Draw_Table_Selection(SectionDrawing, xShapeFlex, xShapeType.ListIndex(), View());
     xShapeFlex.Set_Top_Row(1);

@@ -47,7 +47,7 @@ void AnySectionFrm::Init_FoundFlex() {
     int col = 0;
     for (const FoundColumn& column : columns) {
         FoundFlex.Set_Col_Width(col, column.Width);
-        FoundFlex.Set_Style(0, col, HeadStyle);
+        FoundFlex.Set_Style(0, col, headStyle);
         FoundFlex.Set_Text(0, col++, column.Head);
     }
 }
@@ -87,7 +87,7 @@ const FoundSection* AnySectionFrm::Current() const {
 void AnySectionFrm::FoundFlex_SelChange() {
     const FoundSection* section = Current();
     BrowseButton.Enable(section != nullptr);
-    BeamButton.Enable(section && section->Place.Family < BeamFamilies);
+    BeamButton.Enable(section && section->Place.Family < beamFamilies);
     Run(OnCurrent);
 }
 

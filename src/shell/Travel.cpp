@@ -101,7 +101,7 @@ std::optional<SectionPlace> Travel::Place_Of_Row(const ComboBox& family,
 void Travel::Prepare() {
     const std::optional<SectionPlace> place = Current();
     mnuShowBrowse.Enable(place && Page() != Mode::Browse);
-    mnuShowBeam.Enable(place && place->Family < BeamFamilies && Page() != Mode::BeamLoad);
+    mnuShowBeam.Enable(place && place->Family < beamFamilies && Page() != Mode::BeamLoad);
     mnuShowWeights.Enable(place.has_value());
 }
 
@@ -117,7 +117,7 @@ void Travel::Note_Stop() {
 }
 
 void Travel::Show(Mode page, SectionPlace place) {
-    if (page == Mode::BeamLoad && place.Family >= BeamFamilies)
+    if (page == Mode::BeamLoad && place.Family >= beamFamilies)
         return;
     Note_Stop();
     Choose(page, place);

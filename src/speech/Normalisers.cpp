@@ -84,8 +84,8 @@ constexpr std::string_view powerOfTen = "x10^";
 constexpr std::string_view spokenPowerOfTen = " :: TIMES 10 TO THE POWER ";
 
 bool Has_Length_Mark(std::string_view text) {
-    return text.find(InchMark) != std::string_view::npos ||
-           text.find(FootMark) != std::string_view::npos;
+    return text.find(inchMark) != std::string_view::npos ||
+           text.find(footMark) != std::string_view::npos;
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 
 namespace Tensarix {
 
-// A single symbol, or a value. A length with a foot or inch mark is read in words (LengthError
+// A single symbol, or a value. A length with a foot or inch mark is read in words (lengthError
 // where it has no reading); what is no symbol comes back as it stands, but for powers of ten.
 std::string Speak_Symbol(std::string_view text);
 

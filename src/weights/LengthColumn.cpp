@@ -18,7 +18,7 @@ constexpr std::string_view warningTitle = "Warning";
 
 void Commit_Length(TextBox& editor) {
     if (const std::optional<double> feet = Feet_Of(Trim(editor.Text())))
-        editor.Set_Text(Length_Text(*feet).append(CellPadding));
+        editor.Set_Text(Length_Text(*feet).append(cellPadding));
 }
 
 void Commit_Metric(TextBox& editor) {

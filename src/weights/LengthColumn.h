@@ -13,7 +13,7 @@ namespace Tensarix {
 enum class LengthUnit { FeetInches, Metres };
 
 // Stands behind lengths and weights, so that right-aligned text keeps off the grid line.
-inline constexpr std::string_view CellPadding = "     ";
+inline constexpr std::string_view cellPadding = "     ";
 
 // Bring the text of an editor to its normal form; 5.5' becomes 5'-6". Commit_Length takes a text
 // that is a length; Commit_Metric takes any, of which the leading number counts, and leaves an

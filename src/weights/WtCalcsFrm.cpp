@@ -45,7 +45,7 @@ WtCalcsFrm::WtCalcsFrm(Desk& desk, SavedLengths& saved)
     ClearButton.OnClick = [this] { ClearButton_Click(); };
     missing_ = [this](const FlexGrid& grid, int row) {
         const bool typed = !Trim(grid.Text(row, lengthCol)).empty();
-        return typed && ShapeSizeUS.ListIndex() < 0 ? NoSectionRemark : std::string_view{};
+        return typed && ShapeSizeUS.ListIndex() < 0 ? noSectionRemark : std::string_view{};
     };
     Go_Back_On_Focus(ImperialFlex, imperialRow_);
     Go_Back_On_Focus(MetricFlex, metricRow_);
@@ -66,8 +66,8 @@ void WtCalcsFrm::Load() {
     Init_Head_Metric();
     int row = 1;
     for (const SavedLength& saved : Saved_Lengths) {
-        ImperialFlex.Set_Text(row, lengthCol, Trim(saved.Imperial).append(CellPadding));
-        MetricFlex.Set_Text(row, lengthCol, Trim(saved.Metric).append(CellPadding));
+        ImperialFlex.Set_Text(row, lengthCol, Trim(saved.Imperial).append(cellPadding));
+        MetricFlex.Set_Text(row, lengthCol, Trim(saved.Metric).append(cellPadding));
         ++row;
     }
     Start_Histories();
@@ -101,7 +101,7 @@ void WtCalcsFrm::ShapeType_Change() {
     if (footIsCurrent_ && meterIsCurrent_)
         return;
     // No section was chosen: the weights still are those of the one before.
-    for (int row = 1; row <= EntryRows; ++row) {
+    for (int row = 1; row <= entryRows; ++row) {
         Mark_Stale(ImperialFlex, row);
         Mark_Stale(MetricFlex, row);
     }
@@ -139,7 +139,7 @@ void WtCalcsFrm::Compute_All() {
         imperialRow_ = ImperialFlex.Row();
     if (metricRow_ == 0)
         metricRow_ = MetricFlex.Row();
-    for (int row = 1; row <= EntryRows; ++row) {
+    for (int row = 1; row <= entryRows; ++row) {
         ImperialFlex.Move_To(row, lengthCol);
         Compute_Row_Imperial(ImperialFlex);
         MetricFlex.Move_To(row, lengthCol);

@@ -14,12 +14,12 @@ namespace Tensarix {
 struct SavedLength {
     std::string Imperial, Metric;
 };
-using SavedLengths = std::array<SavedLength, EntryRows>;
+using SavedLengths = std::array<SavedLength, entryRows>;
 
 class WtCalcsFrm final : public WtCalcsSheets {
   public:
-    static constexpr std::string_view ImperialCaption = "  Imperial Input  ";
-    static constexpr std::string_view MetricCaption = "  Metric Input  ";
+    static constexpr std::string_view imperialCaption = "  Imperial Input  ";
+    static constexpr std::string_view metricCaption = "  Metric Input  ";
 
     WtCalcsFrm(Desk& desk, SavedLengths& saved);
 

@@ -27,8 +27,8 @@ struct SavedColumn {
 };
 constexpr SavedColumn savedColumns[] = {
     {sizeCol, &SavedRow::ImperialSize, &SavedRow::MetricSize, ""},
-    {lengthCol, &SavedRow::ImperialLength, &SavedRow::MetricLength, CellPadding},
-    {weightCol, &SavedRow::ImperialWeight, &SavedRow::MetricWeight, CellPadding},
+    {lengthCol, &SavedRow::ImperialLength, &SavedRow::MetricLength, cellPadding},
+    {weightCol, &SavedRow::ImperialWeight, &SavedRow::MetricWeight, cellPadding},
 };
 
 double Find_Weight(const std::filesystem::path& folder, const std::string& query,
@@ -66,7 +66,7 @@ WtCalcsFrmA::WtCalcsFrmA(Desk& desk, SavedRows& saved)
         const bool typed = !Trim(grid.Text(row, lengthCol)).empty();
         if (sized == typed)
             return {};
-        return typed ? NoSectionRemark : noLengthRemark;
+        return typed ? noSectionRemark : noLengthRemark;
     };
     ShapeType.OnChange = [this] { ShapeType_Change(); };
     ShapeType.Focus.OnGotFocus = [this] { Hide_Lists(); };

@@ -19,12 +19,12 @@ struct SavedRow {
     Advice ImperialRemark, MetricRemark;
     std::optional<double> ExactPounds;
 };
-using SavedRows = std::array<SavedRow, EntryRows>;
+using SavedRows = std::array<SavedRow, entryRows>;
 
 class WtCalcsFrmA final : public WtCalcsSheets {
   public:
-    static constexpr std::string_view ImperialCaption = "  Standard U.S. Profile  ";
-    static constexpr std::string_view MetricCaption = "  SI Equivalent Profile  ";
+    static constexpr std::string_view imperialCaption = "  Standard U.S. Profile  ";
+    static constexpr std::string_view metricCaption = "  SI Equivalent Profile  ";
 
     WtCalcsFrmA(Desk& desk, SavedRows& saved);
 

@@ -18,7 +18,7 @@ constexpr CellStyle Bold(CellStyle style) {
     style.Bold = true;
     return style;
 }
-constexpr CellStyle headStyle = Bold(HeadStyle);
+constexpr CellStyle boldHeadStyle = Bold(headStyle);
 constexpr CellStyle numberStyle{.Align = Alignment::Centre, .Fore = Colours::SymbolText};
 
 int Weight_Col(const FlexGrid& grid) {
@@ -70,20 +70,20 @@ void WtCalcsSheets::Start_Histories() {
 
 void WtCalcsSheets::Init_Sheet(FlexGrid& grid, std::span<const SheetColumn> columns) {
     grid.Clear();
-    grid.Set_Rows(EntryRows + 1);
+    grid.Set_Rows(entryRows + 1);
     grid.Set_Cols(static_cast<int>(columns.size()));
     grid.Set_Fixed(1, 1);
     grid.Set_Row_Height_Min(rowHeightMin);
     int col = 0;
     for (const SheetColumn& column : columns) {
         grid.Set_Col_Width(col, column.Width);
-        grid.Set_Style(0, col, headStyle);
+        grid.Set_Style(0, col, boldHeadStyle);
         grid.Set_Text(0, col, std::string{column.Head});
-        for (int row = 1; row <= EntryRows; ++row)
+        for (int row = 1; row <= entryRows; ++row)
             grid.Set_Style(row, col, col == 0 ? numberStyle : CellStyle{.Align = column.Align});
         ++col;
     }
-    for (int row = 1; row <= EntryRows; ++row)
+    for (int row = 1; row <= entryRows; ++row)
         grid.Set_Text(row, 0, std::to_string(row));
 }
 
@@ -98,12 +98,12 @@ void WtCalcsSheets::Write_Weight(FlexGrid& grid, int row, double length, double 
 
 void WtCalcsSheets::Mark_Stale(FlexGrid& grid, int row) {
     if (!Trim(grid.Text(row, Weight_Col(grid))).empty())
-        grid.Set_Remark(row, Weight_Col(grid), std::string{StaleWeightRemark},
+        grid.Set_Remark(row, Weight_Col(grid), std::string{staleWeightRemark},
                         RemarkWeight::Caution);
 }
 
 void WtCalcsSheets::Clear_Entries(FlexGrid& grid) {
-    for (int row = 1; row <= EntryRows; ++row)
+    for (int row = 1; row <= entryRows; ++row)
         for (int col = 1; col < grid.Cols(); ++col)
             grid.Set_Text(row, col, {});
 }
@@ -122,7 +122,7 @@ void WtCalcsSheets::Show_Total() {
     int count = 0;
     double sum = 0, exact = 0;
     RemarkWeight weight = RemarkWeight::Note;
-    for (int row = 1; row <= EntryRows; ++row) {
+    for (int row = 1; row <= entryRows; ++row) {
         const std::string text = Replace_All(Trim(grid.Text(row, col)), ",", "");
         if (text.empty())
             continue;

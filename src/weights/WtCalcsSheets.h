@@ -17,16 +17,16 @@
 
 namespace Tensarix {
 
-inline constexpr int EntryRows = 50; // of each sheet, behind the head row
-inline constexpr std::string_view WeightCaption = "Weight Calculator";
-inline constexpr int ImperialTab = 0;
-inline constexpr int MetricTab = 1;
+inline constexpr int entryRows = 50; // of each sheet, behind the head row
+inline constexpr std::string_view weightCaption = "Weight Calculator";
+inline constexpr int imperialTab = 0;
+inline constexpr int metricTab = 1;
 
 // Of a weight that stands though it could not be computed anew.
-inline constexpr std::string_view StaleWeightRemark =
+inline constexpr std::string_view staleWeightRemark =
     "Not the weight of this row: its section or its length could not be read";
 // Of a row that has no weight, or none of a section.
-inline constexpr std::string_view NoSectionRemark = "Choose a section first";
+inline constexpr std::string_view noSectionRemark = "Choose a section first";
 
 struct SheetColumn {
     std::string_view Head;
@@ -64,7 +64,7 @@ class WtCalcsSheets {
     static void Mark_Stale(FlexGrid& grid, int row);
     static void Clear_Entries(FlexGrid& grid);
 
-    bool Shows_Imperial() const { return SSTab1.Tab() == ImperialTab; }
+    bool Shows_Imperial() const { return SSTab1.Tab() == imperialTab; }
     FlexGrid& Shown_Grid() { return Shows_Imperial() ? ImperialFlex : MetricFlex; }
     CellEditing& Shown_Editing() { return Shows_Imperial() ? imperialEditing_ : metricEditing_; }
 
@@ -75,7 +75,7 @@ class WtCalcsSheets {
     void Save_Choice() const;
 
     // lb by the exact length, where another length was charged; by row.
-    std::array<std::optional<double>, EntryRows + 1> exactPounds_;
+    std::array<std::optional<double>, entryRows + 1> exactPounds_;
     // Why a row of a sheet has no weight; empty: nothing is missing.
     std::function<std::string_view(const FlexGrid& grid, int row)> missing_;
 

@@ -59,7 +59,7 @@ TEST_F(BeamPageTest, AFirstStart) {
     EXPECT_EQ(page->zShapeLab.Caption(), "W-Shape Profile");
     EXPECT_EQ(page->ShapeLab.Caption(), "Beam Size:    W44x335");
     EXPECT_EQ(page->zShapeSizeSI.Text(), "W1100x499");
-    EXPECT_EQ(page->AppliedCode.Tab(), Code9thEdition);
+    EXPECT_EQ(page->AppliedCode.Tab(), code9thEdition);
     EXPECT_FALSE(page->CodeFrame.Enabled());
     EXPECT_TRUE(page->CodeOpt[0].Value());
     EXPECT_FALSE(page->CodeOpt[1].Enabled());
@@ -99,7 +99,7 @@ TEST_F(BeamPageTest, EachPairOfCodeAndMethodKeepsItsOwnSpanAndFactor) {
     EXPECT_EQ(machine.Store.Written, (Texts{"BeamSpan10=30", "CFactor10=10"}));
     machine.Store.Written.clear();
 
-    p.AppliedCode.Select(Code13thEdition);
+    p.AppliedCode.Select(code13thEdition);
     EXPECT_EQ(machine.Store.Written, (Texts{"AppliedCode=2"})); // the yield strength stays
     EXPECT_TRUE(p.CodeFrame.Enabled() && p.CodeOpt[1].Enabled());
     EXPECT_EQ(p.BeamSpanBox.Text(), "0\"");
@@ -109,7 +109,7 @@ TEST_F(BeamPageTest, EachPairOfCodeAndMethodKeepsItsOwnSpanAndFactor) {
     EXPECT_EQ(p.BeamSpanBox.Text(), "0\"");
     EXPECT_EQ(p.CFactor.Text(), "0.00");
     p.CFactor.Set_Text("2.5");
-    p.AppliedCode.Select(Code9thEdition);
+    p.AppliedCode.Select(code9thEdition);
     EXPECT_EQ(machine.Store.Written,
               (Texts{"AppliedCode=2", "BeamSpan20=20.5", "YieldIndex2=1", "CodeOpt=1",
                      "CFactor21=2.5", "AppliedCode=1", "YieldIndex1=0"}));
@@ -120,7 +120,7 @@ TEST_F(BeamPageTest, EachPairOfCodeAndMethodKeepsItsOwnSpanAndFactor) {
 
     // The next start, and the page coming into view.
     BeamPage& q = Start();
-    q.AppliedCode.Select(Code13thEdition);
+    q.AppliedCode.Select(code13thEdition);
     EXPECT_TRUE(q.CodeOpt[1].Value());
     EXPECT_EQ(q.CFactor.Text(), "2.50");
     EXPECT_EQ(q.FyBox.Text(), "  36 Ksi");
@@ -272,9 +272,9 @@ TEST_F(BeamPageTest, DamagedSettingsLeaveTheControlsAsTheyWere) {
         machine.Store.Set("CodeOpt", bad);
         machine.Store.Set("BeamSpan", "x");
         BeamPage& p = Start();
-        EXPECT_EQ(p.AppliedCode.Tab(), Code9thEdition) << bad;
+        EXPECT_EQ(p.AppliedCode.Tab(), code9thEdition) << bad;
         EXPECT_EQ(p.BeamSpanBox.Text(), "25'-0\"") << bad; // the start's own
-        p.AppliedCode.Select(Code13thEdition);
+        p.AppliedCode.Select(code13thEdition);
         EXPECT_FALSE(p.CodeOpt[1].Value()) << bad;
     }
     machine.Store.Set("YieldIndex2", "99");
@@ -312,7 +312,7 @@ TEST_F(BeamPageTest, TheGridOfEachFamily) {
             EXPECT_EQ(grid.Text(++row, 0), Replace_All(label, "_", " "));
             EXPECT_EQ(grid.Text(row, 1), Format_Number(store.Number(column), "0.00##  "));
             EXPECT_EQ(grid.Text(row, 2), unit);
-            EXPECT_EQ(grid.Remark(row, 1), column == "xRX" ? SIColumnRemark : "");
+            EXPECT_EQ(grid.Remark(row, 1), column == "xRX" ? siColumnRemark : "");
             EXPECT_EQ(grid.Row_Height(row), 345);
         }
         EXPECT_EQ(grid.Rows(), row + 1);
@@ -322,7 +322,7 @@ TEST_F(BeamPageTest, TheGridOfEachFamily) {
     for (int col = 0; col < 3; ++col) {
         EXPECT_EQ(grid.Text(0, col), heads[col].first);
         EXPECT_EQ(grid.Col_Width(col), heads[col].second);
-        EXPECT_EQ(grid.Style(0, col), HeadStyle);
+        EXPECT_EQ(grid.Style(0, col), headStyle);
         EXPECT_TRUE(grid.Style(1, col).Tahoma);
     }
     EXPECT_EQ(grid.Remark_Weight(17, 1), RemarkWeight::Caution);
@@ -334,7 +334,7 @@ TEST_F(BeamPageTest, TheSelectionOfTheGrid) {
     EXPECT_EQ(Cell("k1", 1), "") << "not of the section before";
     page->zShapeFlex.Move_To(17, 0);
     EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   rx = 133.00 in");
-    EXPECT_EQ(desk->StatBar.Remark(), SIColumnRemark);
+    EXPECT_EQ(desk->StatBar.Remark(), siColumnRemark);
     page->zShapeFlex.Move_To(25, 1);
     EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   H = 0.937 ");
 }
@@ -380,9 +380,9 @@ TEST_F(BeamPageTest, RemarksOnTheRules) {
     Start();
     for (const auto& c : cases) {
         Choose(c.Family, c.Size);
-        page->AppliedCode.Select(Code9thEdition);
+        page->AppliedCode.Select(code9thEdition);
         expect(c.Size, c.Ninth);
-        page->AppliedCode.Select(Code13thEdition);
+        page->AppliedCode.Select(code13thEdition);
         page->CodeOpt[0].Select();
         expect(c.Size, c.ASD);
         page->CodeOpt[1].Select();
@@ -393,7 +393,7 @@ TEST_F(BeamPageTest, RemarksOnTheRules) {
 // The numbers to use, by hand, and what a load leaves unsaid.
 TEST_F(BeamPageTest, WhatToUseAndWhatIsLeftUnsaid) {
     Start();
-    page->AppliedCode.Select(Code13thEdition);
+    page->AppliedCode.Select(code13thEdition);
     Choose(4, "C15x33.9"); // Va = 0.6 x 50 x 15 x 0.4 / 1.67 = 107.78, not 120
     page->BeamSpanBox.Set_Text("0");
     page->CFactor.Set_Text("10");
@@ -410,7 +410,7 @@ TEST_F(BeamPageTest, WhatToUseAndWhatIsLeftUnsaid) {
     page->CodeOpt[1].Select();
     EXPECT_EQ(page->LoadNotes.Caption(),
               "Holds where the compression flange is braced at least every 5'-9 15/16\"");
-    page->AppliedCode.Select(Code9thEdition); // 76 x 7.5 / sqrt(50) = 80.6 in.
+    page->AppliedCode.Select(code9thEdition); // 76 x 7.5 / sqrt(50) = 80.6 in.
     EXPECT_TRUE(page->LoadNotes.Caption().starts_with(
         "Holds where the compression flange is braced at least every 6'-8 5/8\"\nDeflection"));
 }

@@ -104,7 +104,7 @@ TEST_F(Edited, OnlyTheOldestOfManyStepsAreLost) {
     int undone = 0;
     while (!editing.History.Undo().empty())
         ++undone;
-    EXPECT_EQ(undone, static_cast<int>(EditHistory::MostSteps));
+    EXPECT_EQ(undone, static_cast<int>(EditHistory::mostSteps));
 }
 
 TEST(CellSearchTest, RowsByTyping) {

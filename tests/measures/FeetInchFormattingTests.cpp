@@ -17,11 +17,11 @@ using namespace Tensarix;
 namespace {
 
 std::string Digits(double feet, int inchesOnly = 0) {
-    return Format_FeetInch(feet, Sixteenths, inchesOnly, 0);
+    return Format_FeetInch(feet, lengthDenominator, inchesOnly, 0);
 }
 
 std::string Words(double feet, int inchesOnly = 0) {
-    return Format_FeetInch(feet, Sixteenths, inchesOnly, 1);
+    return Format_FeetInch(feet, lengthDenominator, inchesOnly, 1);
 }
 
 constexpr double notFinite[] = {std::numeric_limits<double>::infinity(),
@@ -146,7 +146,7 @@ TEST(FeetInchFormatting, TextsInWords) {
     };
     for (const auto& [text, spoken] : cases)
         EXPECT_EQ(FeetInch_Text_To_Words(text), spoken) << text;
-    EXPECT_EQ(FeetInch_Text_To_Words(std::string(40000, '0') + "'"), LengthError);
+    EXPECT_EQ(FeetInch_Text_To_Words(std::string(40000, '0') + "'"), lengthError);
 }
 
 TEST(FeetInchFormatting, RemainderAndCommonDivisor) {

@@ -45,15 +45,15 @@ TEST(FeetInchParsing, TextsThatAreNoLength) {
     };
     for (const auto text : texts) {
         EXPECT_FALSE(Feet_Of(text).has_value() || Is_FeetInch(text)) << text;
-        EXPECT_EQ(Parse_FeetInch(text, "FT"), LengthValue{std::string{LengthError}}) << text;
-        EXPECT_EQ(Parse_FeetInch(text, "in"), LengthValue{std::string{LengthError}}) << text;
+        EXPECT_EQ(Parse_FeetInch(text, "FT"), LengthValue{std::string{lengthError}}) << text;
+        EXPECT_EQ(Parse_FeetInch(text, "in"), LengthValue{std::string{lengthError}}) << text;
     }
 }
 
 TEST(FeetInchParsing, UnitsInEitherCase) {
     EXPECT_EQ(Parse_FeetInch("5'-6\"", "ft"), LengthValue{5.5});
     EXPECT_EQ(Parse_FeetInch("5'-6\"", "In"), LengthValue{66.0});
-    EXPECT_EQ(Parse_FeetInch("1e308'", "IN"), LengthValue{std::string{LengthError}});
+    EXPECT_EQ(Parse_FeetInch("1e308'", "IN"), LengthValue{std::string{lengthError}});
     EXPECT_EQ(Parse_FeetInch("5'-6\"", "MM"), LengthValue{});
     EXPECT_EQ(Parse_FeetInch("", ""), LengthValue{});
 }

@@ -76,16 +76,16 @@ TEST_F(BrowseTest, ANullLeavesTheTextAndARemarkTellsIt) {
     Choose("C-Shape", "C15x50");
     ASSERT_EQ(Row_Of("k1"), row);
     EXPECT_EQ(Value("k1"), k1);
-    EXPECT_EQ(page.ShapeFlex.Remark(row, 1), StaleValueRemark);
+    EXPECT_EQ(page.ShapeFlex.Remark(row, 1), staleValueRemark);
     page.ShapeFlex.Move_To(row, 1);
-    EXPECT_EQ(desk.StatBar.Remark(), StaleValueRemark);
+    EXPECT_EQ(desk.StatBar.Remark(), staleValueRemark);
     Choose("W-Shape", "W18x50");
     EXPECT_EQ(page.ShapeFlex.Remark(row, 1), "");
 }
 
 TEST_F(BrowseTest, TheKOfAnSShapeTellsThatItIsTheDetailingOne) {
     Choose("S-Shape", "S24x121");
-    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("k"), 1), DetailingRemark);
+    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("k"), 1), detailingRemark);
     page.ProfileOption2.Select();
     EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("k"), 1), "");
 }
@@ -98,7 +98,7 @@ TEST_F(BrowseTest, TheUnitOfXpOfTheChannelsIsNotWritten) {
     Choose("C-Shape", "C15x50");
     ASSERT_EQ(Row_Of("xp"), 13);
     EXPECT_EQ(Unit("xp"), before);
-    EXPECT_EQ(page.ShapeFlex.Remark(13, 2), StaleValueRemark);
+    EXPECT_EQ(page.ShapeFlex.Remark(13, 2), staleValueRemark);
     EXPECT_EQ(Value("xp"), "0.49  ");
 }
 
@@ -164,7 +164,7 @@ TEST_F(BrowseTest, ATextInstead) {
     EXPECT_EQ(Value("Ix"), "n/a");
     EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("Ix"), 1), "");
     page.ProfileOption2.Select();
-    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("Ix"), 1), StaleValueRemark);
+    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("Ix"), 1), staleValueRemark);
 }
 
 // The store goes away while the program runs: the screen keeps what it shows, and tells that it is
@@ -175,7 +175,7 @@ TEST_F(BrowseTest, WithoutTheStore) {
     page.ShapeSizeUS.Select(0);
     EXPECT_EQ(page.ShapeLabel.Caption(), "W44 x 335");
     EXPECT_EQ(Value("d"), "18.00  ");
-    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("d"), 1), StaleValueRemark);
+    EXPECT_EQ(page.ShapeFlex.Remark(Row_Of("d"), 1), staleValueRemark);
     page.ProfileOption2.Select();
     EXPECT_EQ(Unit("d"), "in.") << "the unit is that of the value";
     page.ShapeType.Select(1);
@@ -199,6 +199,6 @@ TEST_F(BrowseTest, ASavedPositionThatIsNoneSelectsNothing) {
         page.ShapeType.Select(2);
         EXPECT_EQ(page.ShapeSizeUS.ListIndex(), -1) << garbage;
         EXPECT_EQ(page.ShapeLabel.Caption(), "");
-        EXPECT_EQ(page.ShapeFlex.Remark(1, 1), StaleValueRemark);
+        EXPECT_EQ(page.ShapeFlex.Remark(1, 1), staleValueRemark);
     }
 }

@@ -50,7 +50,7 @@ class BuildSectionStoreTest : public testing::Test {
 TEST_F(BuildSectionStoreTest, TheSameTablesGiveTheSameBytes) {
     EXPECT_EQ(Build(), "");
     EXPECT_EQ(Read_Whole_File(folder / "s"),
-              Read_Whole_File(fs::path{TENSARIX_PROGRAM_DIR} / SectionStoreFile));
+              Read_Whole_File(fs::path{TENSARIX_PROGRAM_DIR} / sectionStoreFile));
 }
 
 TEST_F(BuildSectionStoreTest, AFaultInATableIsTold) {

@@ -288,7 +288,7 @@ TEST(Catalogue, EveryColumnOfViewAllAndFind) {
                             shifted != std::string::npos
                                 ? "The values in this column are those of " +
                                       Replace_All(Head(Of_Catalogue(values), view), "\n", " ")
-                            : key == "kKDET" ? std::string{DetailingRemark}
+                            : key == "kKDET" ? std::string{detailingRemark}
                                              : std::string{};
                         EXPECT_EQ(grid.Remark(0, col), told);
                         EXPECT_EQ(grid.Remark_Weight(0, col), shifted != std::string::npos

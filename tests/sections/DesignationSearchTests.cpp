@@ -26,7 +26,7 @@ struct PlainName {
 const std::vector<PlainName>& All_Names() {
     static const std::vector<PlainName> names = [] {
         std::vector<PlainName> all;
-        for (int family = 0; family < static_cast<int>(Families.size()); ++family) {
+        for (int family = 0; family < static_cast<int>(allFamilies.size()); ++family) {
             ComboBox us, si;
             FillSizeLists(us, si, Family_At(family).Type, TENSARIX_PROGRAM_DIR);
             for (int i = 0; i < us.Count(); ++i) {

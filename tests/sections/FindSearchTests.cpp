@@ -67,15 +67,15 @@ struct Searched {
 // Every family with each of its properties under each profile.
 template <typename Check>
 void For_Every_Search(Check check) {
-    for (std::size_t i = 0; i < Families.size(); ++i) {
+    for (std::size_t i = 0; i < allFamilies.size(); ++i) {
         ComboBox properties;
         Find_Fill_Property(properties, static_cast<int>(i));
         for (int p = 0; p < properties.Count(); ++p)
             for (const Profile profile : bothProfiles) {
                 const std::string& name = properties.Item(p);
-                SCOPED_TRACE(std::string{Families[i].Type} + " " + name +
+                SCOPED_TRACE(std::string{allFamilies[i].Type} + " " + name +
                              (profile == Profile::SI ? " SI" : " US"));
-                check(Searched{Families[i], name, profile, Compared(name, profile)});
+                check(Searched{allFamilies[i], name, profile, Compared(name, profile)});
             }
     }
 }
@@ -192,7 +192,8 @@ TEST(FindSearch, EveryListedDepthIsFound) {
     EXPECT_EQ(list.Count(), 149);
     int found = 0;
     for (const std::string& item : Items(list)) {
-        const int each = Found({Families[0], "T", Profile::US, {}}, "=", Text_Number(item), grid);
+        const int each =
+            Found({allFamilies[0], "T", Profile::US, {}}, "=", Text_Number(item), grid);
         EXPECT_GT(each, 0) << item;
         found += each;
     }
@@ -251,7 +252,7 @@ TEST(FindSearch, NullsAndTextsLeaveTheNumberBefore) {
         "UPDATE ShapeTable SET ZX = NULL WHERE AISC_Manual_Label IN ('W44x335', 'W44x262');"
         "UPDATE ShapeTable SET ZX = 'n/a' WHERE AISC_Manual_Label = 'W44x230';"
         "DELETE FROM ShapeTable WHERE TYPE = 'W' AND AISC_Manual_Label NOT LIKE 'W44x%'");
-    const Family& w = Families[0];
+    const Family& w = allFamilies[0];
     FlexGrid grid;
     const auto found = [&](const char* criterion, double value) {
         w.Find(grid, w.Type, {store.Folder}, true, {"Zx", criterion, value});

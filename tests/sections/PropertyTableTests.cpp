@@ -68,7 +68,7 @@ TEST(PropertyTable, LostDigitsAreToldWithTheStoredNumber) {
 TEST(PropertyTable, NoSecondMomentIsSilentlyWrong) {
     for (const Profile profile : {us, si}) {
         int lost = 0, whole = 0;
-        for (const Family& family : Families) {
+        for (const Family& family : allFamilies) {
             SectionRead read(TENSARIX_PROGRAM_DIR, Query_By_Family(family.Type));
             for (read.Records.MoveFirst(); !read.Records.At_End(); read.Records.MoveNext())
                 for (const LayoutEntry& entry : family.Browse.Rows.Entries) {

@@ -20,7 +20,7 @@ namespace {
 using Each = std::function<void(const SectionRecordset&, const Family&)>;
 
 void For_Every_Section(const Each& work) {
-    for (const Family& family : Families) {
+    for (const Family& family : allFamilies) {
         SectionRead read(TENSARIX_PROGRAM_DIR, Query_By_Family(family.Type));
         for (; !read.Records.At_End(); read.Records.MoveNext())
             work(read.Records, family);

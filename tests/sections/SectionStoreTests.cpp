@@ -27,8 +27,8 @@ class SectionStoreTest : public testing::Test {
             fs::temp_directory_path() / ("tensarix store %41?#\xC3\xBC" + std::to_string(getpid()));
         fs::remove_all(folder);
         fs::create_directories(folder);
-        store = folder / SectionStoreFile;
-        fs::copy_file(program / SectionStoreFile, store);
+        store = folder / sectionStoreFile;
+        fs::copy_file(program / sectionStoreFile, store);
     }
     void TearDown() override { fs::remove_all(folder); }
 
@@ -45,10 +45,10 @@ class SectionStoreTest : public testing::Test {
     // A store of this program whose ShapeTable is made by the statements.
     void Make_Store(const std::string& sql) const {
         fs::remove(store);
-        Run("PRAGMA application_id = " + std::to_string(SectionStoreApplicationId) +
-            "; PRAGMA user_version = " + std::to_string(SectionStoreVersion) +
+        Run("PRAGMA application_id = " + std::to_string(sectionStoreApplicationId) +
+            "; PRAGMA user_version = " + std::to_string(sectionStoreVersion) +
             "; CREATE TABLE StoreProperty (Name, Value); INSERT INTO StoreProperty VALUES ('" +
-            std::string{PasswordProperty} + "', '" + std::string{SectionStorePassword} + "'); " +
+            std::string{passwordProperty} + "', '" + std::string{sectionStorePassword} + "'); " +
             sql);
     }
 
@@ -162,7 +162,7 @@ TEST_F(SectionStoreTest, ARecordsetOutlivesItsConnectionAndMoves) {
     SectionRecordset records;
     {
         SectionConnection connection;
-        OpenSectionConnection(connection, store, SectionStorePassword);
+        OpenSectionConnection(connection, store, sectionStorePassword);
         OpenSectionRecordset(records, connection, Query_By_US_Label("W14x342"));
         fs::remove(store);
     }
@@ -173,8 +173,8 @@ TEST_F(SectionStoreTest, ARecordsetOutlivesItsConnectionAndMoves) {
 
 TEST_F(SectionStoreTest, WhatIsNoStoreDoesNotOpen) {
     SectionConnection connection;
-    const auto fails = [&](const std::string& password = std::string{SectionStorePassword}) {
-        OpenSectionConnection(connection, program / SectionStoreFile, SectionStorePassword);
+    const auto fails = [&](const std::string& password = std::string{sectionStorePassword}) {
+        OpenSectionConnection(connection, program / sectionStoreFile, sectionStorePassword);
         EXPECT_THROW(OpenSectionConnection(connection, store, password), Failure);
         SectionRecordset records;
         OpenSectionRecordset(records, connection, Query_By_Family("W"));

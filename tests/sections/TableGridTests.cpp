@@ -28,13 +28,13 @@ TEST(TableGrid, AChannelWithoutItsSecondValueKeepsTheFirst) {
     FlexGrid grid;
     Family_Of_Type("C").ViewAll(grid, "C", {store.Folder});
     EXPECT_EQ(grid.Text(1, 12), "0.799  "); // X
-    EXPECT_EQ(grid.Remark(1, 12), EarlierValueRemark);
+    EXPECT_EQ(grid.Remark(1, 12), earlierValueRemark);
     EXPECT_EQ(grid.Remark(2, 12), "");
 }
 
 TEST(TableGrid, SizesAndBlankRows) {
     FlexGrid grid;
-    for (const Family& family : Families) {
+    for (const Family& family : allFamilies) {
         const int count = family.ViewAll(grid, family.Type, {program});
         EXPECT_EQ(grid.Rows(), std::max(count + 1, 15)) << family.Type;
         const FindCount none = family.Find(grid, family.Type, {program}, false, {});

@@ -58,7 +58,7 @@ struct TableSortTest : testing::Test {
 // All columns of all families, both units: the rows are those that were there, their numbers as
 // they stand in the store ascend or descend, and the third click brings all back.
 TEST_F(TableSortTest, EveryColumnOfEveryFamily) {
-    for (int family = 0; family < static_cast<int>(Families.size()); ++family)
+    for (int family = 0; family < static_cast<int>(allFamilies.size()); ++family)
         for (OptionButton* units : {&page.xProfileOption2, &page.xProfileOption1}) {
             Show(family);
             units->Select();

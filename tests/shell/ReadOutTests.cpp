@@ -58,7 +58,7 @@ const SpokenEvent spokenEvents[] = {
      {"BF OVER 2 TF = 4.5 "}},
     {"a family of the beam page", [](MainFrm& f) { f.Beam.zShapeType.Select(3); }, {"S-Shape"}},
     {"another yield strength, which the code changes back",
-     [](MainFrm& f) { f.Beam.FyBox.Select(1); f.Beam.AppliedCode.Select(Code13thEdition); },
+     [](MainFrm& f) { f.Beam.FyBox.Select(1); f.Beam.AppliedCode.Select(code13thEdition); },
      {"36K S I"}},
     {"a valid span and Enter",
      [](MainFrm& f) {

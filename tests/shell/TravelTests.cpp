@@ -89,7 +89,7 @@ TEST(TravelTest, TheMenuOffersWhatThereIs) {
                (travel.mnuShowWeights.Enabled() ? "w" : "-");
     };
     EXPECT_EQ(offered(), "-lw");
-    program.Form.Browse.ShapeType.Select(BeamFamilies);
+    program.Form.Browse.ShapeType.Select(beamFamilies);
     EXPECT_EQ(offered(), "--w");
     program.Page(Mode::BeamLoad).Select();
     EXPECT_EQ(offered(), "b-w");

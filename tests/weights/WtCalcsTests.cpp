@@ -125,12 +125,12 @@ TEST_F(WtCalcs, TheSheetsAsTheyAreLaidOut) {
         EXPECT_EQ(grid.Style(50, 0).Fore, 0xFF0000u);
         EXPECT_EQ(grid.Style(50, grid.Cols() - 1).Align, Alignment::Right);
     }
-    EXPECT_EQ(WeightCaption, "Weight Calculator");
+    EXPECT_EQ(weightCaption, "Weight Calculator");
     EXPECT_EQ(one.ClearButton.Caption() + two.ExitButton.Caption(), "Clear EntriesExit");
-    EXPECT_EQ(WtCalcsFrm::ImperialCaption, "  Imperial Input  ");
-    EXPECT_EQ(WtCalcsFrm::MetricCaption, "  Metric Input  ");
-    EXPECT_EQ(WtCalcsFrmA::ImperialCaption, "  Standard U.S. Profile  ");
-    EXPECT_EQ(WtCalcsFrmA::MetricCaption, "  SI Equivalent Profile  ");
+    EXPECT_EQ(WtCalcsFrm::imperialCaption, "  Imperial Input  ");
+    EXPECT_EQ(WtCalcsFrm::metricCaption, "  Metric Input  ");
+    EXPECT_EQ(WtCalcsFrmA::imperialCaption, "  Standard U.S. Profile  ");
+    EXPECT_EQ(WtCalcsFrmA::metricCaption, "  SI Equivalent Profile  ");
     EXPECT_EQ(one.ShapeType.Count() + two.ShapeType.Count(), 34);
 }
 
@@ -196,8 +196,8 @@ TEST_F(Type1, ASectionRecomputesBothSheetsAndBothListsFollow) {
     EXPECT_EQ(form.ShapeSizeUS.Text(), "W18x50");
     EXPECT_EQ(Feet(1, 2), "100.00     ");
     EXPECT_EQ(Metric(3), "2.00|148.00");
-    EXPECT_EQ(form.ImperialFlex.Row(), EntryRows);
-    EXPECT_EQ(form.MetricFlex.Row(), EntryRows);
+    EXPECT_EQ(form.ImperialFlex.Row(), entryRows);
+    EXPECT_EQ(form.MetricFlex.Row(), entryRows);
     form.ImperialFlex.Focus.Set();
     EXPECT_EQ(form.ImperialFlex.Row(), 2) << "where the typing had stopped";
     EXPECT_EQ(machine.Store.Get("CalcWtShapeSize0"), std::to_string(form.ShapeSizeUS.ListIndex()));
@@ -215,7 +215,7 @@ TEST_F(Type1, ClearingEmptiesTheTabThatShowsAndTheTotalFollows) {
     form.ImperialFlex.Move_To(1, 1);
     form.ImperialFlex.OnKeyDown(Keys::Delete);
     EXPECT_EQ(Feet(1), "|");
-    form.SSTab1.Select(MetricTab);
+    form.SSTab1.Select(metricTab);
     EXPECT_EQ(form.TotalLabel.Caption(), "Rows: 1     Total weight: 30.00 kg");
     form.ClearButton.Click();
     EXPECT_EQ(Metric(1), "|");
@@ -248,13 +248,13 @@ TEST_F(Type1, AWeightThatIsNotOfTheSectionShownTellsSo) {
     machine.Host.Places.Program = "/nowhere";
     form.ShapeSizeUS.Select(0);
     EXPECT_EQ(Feet(1, 2), "10.00     ") << "the figures of before stay";
-    EXPECT_EQ(form.ImperialFlex.Remark(1, 2), StaleWeightRemark);
+    EXPECT_EQ(form.ImperialFlex.Remark(1, 2), staleWeightRemark);
     machine.Host.Places.Program = TENSARIX_PROGRAM_DIR;
     form.ShapeSizeUS.Select(1);
     EXPECT_EQ(form.ImperialFlex.Remark(1, 2), "");
     machine.Store.Set("CalcWtShapeSize1", "9999");
     form.ShapeType.Select(1); // no size chosen
-    EXPECT_EQ(form.ImperialFlex.Remark(1, 2), StaleWeightRemark);
+    EXPECT_EQ(form.ImperialFlex.Remark(1, 2), staleWeightRemark);
     EXPECT_EQ(form.TotalLabel.Caption_Weight(), RemarkWeight::Caution);
     form.ImperialFlex.Set_Text(2, 1, "3'"); // a length that was never weighed
     form.ImperialFlex.Move_To(2, 1);
@@ -364,7 +364,7 @@ TEST_F(Type2, RowsKeepSizesOfOtherFamilies) {
 TEST_F(Type2, NothingIsCommittedByAChangeOfTheTab) {
     Length(1, "10'");
     Type(form.ImperialFlex, form.EdiTxt, 1, 2, "12'");
-    form.SSTab1.Select(MetricTab);
+    form.SSTab1.Select(metricTab);
     EXPECT_FALSE(form.EdiTxt.Visible());
     EXPECT_EQ(Feet(1, 2), "10'-0\"     ");
     Pick(form.MetricFlex, form.ShapeSizeSI, 1, "W200x15");
@@ -376,10 +376,10 @@ TEST_F(Type2, NothingIsCommittedByAChangeOfTheTab) {
     EXPECT_EQ(Row_Of(form.MetricFlex, 1), "||");
     EXPECT_FALSE(form.EdiTxtA.Visible());
 
-    form.SSTab1.Select(ImperialTab);
+    form.SSTab1.Select(imperialTab);
     form.ImperialFlex.Press(1, 1);
     form.ShapeSizeUS.Select(3);
-    form.SSTab1.Select(MetricTab);
+    form.SSTab1.Select(metricTab);
     EXPECT_FALSE(form.ShapeSizeUS.Visible());
     EXPECT_EQ(Feet(1, 1), "");
     EXPECT_EQ(Remark(1), "The weight is that of " + form.ShapeSizeUS.Text() +

@@ -103,7 +103,7 @@ TEST_F(BeamWindowTest, ASpanIsTypedAndTheNextCodeChosenByKeys) {
 }
 
 TEST_F(BeamWindowTest, TabGoesInReadingOrder) {
-    Page().AppliedCode.Select(Code13thEdition);
+    Page().AppliedCode.Select(code13thEdition);
     Settle();
     Find<QComboBox>("zShapeType").setFocus();
     for (const char* name : {"zShapeSizeUS", "zShapeSizeSI", "zShapeFlex", "AppliedCode",

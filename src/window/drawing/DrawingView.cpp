@@ -59,8 +59,8 @@ void DrawingView::Show_Box(DrawingBox& box) {
 }
 
 void DrawingView::Take_Over() {
-    if (version_ != box_->DrawingVersion()) {
-        version_ = box_->DrawingVersion();
+    if (version_ != box_->Drawing_Version()) {
+        version_ = box_->Drawing_Version();
         layout_.reset();
         setAccessibleDescription(To_Qt(box_->Shows().Sentence));
     }

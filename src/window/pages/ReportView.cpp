@@ -1,6 +1,7 @@
 #include "window/pages/ReportView.h"
 
 #include "window/FocusFrame.h"
+#include "window/To_Qt.h"
 
 #include <QAccessible>
 #include <QAction>

@@ -30,7 +30,7 @@ void Take_Focus_When_Pressed(QPushButton* button, char key) {
 // What both forms have.
 template <typename Ui>
 void Bind_Sheets(const Ui& ui, WtCalcsSheets& form, WtCalcsDialog& dialog) {
-    dialog.setWindowTitle(To_Qt(WeightCaption));
+    dialog.setWindowTitle(To_Qt(weightCaption));
     Bind(ui.ShapeType, form.ShapeType);
     Bind(ui.SSTab1, ui.SSTab1Pages, form.SSTab1);
     Bind(ui.ImperialFlex, form.ImperialFlex);
@@ -63,8 +63,8 @@ void WtCalcsDialog::done(int result) {
 void Make_WtCalcs_Form(WtCalcsFrm& form, WtCalcsDialog& dialog) {
     Ui::WtCalcsDialog ui;
     ui.setupUi(&dialog);
-    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrm::ImperialCaption), 'I'));
-    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrm::MetricCaption), 'M'));
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrm::imperialCaption), 'I'));
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrm::metricCaption), 'M'));
     Bind(ui.ShapeSizeUS, form.ShapeSizeUS);
     Bind(ui.ShapeSizeSI, form.ShapeSizeSI);
     Bind_Sheets(ui, form, dialog);
@@ -74,8 +74,8 @@ void Make_WtCalcs_Form(WtCalcsFrm& form, WtCalcsDialog& dialog) {
 void Make_WtCalcs_FormA(WtCalcsFrmA& form, WtCalcsDialog& dialog) {
     Ui::WtCalcsDialogA ui;
     ui.setupUi(&dialog);
-    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrmA::ImperialCaption), 'U'));
-    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrmA::MetricCaption), 'E'));
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrmA::imperialCaption), 'U'));
+    ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrmA::metricCaption), 'E'));
     Bind_Sheets(ui, form, dialog);
     Lay_Over(ui.ImperialFlex, form.ImperialFlex, form.ShapeSizeUS, QStringLiteral("ShapeSizeUS"),
              QStringLiteral("Standard U.S. Profile"));
