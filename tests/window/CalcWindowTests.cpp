@@ -424,15 +424,17 @@ TEST_F(CalcWindowTest, TheClockEndsWithAKeyAndWithTheCalculator) {
     Calculate([&](QWidget& calculator) {
         Of<QTabWidget>(calculator, "MultiPage1").setCurrentIndex(3);
         Type(calculator, "12");
-        QTimer::singleShot(150, &calculator, [&] {
-            EXPECT_TRUE(Of<QLabel>(calculator, "DisplayBox").text().endsWith(QLatin1Char('M')));
+        const auto runs = [&] {
+            return Of<QLabel>(calculator, "DisplayBox").text().endsWith(QLatin1Char('M'));
+        };
+        When(runs, [&] {
             EXPECT_FALSE(Of<QLabel>(calculator, "DateBox").text().isEmpty());
             QTest::keyClick(&calculator, Qt::Key_7);
         });
         Click(calculator, "key_Time"); // returns when the clock has ended
         EXPECT_EQ(Display(calculator), "12.");
         EXPECT_EQ(Of<QLabel>(calculator, "DateBox").text(), "");
-        QTimer::singleShot(100, &calculator, [&] { calculator.close(); });
+        When(runs, [&] { calculator.close(); });
         Click(calculator, "key_Time");
         ended = !calculator.isVisible();
     });

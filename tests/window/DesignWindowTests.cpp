@@ -155,7 +155,7 @@ TEST_F(DesignWindowTest, AWeldIsTypedAndComputedAndItsReportCopied) {
     QTest::keyClick(&report, Qt::Key_Home);
     EXPECT_EQ(report.verticalScrollBar()->value(), 0);
     Click("ClearDisplayButton");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return report.Lines() == 1; }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return report.Lines() == 1; }, 60000));
 }
 
 TEST_F(DesignWindowTest, StopResumeAndLeavingThePage) {

@@ -6,7 +6,6 @@
 
 #include <csignal>
 #include <map>
-#include <random>
 
 #include <sys/resource.h>
 
@@ -69,6 +68,19 @@ class FaultTest : public testing::Test {
         return names;
     }
 
+    // Waits until the files have been seen to change so often.
+    void Wait_For_Changes(int count) const {
+        Images seen = Files();
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] {
+                Images now = Files();
+                count -= now != seen ? 1 : 0;
+                seen = std::move(now);
+                return count <= 0;
+            },
+            patienceMs));
+    }
+
     std::unique_ptr<QProcess> Saving(const QString& states) const {
         return Launch(QCoreApplication::applicationFilePath(), {"--save", states, home.path()});
     }
@@ -112,14 +124,12 @@ class FaultTest : public testing::Test {
 } // namespace
 
 TEST_F(FaultTest, AKillLeavesEveryFileOldOrNewAndTheNextStartWorks) {
-    std::mt19937 random(20);
-    std::uniform_int_distribution<unsigned long> delay(0, 50000);
     for (int round = 0; round < 20; ++round) { // anywhere
         SCOPED_TRACE(round);
         const auto process = Saving("AB*");
         ASSERT_TRUE(process->waitForReadyRead(patienceMs));
         ASSERT_EQ(process->readAllStandardOutput(), "ready\n");
-        QThread::usleep(delay(random));
+        Wait_For_Changes(round % 4);
         Kill(*process);
         Expect_Old_Or_New();
     }
@@ -140,11 +150,13 @@ TEST_F(FaultTest, AKillLeavesEveryFileOldOrNewAndTheNextStartWorks) {
 }
 
 TEST_F(FaultTest, TheProgramItselfStartsAfterAnyKill) {
-    std::mt19937 random(7);
-    std::uniform_int_distribution<unsigned long> delay(0, 150);
-    for (int round = 0; round < 12; ++round) {
+    // At once, when it has its place, and when it can be asked; beside what the one before has
+    // left.
+    for (const char* sign : {"", "tensarix.lock", "tensarix.socket", "", "tensarix.socket"}) {
+        QFile::remove(home.filePath(sign));
         const auto process = Launch_Tensarix(home.path());
-        QThread::msleep(delay(random));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return QFile::exists(home.filePath(sign)); }, patienceMs));
         Kill(*process);
     }
     EXPECT_EQ(Unlike(stateB), Names{}); // nothing saves at start

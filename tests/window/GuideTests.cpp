@@ -9,7 +9,6 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QTimer>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -50,9 +49,9 @@ TEST_F(GuideTest, F1OpensTheChapterOfThePage) {
 
 TEST_F(GuideTest, OfADialogItCanBeUsed) {
     bool done = false;
-    QTimer::singleShot(50, [&] {
+    const auto isOpen = [] { return QApplication::activeModalWidget() != nullptr; };
+    When(isOpen, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_TRUE(dialog);
         QTest::keyClick(dialog->findChild<QComboBox*>("ShapeType"), Qt::Key_F1);
         auto* guide = dialog->findChild<GuideWindow*>();
         ASSERT_TRUE(guide);

@@ -126,8 +126,10 @@ TEST_F(WtCalcsWindowTest, AnInvalidLengthShowsOneMessageByWhicheverWayOut) {
             Type("5'6\"");
             Expect_Message();
             way();
-            QTest::qWait(120);
+            EXPECT_TRUE(QTest::qWaitFor([this] { return messages > 0; }));
+            Settle();
             EXPECT_EQ(messages, 1);
+            EXPECT_FALSE(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
             EXPECT_EQ(Cell("ImperialFlex", 1, 1).trimmed(), QStringLiteral("5'-0\""));
             if (QWidget* popup = QApplication::activePopupWidget())
                 popup->close();
@@ -149,14 +151,13 @@ TEST_F(WtCalcsWindowTest, PasteCopyAndTheButtonsByTheirKeys) {
         EXPECT_EQ(Cell("ImperialFlex", 3, 1), QStringLiteral("4'-0\"     "));
         Key(Qt::Key_F2);
         Key(Qt::Key_C, Qt::AltModifier);
-        QTest::qWait(150); // the button shows that it is pressed
-        EXPECT_EQ(Cell("ImperialFlex", 2, 1), QString());
+        // The button first shows that it is pressed.
+        EXPECT_TRUE(QTest::qWaitFor([this] { return Cell("ImperialFlex", 2, 1).isEmpty(); }));
         EXPECT_FALSE(In<QLineEdit>("EdiTxt").isVisible());
         Click("ImperialFlex", 1, 1);
         Type("4'");
         Key(Qt::Key_X, Qt::AltModifier);
-        QTest::qWait(150);
-        EXPECT_FALSE(dialog->isVisible());
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog->isVisible(); }));
     });
     While_Open(program->Form().mnuWtCalc,
                [&] { EXPECT_EQ(Cell("ImperialFlex", 1, 1), QStringLiteral("4'-0\"     ")); });
