@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 using namespace Tensarix;
 using namespace Tensarix::Drawn;
@@ -39,8 +40,33 @@ TEST(BeamDrawings, TheBeamTellsLoadSpanReactionsShearAndMoment) {
     const auto span = Parts_Of<Dimension>(drawing, "Span").front();
     EXPECT_EQ(span.Value, "25'-0\"");
     EXPECT_EQ(span.To.X - span.From.X, 25);
-    for (const Arrow& reaction : Parts_Of<Arrow>(drawing, "R"))
+    std::vector<double> reactions;
+    for (const Arrow& reaction : Parts_Of<Arrow>(drawing, "R")) {
         EXPECT_GT(reaction.Head.Y, reaction.Tail.Y);
+        reactions.push_back(reaction.Head.X);
+    }
+    EXPECT_EQ(reactions, (std::vector<double>{0, 25}));
+    EXPECT_EQ(Parts_Of<Arrow>(drawing, "").front().Head.X, 0);
+    EXPECT_EQ(Parts_Of<Arrow>(drawing, "").back().Head.X, 25);
+    // From, to, and where the highest corner is: beam, supports, shear, moment.
+    std::vector<std::array<double, 3>> places;
+    for (const Outline& outline : Parts_Of<Outline>(drawing, "")) {
+        std::array<double, 3> place{1e9, -1e9, 0};
+        double top = -1e9;
+        for (const Ring& ring : outline.Rings)
+            for (const Corner& corner : ring) {
+                place[0] = std::min(place[0], corner.At.X);
+                place[1] = std::max(place[1], corner.At.X);
+                if (corner.At.Y > top)
+                    place[2] = corner.At.X;
+                top = std::max(top, corner.At.Y);
+            }
+        places.push_back(place);
+    }
+    EXPECT_EQ(
+        places,
+        (std::vector<std::array<double, 3>>{
+            {0, 25, 25}, {-0.4375, 0.4375, 0}, {24.5625, 25.4375, 25}, {0, 25, 0}, {0, 25, 12.5}}));
     EXPECT_NE(drawing.Sentence.find("w = 3.39 Kip/ft, end reaction R = 48.71"), std::string::npos);
     // Nothing chosen: the beam without a number.
     EXPECT_EQ(Words_Of(Beam_Under_Load({}, 0), "w"), "w");
