@@ -5,10 +5,11 @@
 #include "calculator/CalcKeys.h"
 #include "calculator/CalcMemoryFrm.h"
 #include "calculator/CalcStatistics.h"
+#include "common/NumberText.h"
 
 #include <gtest/gtest.h>
 
-#include <regex>
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -94,16 +95,15 @@ inline std::string Shown_After(const std::string& line) {
 // a line that begins with "#" tells of the next one.
 template <typename Outcome>
 void Expect_Each(const std::string& table, Outcome outcome) {
-    const std::regex form("^ *(?:(\\S.*?) )?->(?: (\\S.*?))?$");
-    const std::regex gap("   +|\n");
-    for (std::sregex_token_iterator each(table.begin(), table.end(), gap, -1), end; each != end;
-         ++each) {
-        const std::string text = *each;
-        std::smatch parts;
-        if (text.empty() || text.starts_with('#'))
+    for (std::size_t at = 0, end = 0; at < table.size(); at = end + 1) {
+        end = std::min({table.find("   ", at), table.find('\n', at), table.size()});
+        const std::string text = ' ' + Trim(table.substr(at, end - at)) + ' ';
+        if (text == "  " || text.starts_with(" #"))
             continue;
-        ASSERT_TRUE(std::regex_match(text, parts, form)) << text;
-        EXPECT_EQ(outcome(parts[1].str()), parts[2].str()) << parts[1];
+        const std::size_t arrow = text.find(" -> ");
+        ASSERT_NE(arrow, std::string::npos) << text;
+        const std::string keys = Trim(text.substr(0, arrow));
+        EXPECT_EQ(outcome(keys), Trim(text.substr(arrow + 3))) << keys;
     }
 }
 

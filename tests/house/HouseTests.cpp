@@ -1,38 +1,39 @@
 // What holds for the sources of every room and no compiler checks.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
-#include <regex>
+#include <set>
+#include <sstream>
 #include <string>
 
 namespace fs = std::filesystem;
 
-namespace {
-
-// Calls take(file, room, line) for every line of the sources.
-template <typename Take>
-void For_Lines(Take&& take) {
+// A number reads and shows the same under every locale, which the window alone may ask.
+TEST(House, NoRoomAsksTheLocale) {
+    const std::set<std::string> asking{"strtod",  "strtof",  "stod",    "stof",    "atof",
+                                       "atoi",    "toupper", "tolower", "isdigit", "isspace",
+                                       "isalpha", "isalnum", "ispunct", "locale"};
     const fs::path source = fs::path(TENSARIX_SOURCE_DIR) / "src";
+    const auto isOther = [](unsigned char c) { return std::isalnum(c) == 0 && c != '_'; };
+    int lines = 0;
     for (const auto& entry : fs::recursive_directory_iterator(source)) {
         const std::string extension = entry.path().extension().string();
-        if (extension != ".h" && extension != ".cpp")
+        if ((extension != ".h" && extension != ".cpp") ||
+            *fs::relative(entry.path(), source).begin() == "window")
             continue;
         std::ifstream file(entry.path());
-        const std::string room = fs::relative(entry.path(), source).begin()->string();
-        for (std::string line; std::getline(file, line);)
-            take(entry.path(), room, line);
+        for (std::string line; std::getline(file, line); ++lines) {
+            line.resize(std::min(line.find("//"), line.size()));
+            std::replace_if(line.begin(), line.end(), isOther, ' ');
+            std::istringstream words(line);
+            for (std::string word; words >> word;)
+                EXPECT_FALSE(asking.contains(word) || word.ends_with("printf") ||
+                             word.ends_with("stringstream"))
+                    << entry.path() << ": " << line;
+        }
     }
-}
-
-} // namespace
-
-// A number reads and shows the same under every locale.
-TEST(House, NoRoomAsksTheLocale) {
-    const std::regex asks(R"(\b(\w*printf|strto[df]|sto[df]|ato[fi]|\w*stringstream|)"
-                          R"(to(upper|lower)|is(digit|space|alpha|alnum|punct)|locale)\b)");
-    For_Lines([&](const fs::path& file, const std::string& room, const std::string& line) {
-        EXPECT_FALSE(room != "window" && std::regex_search(line.substr(0, line.find("//")), asks))
-            << file << ": " << line;
-    });
+    EXPECT_GT(lines, 10000);
 }
