@@ -1,12 +1,11 @@
 // The store without the program's own reader: plain SQL, for counts and for changed copies.
 #pragma once
 
+#include "FreshFolder.h"
 #include "sections/StoreFormat.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-
-#include <unistd.h>
 
 #include <filesystem>
 #include <map>
@@ -23,27 +22,17 @@ class PlainStore {
     ~PlainStore() { sqlite3_close(database_); }
     PlainStore(const PlainStore&) = delete;
 
-    // The numbers of the first column; the value stands for the arguments ?1.
+    // Of the first column; the value stands for the arguments ?1.
     std::vector<double> Numbers(const std::string& sql, double value = 0) {
         std::vector<double> numbers;
-        sqlite3_stmt* statement = nullptr;
-        EXPECT_EQ(sqlite3_prepare_v2(database_, sql.c_str(), -1, &statement, nullptr), SQLITE_OK)
-            << sql;
-        if (sqlite3_bind_parameter_count(statement) > 0)
-            sqlite3_bind_double(statement, 1, value);
-        while (sqlite3_step(statement) == SQLITE_ROW)
-            numbers.push_back(sqlite3_column_double(statement, 0));
-        sqlite3_finalize(statement);
+        Each(sql, value, [&](auto* row) { numbers.push_back(sqlite3_column_double(row, 0)); });
         return numbers;
     }
     std::vector<std::string> Texts(const std::string& sql) {
         std::vector<std::string> texts;
-        sqlite3_stmt* statement = nullptr;
-        EXPECT_EQ(sqlite3_prepare_v2(database_, sql.c_str(), -1, &statement, nullptr), SQLITE_OK)
-            << sql;
-        while (sqlite3_step(statement) == SQLITE_ROW)
-            texts.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0)));
-        sqlite3_finalize(statement);
+        Each(sql, 0, [&](auto* row) {
+            texts.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(row, 0)));
+        });
         return texts;
     }
     void Run(const std::string& sql) {
@@ -52,6 +41,17 @@ class PlainStore {
     }
 
   private:
+    template <typename Take>
+    void Each(const std::string& sql, double value, Take take) {
+        sqlite3_stmt* row = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(database_, sql.c_str(), -1, &row, nullptr), SQLITE_OK) << sql;
+        if (sqlite3_bind_parameter_count(row) > 0)
+            sqlite3_bind_double(row, 1, value);
+        while (sqlite3_step(row) == SQLITE_ROW)
+            take(row);
+        sqlite3_finalize(row);
+    }
+
     sqlite3* database_ = nullptr;
 };
 
@@ -59,17 +59,16 @@ class PlainStore {
 class ChangedStore {
   public:
     explicit ChangedStore(const std::string& sql) {
-        std::filesystem::create_directories(Folder);
         std::filesystem::copy_file(std::filesystem::path{TENSARIX_PROGRAM_DIR} / sectionStoreFile,
-                                   Folder / sectionStoreFile,
-                                   std::filesystem::copy_options::overwrite_existing);
+                                   Folder / sectionStoreFile);
         PlainStore(Folder).Run(sql);
     }
-    ~ChangedStore() { std::filesystem::remove_all(Folder); }
-    ChangedStore(const ChangedStore&) = delete;
 
-    const std::filesystem::path Folder =
-        std::filesystem::temp_directory_path() / ("tensarix changed " + std::to_string(getpid()));
+  private:
+    FreshFolder fresh_;
+
+  public:
+    const std::filesystem::path& Folder = fresh_.Path;
 };
 
 // One section of each family is left, and each of its figures is another number.

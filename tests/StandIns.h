@@ -1,18 +1,16 @@
 // The machine as the tests have it: it records what was asked of it and answers as it was told.
 #pragma once
 
+#include "FreshFolder.h"
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "platform/Machine.h"
 
-#include <cstdlib>
 #include <deque>
-#include <filesystem>
 #include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -138,24 +136,6 @@ class TestInstance final : public Instance {
         ++Raises;
         return Answers;
     }
-};
-
-// A folder of its own, gone with it.
-class FreshFolder {
-  public:
-    FreshFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tensarix-XXXXXX").string();
-        if (!mkdtemp(name.data()))
-            throw std::runtime_error("no temporary folder");
-        Path = name;
-    }
-    ~FreshFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(Path, ignored);
-    }
-    FreshFolder(const FreshFolder&) = delete;
-
-    std::filesystem::path Path;
 };
 
 // Chooses the item of that text, which there must be.

@@ -1,4 +1,5 @@
 // The registers, the data list, the constants: their dialogs, and the files that keep them.
+#include "FreshFolder.h"
 #include "Largest.h"
 #include "calculator/CalcMemory.h"
 #include "calculator/CalcTestSupport.h"
@@ -8,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
 
 #include <cmath>
 #include <fstream>
@@ -21,14 +21,6 @@ namespace {
 
 class CalcFiles : public testing::Test {
   protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() / ("tensarix-calc-" + std::to_string(getpid()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override {
-        fs::permissions(folder, fs::perms::owner_all);
-        fs::remove_all(folder);
-    }
     CalcHost Host() {
         CalcHost host;
         host.DataFolder = folder;
@@ -45,7 +37,8 @@ class CalcFiles : public testing::Test {
     void Write(const std::string& name, const Bytes& bytes) {
         ASSERT_TRUE(Replace_File(folder / name, bytes));
     }
-    fs::path folder;
+    Tests::FreshFolder fresh;
+    const fs::path& folder = fresh.Path;
     std::map<std::string, std::string> settings;
 };
 

@@ -1,3 +1,4 @@
+#include "FreshFolder.h"
 #include "common/Failure.h"
 #include "common/NewFile.h"
 #include "common/ReplaceFile.h"
@@ -21,14 +22,6 @@ namespace {
 
 class ReplaceFileTest : public testing::Test {
   protected:
-    void SetUp() override {
-        folder = fs::temp_directory_path() / ("tensarix-file-" + std::to_string(getpid()));
-        fs::create_directories(folder);
-    }
-    void TearDown() override {
-        fs::permissions(folder, fs::perms::owner_all);
-        fs::remove_all(folder);
-    }
     // Everything in it, by name.
     std::map<std::string, Bytes> All() const {
         std::map<std::string, Bytes> all;
@@ -36,7 +29,8 @@ class ReplaceFileTest : public testing::Test {
             all[entry.path().filename()] = Read_Whole_File(entry.path()).value_or(Bytes{});
         return all;
     }
-    fs::path folder;
+    Tests::FreshFolder fresh;
+    const fs::path& folder = fresh.Path;
 };
 
 // A disk on which no file can grow beyond so many bytes.

@@ -1,13 +1,13 @@
 #include "sections/SectionStore.h"
 
+#include "FreshFolder.h"
+#include "PlainStore.h"
 #include "common/Failure.h"
 #include "common/ReplaceFile.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <random>
@@ -22,25 +22,12 @@ const fs::path program = TENSARIX_PROGRAM_DIR;
 // A program folder of its own, with a name that has to be escaped in a URI.
 class SectionStoreTest : public testing::Test {
   protected:
-    void SetUp() override {
-        folder =
-            fs::temp_directory_path() / ("tensarix store %41?#\xC3\xBC" + std::to_string(getpid()));
-        fs::remove_all(folder);
+    SectionStoreTest() {
         fs::create_directories(folder);
-        store = folder / sectionStoreFile;
         fs::copy_file(program / sectionStoreFile, store);
     }
-    void TearDown() override { fs::remove_all(folder); }
 
-    void Run(const std::string& sql) const {
-        sqlite3* database = nullptr;
-        ASSERT_EQ(sqlite3_open(store.c_str(), &database), SQLITE_OK);
-        char* error = nullptr;
-        sqlite3_exec(database, sql.c_str(), nullptr, nullptr, &error);
-        EXPECT_EQ(error, nullptr) << error;
-        sqlite3_free(error);
-        sqlite3_close(database);
-    }
+    void Run(const std::string& sql) const { Tests::PlainStore(folder).Run(sql); }
 
     // A store of this program whose ShapeTable is made by the statements.
     void Make_Store(const std::string& sql) const {
@@ -59,7 +46,9 @@ class SectionStoreTest : public testing::Test {
 
     SectionRead Read(const std::string& sql) const { return {folder, sql}; }
 
-    fs::path folder, store;
+    Tests::FreshFolder fresh;
+    const fs::path folder = fresh.Path / "store %41?#\xC3\xBC";
+    const fs::path store = folder / sectionStoreFile;
 };
 
 void Expect_Closed(SectionRecordset& records) {
