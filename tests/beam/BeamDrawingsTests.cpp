@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 using namespace Tensarix;
 using namespace Tensarix::Drawn;
@@ -61,6 +62,8 @@ TEST(BeamDrawings, TheBeamTellsLoadSpanReactionsShearAndMoment) {
                     place[2] = corner.At.X;
                 top = std::max(top, corner.At.Y);
             }
+        for (double& x : place)
+            x = std::round(x * 1e4) / 1e4;
         places.push_back(place);
     }
     EXPECT_EQ(
