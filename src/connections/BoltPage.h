@@ -24,10 +24,12 @@ namespace Tensarix {
 
 // The columns of the table. Lengths are in any one unit, the angle in degrees.
 namespace BoltColumn {
+// NOLINTBEGIN(readability-identifier-naming): named as those of an enumeration
 inline constexpr int Number = 0, m = 1, n = 2, sv = 3, sh = 4, ex = 5, Angle = 6;
 inline constexpr int C = 7, CPrime = 8;
 inline constexpr int Count = 9;
 inline constexpr int FirstInput = m, LastInput = Angle;
+// NOLINTEND(readability-identifier-naming)
 } // namespace BoltColumn
 
 // On results that are 0 because there are more bolts than can be computed.

@@ -22,9 +22,11 @@ namespace Tensarix {
 
 // The rows of WeldFlex. Lengths are in any one unit, the angle in degrees.
 namespace WeldRow {
+// NOLINTBEGIN(readability-identifier-naming): named as those of an enumeration
 inline constexpr int L = 0, kL = 1, aL = 2, Angle = 3; // what can be typed in
 inline constexpr int xL = 4, yL = 5;
 inline constexpr int Count = 6;
+// NOLINTEND(readability-identifier-naming)
 } // namespace WeldRow
 
 // A text that isn't blank becomes a number with three decimals.

@@ -20,9 +20,11 @@ using KeyHandler = std::function<void(int keyCode)>;
 
 // Key codes that handlers look at; printing keys come as characters through KeyFilter.
 namespace Keys {
+// NOLINTBEGIN(readability-identifier-naming): named as those of an enumeration
 inline constexpr int Backspace = 8, Tab = 9, Enter = 13, Escape = 27, Blank = 32;
 inline constexpr int Left = 37, Up = 38, Right = 39, Down = 40, Delete = 46, F2 = 113;
 inline constexpr int BackTab = 0x109; // Shift+Tab; the codes of single keys end at 255
+// NOLINTEND(readability-identifier-naming)
 } // namespace Keys
 
 class Label {

@@ -18,11 +18,13 @@ namespace Tensarix {
 using Colour = std::uint32_t;
 
 namespace Colours {
+// NOLINTBEGIN(readability-identifier-naming): named as those of an enumeration
 inline constexpr Colour Standard = 0xFFFFFFFF; // whatever the theme has
 inline constexpr Colour HeadBack = 0xFFFFC0;   // pale cyan
 inline constexpr Colour HeadText = 0x0000FF;   // red
 inline constexpr Colour SymbolText = 0xFF0000; // blue
 inline constexpr Colour NameText = 0x800000;   // dark blue
+// NOLINTEND(readability-identifier-naming)
 } // namespace Colours
 
 enum class Alignment : std::uint8_t { Left = 1, Centre = 4, Right = 7 };

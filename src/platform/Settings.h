@@ -27,6 +27,7 @@ struct SettingKey {
 
 // A key named with (i) is used with a number behind it, without a separator.
 namespace Setting {
+// NOLINTBEGIN(readability-identifier-naming): as the keys are named
 inline constexpr SettingKey ReadOutLoud{"ReadOutLoud", "0"};
 inline constexpr SettingKey AlwaysOnTop{"AlwaysOnTop", "0"};
 inline constexpr SettingKey ProfileOption{"ProfileOption", "0"};
@@ -59,6 +60,7 @@ inline constexpr SettingKey MainWindowPlace{"Geometry", "", "Window"};
 inline constexpr SettingKey CalculatorPlace{"Calculator", "", "Window"};
 // Filed by the calculator under the program's folder.
 inline constexpr SettingKey MemoryIn{"MemoryIn", "0", "Setting"};
+// NOLINTEND(readability-identifier-naming)
 } // namespace Setting
 
 class Settings {

@@ -24,6 +24,7 @@ constexpr std::string_view cellEnd = "  ";
 // The catalogue. Names tell the symbol; a suffix tells the layout where a symbol has several forms.
 // clang-format off
 namespace Catalogue {
+// NOLINTBEGIN(readability-identifier-naming): by their symbols
 constexpr Property W{"W", "Nominal Weight", "W", "xW", Number, "lb/ft", "Kg/m"};
 constexpr Property A{"A", "Cross-Sectional Area", "A", "xA", Number, "in^2", "mm^2"};
 constexpr Property d{"d", "Overall Depth of Member", "D", "xD", Length, "in.", "mm"};
@@ -102,6 +103,7 @@ constexpr Property Qs_US{"Qs", qsMeaning, "QS", "QS", Pair};
 // On View All and Find.
 constexpr Property Wt{"Wt", "", "W", "xW", Number, "lb/ft", "Kg/m"};
 constexpr Property d_S{"d", "", "D", "xD", Number, "in.", "mm"};
+// NOLINTEND(readability-identifier-naming)
 } // namespace Catalogue
 // clang-format on
 

@@ -49,7 +49,10 @@ TEST_F(GuideTest, F1OpensTheChapterOfThePage) {
 
 TEST_F(GuideTest, OfADialogItCanBeUsed) {
     bool done = false;
-    const auto isOpen = [] { return QApplication::activeModalWidget() != nullptr; };
+    const auto isOpen = [] {
+        QWidget* const focus = QApplication::focusWidget();
+        return focus && focus->window() == QApplication::activeModalWidget();
+    };
     When(isOpen, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
         QTest::keyClick(dialog->findChild<QComboBox*>("ShapeType"), Qt::Key_F1);

@@ -113,7 +113,8 @@ void ReportView::Index_New() {
 
 QString ReportView::Line(int line) const {
     const std::string& text = box_->Text();
-    const std::size_t start = starts_[static_cast<std::size_t>(line)];
+    // The text may have become shorter since the lines were counted.
+    const std::size_t start = std::min(starts_[static_cast<std::size_t>(line)], text.size());
     const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
     return To_Qt(std::string_view{text}.substr(start, end - start));
 }
