@@ -29,14 +29,6 @@ QWidget* Modal() {
     return QApplication::activeModalWidget();
 }
 
-template <typename Widget>
-Widget& Of(QWidget& parent, const char* name) {
-    auto* widget = parent.findChild<Widget*>(QLatin1String(name));
-    if (!widget)
-        throw std::runtime_error(std::string{"no widget "} + name);
-    return *widget;
-}
-
 // What is done in a modal dialog as soon as the next one is open. The dialog is closed behind it.
 void In_Next_Dialog(const std::function<void(QWidget&)>& work) {
     QWidget* const below = Modal();

@@ -1,4 +1,5 @@
 // Editors laid over the cells of a real grid view, driven by real keys and clicks.
+#include "WindowTest.h"
 #include "controls/CellEditing.h"
 #include "window/Bind.h"
 #include "window/grid/CellOverlay.h"
@@ -8,14 +9,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
 #include <QVBoxLayout>
 
-#include <gtest/gtest.h>
-
-#include <string>
-
 using namespace Tensarix;
+using namespace Tensarix::Tests;
 
 namespace {
 
@@ -71,15 +68,6 @@ class EditedGrid : public testing::Test {
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
-    // Keys go to whatever has the focus, as they do on a desktop.
-    static void Keys_(const char* text) {
-        for (const char* key = text; *key; ++key)
-            QTest::keyClick(QApplication::focusWidget(), *key);
-    }
-    static void Key(Qt::Key key, Qt::KeyboardModifiers with = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, with);
-        QCoreApplication::processEvents();
-    }
     QPoint Middle(int row, int col) const {
         return view->viewport()->mapFrom(view, view->Cell_Rect(row, col).center());
     }
@@ -92,7 +80,7 @@ class EditedGrid : public testing::Test {
 
 TEST_F(EditedGrid, TypingReplacesEnterGoesDownTabGoesOn) {
     grid.Set_Text(1, 2, "old");
-    Keys_("1x2'");
+    Type("1x2'");
     EXPECT_TRUE(line->isVisible());
     EXPECT_EQ(line->text(), QStringLiteral("12'"));
     Key(Qt::Key_Return);
@@ -100,7 +88,7 @@ TEST_F(EditedGrid, TypingReplacesEnterGoesDownTabGoesOn) {
     EXPECT_FALSE(line->isVisible());
     EXPECT_TRUE(view->hasFocus());
     EXPECT_EQ(Where(), "2,2");
-    Keys_("7");
+    Type("7");
     Key(Qt::Key_Tab);
     EXPECT_EQ(grid.Text(2, 2), "7");
     EXPECT_EQ(Where(), "3,1");
@@ -138,7 +126,7 @@ TEST_F(EditedGrid, EscapeF2AndDelete) {
     Key(Qt::Key_F2);
     EXPECT_EQ(line->text(), QStringLiteral("5'-6\""));
     EXPECT_EQ(line->cursorPosition(), 5);
-    Keys_("99");
+    Type("99");
     Key(Qt::Key_F2); // no second opening, which would lose what has been typed
     EXPECT_EQ(line->text(), QStringLiteral("5'-6\"99"));
     Key(Qt::Key_Delete);
@@ -152,10 +140,10 @@ TEST_F(EditedGrid, EscapeF2AndDelete) {
 }
 
 TEST_F(EditedGrid, ArrowsWalkInTheTextAndLeaveAtItsEnds) {
-    Keys_("12");
+    Type("12");
     Key(Qt::Key_Left);
     EXPECT_EQ(line->cursorPosition(), 1);
-    Keys_("9");
+    Type("9");
     EXPECT_EQ(line->text(), QStringLiteral("192"));
     Key(Qt::Key_Right);
     EXPECT_TRUE(line->isVisible());
@@ -177,7 +165,7 @@ TEST_F(EditedGrid, ArrowsWalkInTheTextAndLeaveAtItsEnds) {
 }
 
 TEST_F(EditedGrid, TextOfAnInputMethodPassesTheFilter) {
-    Keys_("1");
+    Type("1");
     QInputMethodEvent text;
     text.setCommitString(QStringLiteral("2x3"));
     QApplication::sendEvent(line, &text);
@@ -188,13 +176,13 @@ TEST_F(EditedGrid, TextOfAnInputMethodPassesTheFilter) {
 TEST_F(EditedGrid, TheMouse) {
     QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, Middle(1, 2));
     EXPECT_TRUE(line->hasFocus());
-    Keys_("5");
+    Type("5");
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Middle(4, 2));
     EXPECT_EQ(grid.Text(1, 2), "5");
     EXPECT_EQ(Where(), "4,2");
     QCoreApplication::processEvents();
     EXPECT_FALSE(line->isVisible());
-    Keys_("6");
+    Type("6");
     button->setFocus(Qt::TabFocusReason); // the focus goes to something else
     EXPECT_EQ(grid.Text(4, 2), "6");
     EXPECT_EQ(commits, 2);
@@ -202,12 +190,12 @@ TEST_F(EditedGrid, TheMouse) {
 }
 
 TEST_F(EditedGrid, TheEditorScrollsWithItsCellAndTypingBringsItBack) {
-    Keys_("1");
+    Type("1");
     view->verticalScrollBar()->setValue(3);
     QCoreApplication::processEvents();
     EXPECT_TRUE(line->hasFocus());
     EXPECT_TRUE(line->visibleRegion().isEmpty()) << "out of sight with its cell";
-    Keys_("2");
+    Type("2");
     QCoreApplication::processEvents();
     EXPECT_FALSE(line->visibleRegion().isEmpty());
     EXPECT_EQ(line->mapTo(view, QPoint()).x(), view->Cell_Rect(1, 2).x());
@@ -217,7 +205,7 @@ TEST_F(EditedGrid, TheEditorScrollsWithItsCellAndTypingBringsItBack) {
 
 TEST_F(EditedGrid, TheRowThatEnterGoesToIsBroughtIntoView) {
     for (int row = 1; row < 20; ++row) {
-        Keys_("3");
+        Type("3");
         Key(Qt::Key_Return);
     }
     EXPECT_EQ(Where(), "20,2");
@@ -236,7 +224,7 @@ TEST_F(EditedGrid, TheListOpensOnAClickAndByTyping) {
     EXPECT_EQ(grid.Text(2, 1), "W8x10");
     EXPECT_EQ(Where(), "3,1");
     EXPECT_TRUE(view->hasFocus());
-    Keys_("w10"); // from the first character on
+    Type("w10"); // from the first character on
     EXPECT_EQ(list.Text(), "W10x12");
     Key(Qt::Key_Tab);
     EXPECT_EQ(grid.Text(3, 1), "W10x12");

@@ -26,16 +26,9 @@ class DesignWindowTest : public WindowTest {
   protected:
     void SetUp() override {
         WindowTest::SetUp();
-        program->Form().OptButton[static_cast<std::size_t>(Mode::Connection)].Select();
-        Settle();
+        To(Mode::Connection);
     }
     DesignPage& Design() { return program->Form().Design; }
-
-    static void Keys_(const char* text) {
-        for (const char* key = text; *key; ++key)
-            QTest::keyClick(QApplication::focusWidget(), *key);
-    }
-    static void Key(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
     void Click(const char* button) {
         QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton);
     }
@@ -44,7 +37,7 @@ class DesignWindowTest : public WindowTest {
         Find<GridView>("cFlex").setFocus();
         Design().Bolts.cFlex.Move_To(row, 1);
         for (const char* text : texts) {
-            Keys_(text);
+            Type(text);
             Key(Qt::Key_Tab);
         }
     }
@@ -57,7 +50,7 @@ class DesignWindowTest : public WindowTest {
     void Type_Weld(std::initializer_list<const char*> texts) {
         To_Welds();
         for (const char* text : texts) {
-            Keys_(text);
+            Type(text);
             Key(Qt::Key_Return);
         }
     }

@@ -20,10 +20,6 @@ namespace {
 
 class GridWindowTest : public WindowTest {
   protected:
-    void To(Mode mode) {
-        program->Form().OptButton[static_cast<std::size_t>(mode)].Select();
-        Settle();
-    }
     static void Mouse(GridView& view, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
         QWidget* const under = view.childAt(at);
         const QPoint inside = under->mapFrom(&view, at);

@@ -18,8 +18,7 @@ class TravelWindowTest : public WindowTest {
   protected:
     MainFrm& Form() { return program->Form(); }
     static void Key(Qt::Key key, Qt::KeyboardModifiers with = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, with);
-        Settle();
+        Tests::Key(key, with);
         Settle();
     }
     void Open(Mode mode) {

@@ -21,6 +21,25 @@ inline void Use_Home(const QString& folder) {
         qputenv(name, folder.toLocal8Bit());
 }
 
+// The widget of that name.
+template <typename Widget>
+Widget& Of(const QWidget& parent, const char* name) {
+    auto* widget = parent.findChild<Widget*>(QLatin1String(name));
+    if (!widget)
+        throw std::runtime_error(std::string{"no widget "} + name);
+    return *widget;
+}
+
+// Keys go to whatever has the focus, as they do on a desktop.
+inline void Type(const char* text) {
+    for (; *text; ++text)
+        QTest::keyClick(QApplication::focusWidget(), *text);
+}
+inline void Key(Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, with);
+    QCoreApplication::processEvents();
+}
+
 class WindowTest : public testing::Test {
   protected:
     QTemporaryDir home;
@@ -45,15 +64,15 @@ class WindowTest : public testing::Test {
         program.reset();
     }
 
-    // The widget of that name, on any page.
     template <typename Widget>
-    Widget& Find(const char* name) {
-        auto* widget = program->Window().findChild<Widget*>(QLatin1String(name));
-        if (!widget)
-            throw std::runtime_error(std::string{"no widget "} + name);
-        return *widget;
+    Widget& Find(const char* name) { // on any page
+        return Of<Widget>(program->Window(), name);
     }
     static void Settle() { QCoreApplication::processEvents(); }
+    void To(Mode mode) {
+        program->Form().OptButton[static_cast<std::size_t>(mode)].Select();
+        Settle();
+    }
     // As soon as it holds, inside whatever runs then; never once the program has ended.
     void When(const std::function<bool()>& holds, const std::function<void()>& what) {
         // At 0 it would be of the same turn of the event loop.

@@ -42,18 +42,7 @@ class WtCalcsWindowTest : public WindowTest {
     }
     template <typename Widget>
     Widget& In(const char* name) {
-        auto* widget = dialog->findChild<Widget*>(QLatin1String(name));
-        if (!widget)
-            throw std::runtime_error(std::string{"no widget "} + name);
-        return *widget;
-    }
-    static void Key(Qt::Key key, Qt::KeyboardModifiers with = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, with);
-        Settle();
-    }
-    static void Type(const char* text) {
-        for (; *text; ++text)
-            QTest::keyClick(QApplication::focusWidget(), *text);
+        return Of<Widget>(*dialog, name);
     }
     QString Cell(const char* grid, int row, int col) {
         return In<GridView>(grid).model()->index(row - 1, col).data().toString();
