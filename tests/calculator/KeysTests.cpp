@@ -150,6 +150,7 @@ TEST(CalcKeyTable, EveryKeyDoesWhatItSays) {
         EXPECT_EQ(key.Caption, row.Caption);
         EXPECT_EQ(key.ToolTip, row.ToolTip);
         EXPECT_EQ(key.Typed, row.Typed);
+        EXPECT_EQ(key.Token.empty(), key.Direct != nullptr);
         for (const char c : key.Typed)
             EXPECT_EQ(Key_For_Character(static_cast<unsigned char>(c)), &key) << row.Name;
         KeyTest calc;
