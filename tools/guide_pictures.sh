@@ -18,6 +18,7 @@ weights-2    weights-2
 calculator   calculator-1
 registers    calculator-memory-in
 popup        popup
+remarks      remarks
 "
 
 if [ $# -ne 1 ] || [ ! -d "$1" ]; then

@@ -26,11 +26,12 @@ bool Has_Load(const BeamLoad& load) {
 }
 
 // The heights of the drawing, in parts of the span.
-constexpr double loadTop = 0.10, beamDepth = 0.012, supportDepth = 0.035;
-constexpr double reactionTail = -0.17, spanLine = -0.21;
-constexpr double shearAxis = -0.40, shearHeight = 0.10;
-constexpr double momentAxis = -0.72, momentHeight = 0.14;
+constexpr double loadTop = 0.08, beamDepth = 0.011, supportDepth = 0.03;
+constexpr double reactionTail = -0.12, spanLine = -0.15;
+constexpr double shearAxis = -0.30, shearHeight = 0.075;
+constexpr double momentAxis = -0.55, momentHeight = 0.12;
 constexpr int loadArrows = 11, parabolaPieces = 24;
+constexpr double leastForWord = 0.13; // of the width of the plot
 
 void Add_Beam(Drawing& drawing, double span) {
     const auto corner = [span](double x, double y) { return Corner{{x, y * span}}; };
@@ -53,9 +54,9 @@ void Add_Load(Drawing& drawing, double span, const std::string& words) {
 }
 
 void Add_Reactions(Drawing& drawing, double span, const std::string& words) {
-    for (const double x : {0.0, span})
-        drawing.Add(Arrow{{x, reactionTail * span}, {x, -(beamDepth + supportDepth) * span}, words},
-                    Ink::Force, "R");
+    const double foot = -(beamDepth + supportDepth) * span, tail = reactionTail * span;
+    drawing.Add(Arrow{{0, tail}, {0, foot}, words}, Ink::Force, "R");
+    drawing.Add(Arrow{{span, tail}, {span, foot}, "R"}, Ink::Force, "R");
 }
 
 // Up on the left, down on the right.
@@ -100,7 +101,7 @@ Pattern Pattern_Of(BeamMethod method, BeamMethod own) {
     if (method == own)
         return Pattern::Solid;
     const bool first = method == (own == methods.front() ? methods[1] : methods.front());
-    return first ? Pattern::DashDot : Pattern::Dashed;
+    return first ? Pattern::Dotted : Pattern::Dashed;
 }
 
 void Add_Other(Drawing& drawing, BeamMethod method, const BeamInput& input, Pattern dash) {
@@ -111,28 +112,17 @@ void Add_Other(Drawing& drawing, BeamMethod method, const BeamInput& input, Patt
     drawing.Add(std::move(curve), Ink::Quiet, std::string{Method_Name(method)});
 }
 
-// In the upper right, which the falling curves leave free.
-void Add_Legend(Drawing& drawing, BeamMethod method) {
-    constexpr double left = 0.50, right = 0.62, top = 0.93, rowHeight = 0.13; // of the frame
-    const Axes& frame = *drawing.Frame;
-    double y = top;
-    for (const BeamMethod each : methods) {
-        const Ink ink = each == method ? Ink::Body : Ink::Quiet;
-        const Point from{left * frame.XTo, y * frame.YTo}, to{right * frame.XTo, y * frame.YTo};
-        const std::string name{Method_Name(each)};
-        drawing.Add(Curve{{from, to}, {}, Pattern_Of(each, method)}, ink, name);
-        drawing.Add(Label{to, name}, ink, name);
-        y -= rowHeight;
+Axes Frame_Of(BeamMethod own, const BeamInput& input, const BeamLoad& present) {
+    Axes axes{0,          Round_Up(std::max(2.2 * present.BoundaryFeet, 1.25 * present.SpanFeet)),
+              0,          0,
+              "Span, ft", "w, Kip/ft"};
+    for (const BeamMethod method : methods) {
+        axes.YTo = std::max(axes.YTo, Beam_Load(method, At_Span(input, 0)).LoadKipsPerFoot);
+        axes.Legend.push_back({std::string{Method_Name(method)},
+                               method == own ? Ink::Body : Ink::Quiet, Pattern_Of(method, own)});
     }
-}
-
-Axes Frame_Of(const BeamInput& input, const BeamLoad& present) {
-    double load = 0;
-    for (const BeamMethod method : methods)
-        load = std::max(load, Beam_Load(method, At_Span(input, 0)).LoadKipsPerFoot);
-    return {0,          Round_Up(std::max(2.2 * present.BoundaryFeet, 1.25 * present.SpanFeet)),
-            0,          Round_Up(1.05 * load),
-            "Span, ft", "w, Kip/ft"};
+    axes.YTo = Round_Up(1.05 * axes.YTo);
+    return axes;
 }
 
 } // namespace
@@ -192,7 +182,7 @@ Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamL
     const BeamLoad boundary = Beam_Load(method, At_Span(input, 0));
     if (!Has_Load(present) || !Has_Load(boundary))
         return drawing;
-    drawing.Frame = Frame_Of(input, present);
+    drawing.Frame = Frame_Of(method, input, present);
     // Below the boundary the rules keep the load of the boundary.
     for (const BeamMethod other : methods)
         if (other != method)
@@ -200,19 +190,17 @@ Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamL
     const double Lv = boundary.BoundaryFeet;
     const double highest = boundary.LoadKipsPerFoot;
     drawing.Add(Curve{{{0, highest}, {Lv, highest}}}, Ink::Body, "Shear");
-    drawing.Add(Bending_Branch(method, input, Lv, drawing.Frame->XTo), Ink::Body, "Bending");
-    drawing.Add(CentreLine{{Lv, 0}, {Lv, highest}}, Ink::Axis, "Boundary");
+    if (Lv > leastForWord * drawing.Frame->XTo)
+        drawing.Add(Label{{Lv / 2, highest}, "Shear"}, Ink::Body, "Shear");
+    Curve bending = Bending_Branch(method, input, Lv, drawing.Frame->XTo);
+    bending.Label = "Bending";
+    drawing.Add(std::move(bending), Ink::Body, "Bending");
     const std::string point = Length_Text(present.SpanFeet) +
                               ": w = " + Format_Number(present.LoadKipsPerFoot, twoDecimals);
     drawing.Add(Mark{{present.SpanFeet, present.LoadKipsPerFoot}, MarkKind::Dot, point},
                 Ink::Result, "Present");
-    Add_Legend(drawing, method);
-    drawing.Add(Label{{0, 0.82 * highest}, "Shear governs"}, Ink::Body, "Shear");
-    const double middle = std::sqrt(Lv * drawing.Frame->XTo);
-    drawing.Add(Label{{middle, Beam_Load(method, At_Span(input, middle)).LoadKipsPerFoot},
-                      "Bending governs"},
-                Ink::Body, "Bending");
-    drawing.Add(Label{{Lv, highest / 8}, "Boundary " + Length_Text(Lv)}, Ink::Axis, "Boundary");
+    drawing.Add(CentreLine{{Lv, highest}, {Lv, 0}, "Boundary " + Length_Text(Lv)}, Ink::Axis,
+                "Boundary");
     drawing.Sentence = "Allowable load against span by the " + std::string{Method_Name(method)} +
                        ": shear governs up to " + Length_Text(Lv) + ", bending beyond; at " +
                        point + " Kip/ft";

@@ -152,7 +152,7 @@ Drawing Bolt_Group_Drawing(const BoltPicture& picture) {
         Add_Forces(drawing, group, load, *picture.Balanced);
         if (picture.Balanced->Turns) {
             centre = Point{picture.Balanced->X, picture.Balanced->Y};
-            Add_Centre(drawing, *centre, nearby * load.Size, MarkKind::Dot, Ink::Result, "Centre");
+            Add_Centre(drawing, *centre, load.Size, nearby, MarkKind::Dot, Ink::Result, "Centre");
             drawing.Sentence += "; it turns about a centre " + Place_In_Words(*centre, " in.");
         }
     }
@@ -161,7 +161,7 @@ Drawing Bolt_Group_Drawing(const BoltPicture& picture) {
         const bool apart =
             !centre || std::hypot(search.X - centre->X, search.Y - centre->Y) > sameCentre * size;
         if (apart) {
-            Add_Centre(drawing, search, nearby * load.Size, MarkKind::Hollow, Ink::Alert, "Search");
+            Add_Centre(drawing, search, load.Size, nearby, MarkKind::Hollow, Ink::Alert, "Search");
             drawing.Sentence += "; the search's own centre is " + Place_In_Words(search, " in.");
         }
     }

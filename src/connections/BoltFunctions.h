@@ -15,6 +15,7 @@ struct BoltGroup {
     std::int16_t n = 0;
     double sv = 0;
     double sh = 0;
+    bool operator==(const BoltGroup&) const = default;
 };
 
 inline constexpr double ultimateBoltForce = 74.0; // kips; cancels in C

@@ -3,7 +3,6 @@
 #include "common/Arithmetic.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
-#include "connections/Balance.h"
 #include "connections/BoltDrawing.h"
 #include "connections/Numbers.h"
 #include "connections/SearchYield.h"
@@ -130,7 +129,8 @@ void BoltPage::Save_Settings() const {
 }
 
 void BoltPage::Init_cFlex() {
-    const double widths[BoltColumn::Count] = {550, 1550, 1600, 1400, 1450, 1450, 1550, 1650, 1650};
+    // Heads wrap: what the table doesn't need is the drawing's.
+    constexpr double numberWidth = 550, usualWidth = 1150;
     const char* heads[BoltColumn::Count] = {"No.",
                                             "Number of Bolt Rows on the Vertical",
                                             "Number of Bolt Rows on the Horizontal",
@@ -147,7 +147,7 @@ void BoltPage::Init_cFlex() {
     cFlex.Set_Row_Height_Min(350);
     cFlex.Set_Word_Wrap(true);
     for (int col = 0; col < BoltColumn::Count; ++col) {
-        cFlex.Set_Col_Width(col, widths[col]);
+        cFlex.Set_Col_Width(col, col == BoltColumn::Number ? numberWidth : usualWidth);
         cFlex.Set_Style(0, col, headStyle);
         cFlex.Set_Text(0, col, heads[col]);
     }
@@ -229,7 +229,15 @@ void BoltPage::Show_Selected() {
     Draw_Group();
 }
 
-// Where the search's own centre ends; none if that takes longer than a drawing may.
+BoltPage::Solution& BoltPage::Solution_Of(int row, const Inputs& inputs) {
+    Solution& solution = solutions_[row];
+    if (!(solution.Of == inputs))
+        solution = {inputs, Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle), {}};
+    return solution;
+}
+
+// Where the search's own centre ends, for a row that was read with its results; none if that takes
+// longer than a drawing may.
 std::optional<double> BoltPage::Search_Centre(const Inputs& inputs) {
     constexpr int mostPasses = 500, mostBoltPasses = 40000;
     const int bolts = std::max(1, inputs.Group.m * inputs.Group.n);
@@ -259,8 +267,11 @@ void BoltPage::Draw_Group() {
     take(picture.Angle, BoltColumn::Angle);
     if (IsBoltRowComplete(cFlex, row)) {
         const Inputs inputs = Row_Inputs(row);
-        picture.Balanced = Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle);
-        picture.SearchRo = Search_Centre(inputs);
+        Solution& solution = Solution_Of(row, inputs);
+        if (!solution.SearchRo && !Verdicts.Is_Computing(row))
+            solution.SearchRo = Search_Centre(inputs);
+        picture.Balanced = solution.Balanced;
+        picture.SearchRo = solution.SearchRo.value_or(std::nullopt);
     }
     GroupSketch.Set_Drawing(Bolt_Group_Drawing(picture));
 }
@@ -290,8 +301,9 @@ void BoltPage::Calculate_C(int row) {
             Show_Selected();
         try {
             const double CPrime = BoltCoefficientCPrime(inputs.Group);
-            const double C = Search(row, inputs, search);
-            Show_Results(row, C, CPrime);
+            const BoltSearchEnd end = Search(row, inputs, search);
+            Solution_Of(row, inputs).SearchRo = end.Ro;
+            Show_Results(row, end.C, CPrime);
         } catch (const SearchAbandoned&) {
             return; // the program is closing, or the row is no longer what it was
         }
@@ -300,12 +312,12 @@ void BoltPage::Calculate_C(int row) {
         Show_Selected();
 }
 
-double BoltPage::Search(int row, const Inputs& inputs, unsigned search) {
+BoltSearchEnd BoltPage::Search(int row, const Inputs& inputs, unsigned search) {
     auto turn = [this, row, search] {
         return desk_.Host.Events.Yield() && newestSearch_[row] == search;
     };
     SearchYield yield{turn, boltYieldStride};
-    return BoltCoefficientC(inputs.Group, inputs.ex, inputs.Angle, yield);
+    return Search_Bolts(inputs.Group, inputs.ex, inputs.Angle, yield);
 }
 
 void BoltPage::Show_Results(int row, double C, double CPrime) {
@@ -326,7 +338,7 @@ void BoltPage::Remark_On(int row, double C) {
         Verdicts.Set(row, {"not computed", RemarkWeight::Caution});
         return;
     }
-    const auto balanced = Balanced_Bolts(inputs.Group, inputs.ex, inputs.Angle);
+    const auto& balanced = Solution_Of(row, inputs).Balanced;
     const Advice remark = Balance_Remark(C, balanced, boltRemarkTolerance);
     cFlex.Set_Remark(row, BoltColumn::C, remark.Text, remark.Weight);
     if (remark.Text.empty()) {

@@ -2,6 +2,7 @@
 // is kept from run to run in a file that only Save writes and only Clear deletes.
 #pragma once
 
+#include "connections/Balance.h"
 #include "connections/BoltFunctions.h"
 #include "connections/DataHandling.h"
 #include "connections/RowVerdicts.h"
@@ -80,11 +81,21 @@ class BoltPage {
         BoltGroup Group;
         double ex = 0;
         double Angle = 0;
+        bool operator==(const Inputs&) const = default;
+    };
+    // What was found out about the inputs of a row; it counts for no others.
+    struct Solution {
+        Inputs Of;
+        std::optional<Balance> Balanced;
+        // How far out the search's own centre ended: not looked for yet, or not found in the time
+        // that a drawing may take.
+        std::optional<std::optional<double>> SearchRo;
     };
 
     void Add_Editing();
     void Show_Selected(); // the current row in the small grids
     void Draw_Group();
+    Solution& Solution_Of(int row, const Inputs& inputs);
     static std::optional<double> Search_Centre(const Inputs& inputs);
     void Take_Row_Count();
     void Lay_Out_Row(int row);
@@ -94,7 +105,7 @@ class BoltPage {
     void Clear_Click();
     void Fill_BoltEntries();
     Inputs Row_Inputs(int row) const;
-    double Search(int row, const Inputs& inputs, unsigned search);
+    BoltSearchEnd Search(int row, const Inputs& inputs, unsigned search);
     void Show_Results(int row, double C, double CPrime);
     void Remark_On(int row, double C);
     void Show_No_Doubt();
@@ -113,6 +124,7 @@ class BoltPage {
     float BoltRowCount = leastBoltRowCount;
     std::vector<BoltRow> BoltEntries;
     std::map<int, unsigned> newestSearch_; // by row
+    std::map<int, Solution> solutions_;    // by row
     std::map<int, BoltRow> saved_;         // the file, by row
     std::deque<int> unremarked_;           // rows that were read
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);

@@ -67,19 +67,18 @@ void Add_Load(Drawing& drawing, const GroupLoad& load, const std::string& symbol
         drawing.Add(Label{{0, 0}, symbol + " = 0"}, Ink::Measure, symbol);
 }
 
-void Add_Centre(Drawing& drawing, Point centre, double near, MarkKind kind, Ink ink,
+void Add_Centre(Drawing& drawing, Point centre, double size, double near, MarkKind kind, Ink ink,
                 const std::string& name) {
     const double away = std::hypot(centre.X, centre.Y);
-    if (away <= near) {
+    if (away <= near * size) {
         drawing.Add(Mark{centre, kind, name}, ink, name);
         return;
     }
-    constexpr double from = 0.45, to = 0.7; // of what counts as near
-    const Point towards{centre.X / away * near, centre.Y / away * near};
-    drawing.Add(Arrow{{towards.X * from, towards.Y * from},
-                      {towards.X * to, towards.Y * to},
-                      name + " outside"},
-                ink, name);
+    constexpr double from = 0.5; // of the size
+    const Point towards{centre.X / away, centre.Y / away};
+    drawing.Add(
+        Pointer{{towards.X * from * size, towards.Y * from * size}, towards, name + " outside"},
+        ink, name);
 }
 
 std::string Place_In_Words(Point centre, const std::string& unit) {

@@ -27,10 +27,10 @@ std::string Known_Text(const std::optional<double>& value);
 // The arrow with the vertical and the angle between them, and the eccentricity by its symbol.
 void Add_Load(Drawing& drawing, const GroupLoad& load, const std::string& symbol);
 
-// A centre of rotation: a mark where it is near, else an arrow from the group towards it. `near` is
-// in the drawing's units from the centroid.
-void Add_Centre(Drawing& drawing, Drawn::Point centre, double near, Drawn::MarkKind kind,
-                Drawn::Ink ink, const std::string& name);
+// A centre of rotation of a group of that size: a mark where it is near, else an arrow towards it.
+// `near` is in sizes from the centroid.
+void Add_Centre(Drawing& drawing, Drawn::Point centre, double size, double near,
+                Drawn::MarkKind kind, Drawn::Ink ink, const std::string& name);
 
 // "3.2 in. left of the centroid and 0.5 in. above it"; the unit is " in." there.
 std::string Place_In_Words(Drawn::Point centre, const std::string& unit);

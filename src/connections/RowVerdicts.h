@@ -29,6 +29,10 @@ class RowVerdicts {
     void Drop(int row);
     void Drop_From(int row); // this row and all after it
     const std::map<int, RowVerdict>& Rows() const { return rows_; }
+    bool Is_Computing(int row) const {
+        const auto at = rows_.find(row);
+        return at != rows_.end() && at->second.Computing;
+    }
 
     // What stands there when no row has a verdict.
     const std::string& Otherwise() const { return otherwise_; }

@@ -30,6 +30,9 @@ bool Has_Y(int item) {
 bool Has_X_From_Right(int item) {
     return item == 7 || item == 9;
 }
+bool Is_Right_Angle(int item) { // a line above, one at the right
+    return item == 9;
+}
 
 // The lines about their centroid, and the box around them.
 struct Group {
@@ -55,10 +58,12 @@ Group Group_Of(int item, double base, double leg) {
     return group;
 }
 
-void Add_Length(Drawing& drawing, const Group& group, bool upright, const std::string& symbol,
-                const std::optional<double>& value) {
+void Add_Length(Drawing& drawing, const Group& group, int item, bool upright,
+                const std::string& symbol, const std::optional<double>& value) {
     const Point corner{group.Left, group.Top};
-    const Point to = upright ? Point{group.Left, group.Bottom} : Point{group.Right, group.Top};
+    // The lower end of an upright line, which may stand at the right.
+    const double foot = Is_Right_Angle(item) ? group.Right : group.Left;
+    const Point to = upright ? Point{foot, group.Bottom} : Point{group.Right, group.Top};
     if (!(corner == to))
         drawing.Add(
             Dimension{corner, to, upright ? Side::Left : Side::Above, symbol, Known_Text(value)},
@@ -71,31 +76,30 @@ void Add_Sizes(Drawing& drawing, const Group& group, const WeldPicture& picture,
         return known ? std::optional(value) : std::nullopt;
     };
     if (Has_Y(picture.Item))
-        drawing.Add(Dimension{{group.Left, group.Top},
-                              {group.Left, 0},
-                              Side::Left,
-                              "yL",
-                              Known_Text(distance(group.Top))},
-                    Ink::Measure, "yL");
-    Add_Length(drawing, group, !lying, "L", picture.L);
-    Add_Length(drawing, group, lying, "kL", picture.kL);
+        drawing.Add(
+            Dimension{
+                {group.Left, group.Top}, {0, 0}, Side::Left, "yL", Known_Text(distance(group.Top))},
+            Ink::Measure, "yL");
+    Add_Length(drawing, group, picture.Item, !lying, "L", picture.L);
+    Add_Length(drawing, group, picture.Item, lying, "kL", picture.kL);
     if (!Has_X(picture.Item))
         return;
     const double edge = Has_X_From_Right(picture.Item) ? group.Right : group.Left;
-    drawing.Add(Dimension{{edge, group.Bottom},
-                          {0, group.Bottom},
-                          Side::Below,
-                          "xL",
-                          Known_Text(distance(std::abs(edge)))},
-                Ink::Measure, "xL");
+    drawing.Add(
+        Dimension{
+            {edge, group.Bottom}, {0, 0}, Side::Below, "xL", Known_Text(distance(std::abs(edge)))},
+        Ink::Measure, "xL");
 }
 
+// Two lines in one place are drawn once, with a word on it.
 void Add_Welds(Drawing& drawing, const Group& group) {
-    for (const WeldLine& line : group.Lines)
-        drawing.Add(Curve{{{line.x1, line.y1}, {line.x2, line.y2}}}, Ink::Body, "Weld");
-    const bool doubled = group.Lines.size() == 2 && group.Lines[0].x1 == group.Lines[1].x1 &&
-                         group.Lines[0].y1 == group.Lines[1].y1 &&
-                         group.Lines[0].x2 == group.Lines[1].x2;
+    const WeldLine& first = group.Lines.front();
+    const bool doubled = group.Lines.size() == 2 && first.x1 == group.Lines[1].x1 &&
+                         first.y1 == group.Lines[1].y1 && first.x2 == group.Lines[1].x2;
+    for (std::size_t i = doubled ? 1 : 0; i < group.Lines.size(); ++i) {
+        const WeldLine& line = group.Lines[i];
+        drawing.Add(Weld{{line.x1, line.y1}, {line.x2, line.y2}}, Ink::Body, "Weld");
+    }
     if (doubled)
         drawing.Add(Label{{group.Left, group.Bottom}, "2 lines"}, Ink::Body, "Weld");
 }
@@ -118,7 +122,7 @@ void Add_Centres(Drawing& drawing, const GroupLoad& load, const WeldPicture& pic
     std::optional<Point> centre;
     if (picture.Balanced && picture.Balanced->Turns) {
         centre = Point{picture.Balanced->X, picture.Balanced->Y};
-        Add_Centre(drawing, *centre, nearby * load.Size, MarkKind::Dot, Ink::Result, "Centre");
+        Add_Centre(drawing, *centre, load.Size, nearby, MarkKind::Dot, Ink::Result, "Centre");
         drawing.Sentence += "; the centre in equilibrium is " + Place_In_Words(*centre, "");
     }
     if (!picture.SearchRo)
@@ -126,7 +130,7 @@ void Add_Centres(Drawing& drawing, const GroupLoad& load, const WeldPicture& pic
     const Point search = Search_Centre(load, *picture.SearchRo);
     if (centre && std::hypot(search.X - centre->X, search.Y - centre->Y) < sameCentre * load.Size)
         return;
-    Add_Centre(drawing, search, nearby * load.Size, MarkKind::Hollow, Ink::Alert, "Search");
+    Add_Centre(drawing, search, load.Size, nearby, MarkKind::Hollow, Ink::Alert, "Search");
     drawing.Sentence += "; the search's own centre is " + Place_In_Words(search, "");
 }
 
@@ -184,6 +188,14 @@ void WeldPasses::Add(const WeldPassLoads& pass) {
     kept_.resize(to);
     if ((count_ - 1) % every_ != 0)
         kept_.push_back(pass);
+}
+
+bool WeldPasses::Is_Plot_Due(double now) {
+    constexpr double secondsBetween = 0.25;
+    if (now - plotted_ < secondsBetween && now >= plotted_)
+        return false;
+    plotted_ = now;
+    return true;
 }
 
 Drawing Weld_Search_Plot(const WeldPasses& passes) {

@@ -36,10 +36,14 @@ class WeldPasses {
     void Clear() { kept_.clear(), every_ = 1, count_ = 0; }
     void Add(const WeldPassLoads& pass);
     const std::vector<WeldPassLoads>& Kept() const { return kept_; }
+    // Whether at that time, in seconds, they are to be drawn anew: a few times a second, because a
+    // search makes thousands of passes in one.
+    bool Is_Plot_Due(double now);
 
   private:
     std::vector<WeldPassLoads> kept_;
     std::size_t every_ = 1, count_ = 0;
+    double plotted_ = 0; // seconds
 };
 
 // Fy[v] and Fy[m] against Ro: two curves that meet where the search ends. Empty before two passes.

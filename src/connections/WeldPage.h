@@ -93,7 +93,7 @@ class WeldPage {
     void Show_Converged(const Inputs& inputs, double C);
     void Show_Aborted(const Inputs& inputs, double C);
     void Draw_Group();
-    void Plot_Pass(const WeldPassLoads& pass);
+    void Plot_Pass(const WeldPassLoads& pass, double now);
     Advice Show_Balance(const Inputs& inputs, double C);
     std::optional<std::array<std::string, 4>> Typed_Inputs() const;
     void Show_Running();
@@ -108,7 +108,6 @@ class WeldPage {
     std::array<Parameters, weldConfigurationCount> WeldParameters;
     WeldState state_;
     WeldPasses passes_;    // of the run that shows
-    double plotted_ = 0;   // seconds, when the plot was drawn last
     unsigned newest_ = 0;  // the run whose result is wanted
     unsigned started_ = 0; // the run that the buttons speak of
     CellEditing editing_;

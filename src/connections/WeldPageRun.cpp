@@ -39,7 +39,8 @@ class WeldPage::Display final : public WeldDisplay {
     explicit Display(WeldPage& page) : page_(page) {}
 
     std::int64_t Now() override {
-        return static_cast<std::int64_t>(std::floor(page_.desk_.Host.Time.Seconds()));
+        now_ = page_.desk_.Host.Time.Seconds();
+        return static_cast<std::int64_t>(std::floor(now_));
     }
     bool Has_Text() override {
         return page_.IterationDisplayBox.Text().find_first_not_of(' ') != std::string::npos;
@@ -49,10 +50,13 @@ class WeldPage::Display final : public WeldDisplay {
     void Show_Elapsed(std::string_view caption) override {
         page_.ElapsedIndicator.Set_Caption(std::string{caption});
     }
-    void Show_Loads(double Ro, double Fv, double Fm) override { page_.Plot_Pass({Ro, Fv, Fm}); }
+    void Show_Loads(double Ro, double Fv, double Fm) override {
+        page_.Plot_Pass({Ro, Fv, Fm}, now_);
+    }
 
   private:
     WeldPage& page_;
+    double now_ = 0; // seconds; the search asks for the time at each pass
 };
 
 // What is typed in, trimmed; none if any of it is empty.
@@ -143,15 +147,10 @@ Advice WeldPage::Show_Balance(const Inputs& inputs, double C) {
     return Balance_Remark(C, balance, weldRemarkTolerance);
 }
 
-// A few times a second: a search makes thousands of passes in one.
-void WeldPage::Plot_Pass(const WeldPassLoads& pass) {
-    constexpr double secondsBetween = 0.25;
+void WeldPage::Plot_Pass(const WeldPassLoads& pass, double now) {
     passes_.Add(pass);
-    const double now = desk_.Host.Time.Seconds();
-    if (now - plotted_ >= secondsBetween || now < plotted_) {
-        plotted_ = now;
+    if (passes_.Is_Plot_Due(now))
         SearchPlot.Set_Drawing(Weld_Search_Plot(passes_));
-    }
 }
 
 void WeldPage::Draw_Group() {

@@ -31,7 +31,7 @@ enum class Ink : std::uint8_t {
     Alert    // what must not be overlooked
 };
 
-enum class Pattern : std::uint8_t { Solid, Dashed, DashDot };
+enum class Pattern : std::uint8_t { Solid, Dashed, DashDot, Dotted };
 
 struct Line {
     Point From, To;
@@ -63,7 +63,19 @@ struct Arrow {
     std::string Label = {};
 };
 
-// A line that stands out a little at both ends, its label behind To.
+// Towards something that lies beyond the drawing: an arrow in the size of a text, beside or behind
+// the point From, whose length says nothing.
+struct Pointer {
+    Point From, Towards; // Towards is a direction
+    std::string Label;
+};
+
+// A weld along a line: a bead with its ripples, as wide as a text allows.
+struct Weld {
+    Point From, To;
+};
+
+// A line that stands out a little at both ends, its label behind To; in a plot, along it.
 struct CentreLine {
     Point From, To;
     std::string Label = {};
@@ -90,7 +102,7 @@ struct Mark {
     std::string Label = {};
 };
 
-// A text near a point.
+// A text near a point, above it if it can be.
 struct Label {
     Point At;
     std::string Words;
@@ -103,7 +115,8 @@ struct Curve {
     Pattern Dash = Pattern::Solid;
 };
 
-using Shape = std::variant<Line, Outline, Circle, Arrow, CentreLine, Dimension, Mark, Label, Curve>;
+using Shape = std::variant<Line, Outline, Circle, Arrow, Pointer, Weld, CentreLine, Dimension, Mark,
+                           Label, Curve>;
 
 struct Part {
     Shape What;
@@ -111,10 +124,19 @@ struct Part {
     std::string Name = {}; // what it is lit up by, and what pointing at it gives
 };
 
-// The frame of a plot: x and y have scales of their own then, with round numbers along them.
+// One line of a plot's legend.
+struct LegendRow {
+    std::string Words;
+    Ink In = Ink::Body;
+    Pattern Dash = Pattern::Solid;
+};
+
+// The frame of a plot: x and y have scales of their own then, with round numbers along them. The
+// legend stands in the upper right.
 struct Axes {
     double XFrom = 0, XTo = 1, YFrom = 0, YTo = 1;
     std::string XTitle, YTitle; // with their units
+    std::vector<LegendRow> Legend = {};
 };
 
 } // namespace Drawn

@@ -14,6 +14,7 @@ constexpr double firstGap = 0.95, laneStep = 0.3, leastBetweenLines = 0.55;
 constexpr double tailLength = 1.1, tailStep = 0.5, longestTail = 7;
 constexpr double extensionGap = 0.15, extensionEnd = 0.25, textGap = 0.3;
 constexpr int lanes = 60;
+constexpr double farthestLine = 100;
 
 } // namespace
 
@@ -38,7 +39,22 @@ struct Sheet::Run {
     }
 };
 
+// Where the extension lines of a dimension beside the drawing may run.
+void Sheet::Expect_Dimension(const Part& part, const Dimension& dimension) {
+    if (dimension.At == Side::Inside)
+        return;
+    const double far = farthestLine * em_;
+    const bool upright = dimension.At == Side::Left || dimension.At == Side::Right;
+    const double out = dimension.At == Side::Left || dimension.At == Side::Above ? -far : far;
+    for (const Point& own : {dimension.From, dimension.To}) {
+        const Point from = layout_.In_View(own);
+        const Point to = upright ? Point{from.X + out, from.Y} : Point{from.X, from.Y + out};
+        toCome_.push_back({&part, {from, to}});
+    }
+}
+
 void Sheet::Place_Dimension(const Part& part, const Dimension& dimension) {
+    std::erase_if(toCome_, [&part](const auto& line) { return line.first == &part; });
     const Point a = layout_.In_View(dimension.From), b = layout_.In_View(dimension.To);
     Run run{part, dimension.Symbol, {}};
     if (detail_.Values && !dimension.Value.empty())
@@ -58,7 +74,7 @@ void Sheet::Place_Dimension(const Part& part, const Dimension& dimension) {
     run.Out = dimension.At == Side::Left || dimension.At == Side::Above ? -1 : 1;
     run.Pinched = run.To - run.From < leastBetweenHeads * em_;
     const bool inside = dimension.At == Side::Inside;
-    for (const Care care : cares)
+    for (const Care care : Cares())
         if (inside ? Place_Inside(run, care) : Place_Beside(run, care))
             return;
     Leave_Out(part, run.Words);
@@ -77,7 +93,8 @@ bool Sheet::Place_Beside(const Run& run, Care care) {
 // At the measured points themselves; the tail carries the label as far as it has to go.
 bool Sheet::Place_Inside(const Run& run, Care care) {
     const double across = (run.FromAt + run.ToAt) / 2;
-    for (double tail = tailLength; tail < longestTail; tail += tailStep)
+    const double longest = care == Care::LinesToCome ? longestTail / 2 : longestTail;
+    for (double tail = tailLength; tail < longest; tail += tailStep)
         if (Try(run, across, tail * em_, care))
             return true;
     return false;
@@ -118,18 +135,18 @@ Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
         proposal.Lines.push_back({run.At(from, across), run.At(to, across)});
     };
     const double middle = (run.From + run.To) / 2;
-    if (run.Pinched) {
-        line(run.From - tail, run.From);
+    const double label = run.Upright ? labelCentre.Y : labelCentre.X;
+    if (run.Pinched) { // the tail under the label as long as it has to be
+        line(run.From - (label < run.From ? tail : tailLength * em_), run.From);
         line(run.From, run.To);
-        line(run.To, run.To + tail);
+        line(run.To, run.To + (label > run.To ? tail : tailLength * em_));
     } else if (labelCentre == run.At(middle, across)) {
         const double half = run.Label.Width / 2 + textGap * em_;
         line(run.From, middle - half);
         line(middle + half, run.To);
     } else {
-        const double along = run.Upright ? labelCentre.Y : labelCentre.X;
-        line(along < run.From ? run.From - tail : run.From,
-             along > run.To ? run.To + tail : run.To); // as far as its label
+        line(label < run.From ? run.From - tail : run.From,
+             label > run.To ? run.To + tail : run.To); // as far as its label
     }
     const auto extend = [&](double along, double from) {
         const double way = across - from;
@@ -165,7 +182,7 @@ bool Sheet::Is_Free(const Proposal& proposal, bool upright, Care care) const {
     }
     return std::all_of(proposal.Extensions.begin(), proposal.Extensions.end(),
                        [&](const Segment& line) {
-                           return care != Care::Everything ||
+                           return care > Care::Everything ||
                                   (Misses_Texts(line) && !apart.Meets(line.From, line.To));
                        });
 }

@@ -10,6 +10,7 @@ namespace {
 
 // In heights of a line of text.
 constexpr double tickGap = 0.3, leastBetweenTicks = 1.6;
+constexpr double legendGap = 0.5, legendLine = 2.6, legendStep = 1.2;
 
 } // namespace
 
@@ -27,6 +28,24 @@ void Sheet::Draw_Frame(const Axes& axes) {
     Add_Text(frame, {left, above - y.Height - em_ / 2, left + y.Width, above - em_ / 2},
              axes.YTitle);
     layout_.Plot = Box{low.X, high.Y, high.X, low.Y};
+    Draw_Legend(axes);
+}
+
+void Sheet::Draw_Legend(const Axes& axes) {
+    double widest = 0;
+    for (const LegendRow& row : axes.Legend)
+        widest = std::max(widest, measure_(row.Words).Width);
+    const double left = layout_.Plot->Right - legendGap * em_ - widest;
+    double y = layout_.Plot->Top + legendStep * em_;
+    for (const LegendRow& row : axes.Legend) {
+        const Part part{Line{}, row.In, row.Words};
+        const double end = left - legendGap * em_;
+        Add_Stroke(part, {{end - legendLine * em_, y}, {end, y}}, Weight::Bold, row.Dash);
+        const Size size = measure_(row.Words);
+        Add_Text(part, {left, y - size.Height / 2, left + size.Width, y + size.Height / 2},
+                 row.Words);
+        y += legendStep * em_;
+    }
 }
 
 // Round numbers along one of the axes, as close as their texts allow.

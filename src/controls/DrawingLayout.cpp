@@ -12,10 +12,11 @@ namespace Tensarix::Drawn {
 
 namespace {
 
-constexpr double edgeRoom = 3;         // pixels between the drawing and the edge of the view
-constexpr int mostTries = 12;          // to find the scale at which all fits
-constexpr double leastPart = 0.36;     // of the scale without texts; below it, the values go
-constexpr double leastPartBare = 0.25; // below it, dimensions go
+constexpr double edgeRoom = 3; // pixels between the drawing and the edge of the view
+constexpr int mostTries = 12;  // to find the scale at which all fits
+constexpr double scaleStep = 0.92;
+constexpr double leastPart = 0.25;    // of the scale without texts; below it, the values go
+constexpr double leastPartBare = 0.2; // below it, dimensions go
 constexpr double barRoom = 2.1, barPart = 0.25, barTick = 0.25, barGap = 0.4; // lines; of the view
 
 Point Between(Point from, Point to, double length) {
@@ -42,6 +43,8 @@ class Reach {
         Take_In({circle.Centre.X + circle.Radius, circle.Centre.Y + circle.Radius});
     }
     void operator()(const Arrow& arrow) { Take_In(arrow.Tail), Take_In(arrow.Head); }
+    void operator()(const Pointer& pointer) { Take_In(pointer.From); }
+    void operator()(const Weld& weld) { Take_In(weld.From), Take_In(weld.To); }
     void operator()(const CentreLine& line) { Take_In(line.From), Take_In(line.To); }
     void operator()(const Dimension& dimension) { Take_In(dimension.From), Take_In(dimension.To); }
     void operator()(const Mark& mark) { Take_In(mark.At); }
@@ -97,32 +100,68 @@ void Move(Layout& layout, double x, double y) {
     layout.Zero = {layout.Zero.X + x, layout.Zero.Y + y};
 }
 
-// Makes the drawing smaller by what its texts reach over the room, until all is inside. False: it
-// would have to be smaller than the least part of what the room alone allows.
+// A try at a scale. Over: by how much it is too large for the room.
+struct Fitted {
+    Layout Laid;
+    Size Over;
+    bool Fits() const { return Over.Width <= 0 && Over.Height <= 0; }
+};
+
+Fitted Try(const Drawing& drawing, const Layout& scaled, Size room, const TextMeasure& measure,
+           Detail detail) {
+    Sheet sheet(drawing, scaled, measure, detail);
+    sheet.Draw();
+    const Box extent = sheet.Extent();
+    Fitted fitted{std::move(sheet.Result()),
+                  {extent.Width() - room.Width, extent.Height() - room.Height}};
+    Move(fitted.Laid, (room.Width - extent.Width()) / 2 - extent.Left,
+         (room.Height - extent.Height()) / 2 - extent.Top);
+    return fitted;
+}
+
+// Makes the drawing smaller by what its texts reach over the room, until all is inside. As a
+// smaller one may have its texts in other places and so need more room, the scales that were jumped
+// over are tried then. False: it would have to be smaller than the least part of what the room
+// alone allows.
 bool Fit(const Drawing& drawing, Size room, const TextMeasure& measure, Detail detail, double least,
          Layout& fitted) {
     const Box bounds = Bounds_Of(drawing);
+    const bool plot = drawing.Frame.has_value();
+    Layout whole;
+    Set_Scale(whole, bounds, room, plot);
+    const auto part = [&](const Layout& layout) {
+        return std::max(layout.XScale / whole.XScale, layout.YScale / whole.YScale);
+    };
+    bool found = false;
+    double reached = least;
     Size body = room;
-    for (int i = 0; i < mostTries; ++i) {
+    for (int i = 0; i < mostTries && !found; ++i) {
         Layout scaled;
-        Set_Scale(scaled, bounds, body, drawing.Frame.has_value());
-        Sheet sheet(drawing, scaled, measure, detail);
-        sheet.Draw();
-        const Box extent = sheet.Extent();
-        const double over = extent.Width() - room.Width, overY = extent.Height() - room.Height;
-        fitted = std::move(sheet.Result());
-        Move(fitted, (room.Width - extent.Width()) / 2 - extent.Left,
-             (room.Height - extent.Height()) / 2 - extent.Top);
-        if (over <= 0 && overY <= 0)
-            return fitted.LeftOut.empty();
-        const double width = (bounds.Right - bounds.Left) * fitted.XScale;
-        const double height = (bounds.Top - bounds.Bottom) * fitted.YScale;
-        body = {std::min(body.Width, over > 0 ? width - over - 1 : body.Width),
-                std::min(body.Height, overY > 0 ? height - overY - 1 : body.Height)};
-        if (body.Width < least * room.Width && body.Height < least * room.Height)
-            return false;
+        Set_Scale(scaled, bounds, body, plot);
+        if (part(scaled) < least)
+            break;
+        Fitted tried = Try(drawing, scaled, room, measure, detail);
+        fitted = std::move(tried.Laid);
+        found = tried.Fits();
+        reached = part(scaled);
+        const double width = (bounds.Right - bounds.Left) * scaled.XScale;
+        const double height = (bounds.Top - bounds.Bottom) * scaled.YScale;
+        const Size over = tried.Over;
+        body = {std::min(body.Width, over.Width > 0 ? width - over.Width - 1 : body.Width),
+                std::min(body.Height, over.Height > 0 ? height - over.Height - 1 : body.Height)};
     }
-    return false;
+    for (double scale = scaleStep; scale > (found ? reached / scaleStep : least) && !plot;
+         scale *= scaleStep) {
+        Layout scaled;
+        Set_Scale(scaled, bounds, {scale * room.Width, scale * room.Height}, false);
+        Fitted tried = Try(drawing, scaled, room, measure, detail);
+        if (!tried.Fits())
+            continue;
+        fitted = std::move(tried.Laid);
+        found = true;
+        break;
+    }
+    return found && fitted.LeftOut.empty();
 }
 
 std::size_t Dimensions_Of(const Drawing& drawing) {
@@ -135,8 +174,9 @@ std::size_t Dimensions_Of(const Drawing& drawing) {
 // All of it where there is room, else as much of it as there is room for.
 Layout Fit_What_Fits(const Drawing& drawing, Size room, const TextMeasure& measure) {
     Layout layout;
-    if (Fit(drawing, room, measure, {}, leastPart, layout))
-        return layout;
+    for (const Care care : {Care::LinesToCome, Care::Everything})
+        if (Fit(drawing, room, measure, {true, 0, care}, leastPart, layout))
+            return layout;
     const std::size_t all = Dimensions_Of(drawing);
     for (std::size_t without = 0; without < all; ++without)
         if (Fit(drawing, room, measure, {false, without}, leastPartBare, layout))

@@ -66,6 +66,7 @@ struct Text {
     std::string Words;
     Ink In = Ink::Body;
     std::string Name = {};
+    bool Crossed = false; // by a line, which is to be interrupted there
 };
 
 struct Layout {

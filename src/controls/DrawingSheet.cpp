@@ -1,6 +1,7 @@
 #include "controls/DrawingSheet.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -13,12 +14,17 @@ constexpr double headLength = 0.55, headHalfWidth = 0.17;
 constexpr double markSize = 0.38, dotSize = 0.22;
 constexpr double overhang = 0.7;
 constexpr double labelDistances[] = {0.35, 0.8, 1.4, 2.2, 3.2};
-constexpr double textMargin = 0.2;
+constexpr double textMargin = 0.2, betweenTexts = 0.45; // the latter side by side
+constexpr double pointerLength = 2, pointerStep = 0.5, farthestPointer = 16, pointerBeside = 1.1;
+constexpr int pointersBeside = 3;
+constexpr double beadHalfWidth = 0.26, rippleStep = 0.42, rippleDepth = 0.22;
 
 constexpr int circlePieces = 72;
 
-constexpr Point directions[] = {{1, 0},  {1, -1}, {0, -1}, {-1, -1},
-                                {-1, 0}, {-1, 1}, {0, 1},  {1, 1}};
+constexpr std::array<Point, 8> directions{
+    {{1, 0}, {1, -1}, {0, -1}, {-1, -1}, {-1, 0}, {-1, 1}, {0, 1}, {1, 1}}};
+constexpr std::array<Point, 8> directionsFromAbove{
+    {{0, -1}, {1, 0}, {-1, 0}, {0, 1}, {1, -1}, {-1, -1}, {1, 1}, {-1, 1}}};
 
 Point Along(Point from, Point to, double length) {
     const double whole = std::hypot(to.X - from.X, to.Y - from.Y);
@@ -29,10 +35,15 @@ Point Along(Point from, Point to, double length) {
 
 // Some points of a curve from its end to its start, where its label may stand.
 std::vector<Point> Spread(const std::vector<Point>& points) {
-    constexpr std::size_t most = 9;
+    constexpr int most = 9;
     std::vector<Point> some;
-    for (std::size_t i = 0; i < most && !points.empty(); ++i)
-        some.push_back(points[(points.size() - 1) * (most - 1 - i) / (most - 1)]);
+    for (int i = most - 1; i >= 0 && !points.empty(); --i) {
+        const double place = static_cast<double>(points.size() - 1) * i / (most - 1);
+        const auto before = static_cast<std::size_t>(place);
+        const Point &a = points[before], &b = points[std::min(before + 1, points.size() - 1)];
+        const double part = place - static_cast<double>(before);
+        some.push_back({a.X + part * (b.X - a.X), a.Y + part * (b.Y - a.Y)});
+    }
     return some;
 }
 
@@ -59,6 +70,8 @@ void Sheet::Draw() {
         if (std::holds_alternative<Dimension>(part.What))
             dimensions.push_back(&part);
     dimensions.resize(dimensions.size() - std::min(detail_.Dimensions, dimensions.size()));
+    for (const Part* part : dimensions)
+        Expect_Dimension(*part, std::get<Dimension>(part->What));
     // Those inside have the least choice of places, those beside the drawing the most.
     for (const Part* part : dimensions)
         if (const auto& dimension = std::get<Dimension>(part->What); dimension.At == Side::Inside)
@@ -68,6 +81,10 @@ void Sheet::Draw() {
     for (const Part* part : dimensions)
         if (const auto& dimension = std::get<Dimension>(part->What); dimension.At != Side::Inside)
             Place_Dimension(*part, dimension);
+    for (const Part& part : drawing_.Parts)
+        if (const auto* pointer = std::get_if<Pointer>(&part.What))
+            Place_Pointer(part, *pointer);
+    Mark_Crossed_Texts();
 }
 
 void Sheet::Draw_Shape(const Part& part) {
@@ -86,6 +103,8 @@ void Sheet::Draw_Shape(const Part& part) {
         Draw_Arrow(part, *arrow);
     else if (const auto* mark = std::get_if<Mark>(&part.What))
         Draw_Mark(part, *mark);
+    else if (const auto* weld = std::get_if<Weld>(&part.What))
+        Draw_Weld(part, *weld);
     else if (const auto* curve = std::get_if<Curve>(&part.What)) {
         std::vector<Point> points;
         points.reserve(curve->Points.size());
@@ -130,18 +149,43 @@ void Sheet::Draw_Mark(const Part& part, const Mark& mark) {
     Add_Stroke(part, std::move(points), Weight::Bold, Pattern::Solid);
 }
 
+// Only the edges of the bead keep texts away, not its many ripples.
+void Sheet::Draw_Weld(const Part& part, const Weld& weld) {
+    const Point from = layout_.In_View(weld.From), to = layout_.In_View(weld.To);
+    const double length = std::hypot(to.X - from.X, to.Y - from.Y);
+    if (length == 0)
+        return;
+    const Point along{(to.X - from.X) / length, (to.Y - from.Y) / length};
+    const auto at = [&](double forward, double aside) {
+        return Point{from.X + along.X * forward - along.Y * aside,
+                     from.Y + along.Y * forward + along.X * aside};
+    };
+    const double half = beadHalfWidth * em_;
+    const std::vector<Point> edge{at(0, -half), at(length, -half), at(length, half), at(0, half)};
+    layout_.Fills.push_back({{edge}, part.In, true, part.Name});
+    Add_Stroke(part, {edge[0], edge[1], edge[2], edge[3], edge[0]}, Weight::Thin, Pattern::Solid);
+    const int ripples = static_cast<int>(length / (rippleStep * em_));
+    for (int i = 1; i < ripples; ++i) {
+        Stroke ripple{{}, part.In, Weight::Thin, Pattern::Solid, part.Name};
+        for (const double aside : {-1.0, -0.5, 0.0, 0.5, 1.0})
+            ripple.Points.push_back(
+                at(length * i / ripples + rippleDepth * em_ * (0.5 - aside * aside), aside * half));
+        layout_.Strokes.push_back(std::move(ripple));
+    }
+}
+
 void Sheet::Draw_CentreLine(const Part& part, const CentreLine& line) {
     const Point from = layout_.In_View(line.From), to = layout_.In_View(line.To);
     const Point end = Along(to, from, -overhang * em_);
     Add_Stroke(part, {Along(from, to, -overhang * em_), end}, Weight::Thin, line.Dash);
-    if (line.Label.empty())
+    if (line.Label.empty() || drawing_.Frame)
         return;
     const Size size = measure_(line.Label);
     const Point onward = Along({0, 0}, {end.X - from.X, end.Y - from.Y}, 1);
     const Point centre{end.X + onward.X * (size.Width / 2 + 2 * textMargin * em_),
-                       end.Y + onward.Y * (size.Height / 2 + textMargin * em_)};
+                       end.Y + onward.Y * (size.Height / 2 + 1.5 * textMargin * em_)};
     const Box place = Text_Box(centre, line.Label);
-    if (Is_Free(place, Care::DimensionLines))
+    if (Is_Free(place, detail_.First))
         Add_Text(part, place, line.Label);
     else if (!Place_Near(part, {end}, line.Label))
         Leave_Out(part, line.Label);
@@ -198,13 +242,19 @@ void Sheet::Add_Text(const Part& part, const Box& place, const std::string& word
 }
 
 bool Sheet::Is_Free(const Box& place, Care care) const {
-    const Box room = place.Grown(textMargin * em_);
-    if (std::any_of(layout_.Texts.begin(), layout_.Texts.end(),
-                    [&](const Text& text) { return text.Place.Overlaps(room); }))
-        return false;
+    Box room = place.Grown(textMargin * em_);
     const auto& lines = care == Care::DimensionLines ? dimensionLines_ : segments_;
-    return std::none_of(lines.begin(), lines.end(),
-                        [&](const Segment& line) { return room.Meets(line.From, line.To); });
+    if (std::any_of(lines.begin(), lines.end(),
+                    [&](const Segment& line) { return room.Meets(line.From, line.To); }))
+        return false;
+    if (care == Care::LinesToCome &&
+        std::any_of(toCome_.begin(), toCome_.end(),
+                    [&](const auto& line) { return room.Meets(line.second.From, line.second.To); }))
+        return false;
+    room.Left = place.Left - betweenTexts * em_;
+    room.Right = place.Right + betweenTexts * em_;
+    return std::none_of(layout_.Texts.begin(), layout_.Texts.end(),
+                        [&](const Text& text) { return text.Place.Overlaps(room); });
 }
 
 bool Sheet::Misses_Texts(const Segment& line) const {
@@ -216,7 +266,8 @@ bool Sheet::Misses_Texts(const Segment& line) const {
 void Sheet::Place_Label(const Part& part) {
     std::vector<Point> anchors;
     std::string words;
-    if (const auto* label = std::get_if<Label>(&part.What)) {
+    const auto* label = std::get_if<Label>(&part.What);
+    if (label) {
         anchors = {layout_.In_View(label->At)};
         words = label->Words;
     } else if (const auto* mark = std::get_if<Mark>(&part.What)) {
@@ -230,19 +281,22 @@ void Sheet::Place_Label(const Part& part) {
         for (const Point& point : Spread(curve->Points))
             anchors.push_back(layout_.In_View(point));
         words = curve->Label;
+    } else if (const auto* line = std::get_if<CentreLine>(&part.What); line && drawing_.Frame) {
+        anchors = Spread({layout_.In_View(line->To), layout_.In_View(line->From)});
+        words = line->Label;
     }
-    if (!words.empty() && !Place_Near(part, anchors, words))
+    if (!words.empty() && !Place_Near(part, anchors, words, label != nullptr))
         Leave_Out(part, words);
 }
 
 // The nearest free place around the anchors: first one that crosses no line.
 bool Sheet::Place_Near(const Part& part, const std::vector<Point>& anchors,
-                       const std::string& words) {
+                       const std::string& words, bool above) {
     const Size size = measure_(words);
-    for (const Care care : cares)
+    for (const Care care : Cares())
         for (const double distance : labelDistances)
             for (const Point& anchor : anchors)
-                for (const Point& towards : directions) {
+                for (const Point& towards : above ? directionsFromAbove : directions) {
                     const Point centre{anchor.X + towards.X * (size.Width / 2 + distance * em_),
                                        anchor.Y + towards.Y * (size.Height / 2 + distance * em_)};
                     const Box place = Text_Box(centre, words);
@@ -252,6 +306,51 @@ bool Sheet::Place_Near(const Part& part, const std::vector<Point>& anchors,
                     return true;
                 }
     return false;
+}
+
+// As near to its point as it finds room, on the way that it points or beside it.
+void Sheet::Place_Pointer(const Part& part, const Pointer& pointer) {
+    const Point from = layout_.In_View(pointer.From);
+    const Point way = Along({0, 0}, {pointer.Towards.X, -pointer.Towards.Y}, em_);
+    for (const Care care : Cares())
+        for (double away = 0; away < farthestPointer; away += pointerStep)
+            for (int k = 0; k <= 2 * pointersBeside; ++k) {
+                const double aside = pointerBeside * (k % 2 == 0 ? k / 2 : -(k + 1) / 2);
+                const Point tail{from.X + away * way.X - aside * way.Y,
+                                 from.Y + away * way.Y + aside * way.X};
+                if (Try_Pointer(part, pointer.Label, tail, way, care))
+                    return;
+            }
+    Leave_Out(part, pointer.Label);
+}
+
+// The label stands behind the tail; the way is as long as a line of text is high.
+bool Sheet::Try_Pointer(const Part& part, const std::string& words, Point tail, Point way,
+                        Care care) {
+    const Size size = measure_(words);
+    const double behind =
+        std::min(size.Width / std::abs(way.X), size.Height / std::abs(way.Y)) / 2 + textMargin;
+    const Box place = Text_Box({tail.X - behind * way.X, tail.Y - behind * way.Y}, words);
+    const Point head{tail.X + pointerLength * way.X, tail.Y + pointerLength * way.Y};
+    Box shaft{tail.X, tail.Y, tail.X, tail.Y};
+    shaft.Take_In({head.X, head.Y, head.X, head.Y});
+    if (!Is_Free(place, care) || !Is_Free(shaft, care))
+        return false;
+    Add_Stroke(part, {tail, head}, Weight::Bold, Pattern::Solid);
+    Add_Head(part, head, tail);
+    Add_Text(part, place, words);
+    return true;
+}
+
+void Sheet::Mark_Crossed_Texts() {
+    for (Text& text : layout_.Texts)
+        text.Crossed = std::any_of(
+            layout_.Strokes.begin(), layout_.Strokes.end(), [&text](const Stroke& stroke) {
+                for (std::size_t i = 1; i < stroke.Points.size(); ++i)
+                    if (text.Place.Meets(stroke.Points[i - 1], stroke.Points[i]))
+                        return true;
+                return false;
+            });
 }
 
 void Sheet::Leave_Out(const Part& part, const std::string& words) {

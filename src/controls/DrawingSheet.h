@@ -6,23 +6,28 @@
 #include "controls/DrawingLayout.h"
 
 #include <cstddef>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace Tensarix::Drawn {
 
-// What may be left away for want of room.
-struct Detail {
-    bool Values = true;
-    std::size_t Dimensions = 0; // so many from the last one on are left away
-};
-
 // How much a label keeps clear of besides other texts; the first that finds a place is taken.
 enum class Care {
+    LinesToCome,   // all lines, also where the dimensions yet to be placed may extend theirs
     Everything,    // all lines, and its dimension's extension lines cross no text either
     AllLines,      // these may cross a text
     DimensionLines // and the label lines that aren't of dimensions
 };
-inline constexpr Care cares[] = {Care::Everything, Care::AllLines, Care::DimensionLines};
+inline constexpr Care cares[] = {Care::LinesToCome, Care::Everything, Care::AllLines,
+                                 Care::DimensionLines};
+
+// What may be left away for want of room.
+struct Detail {
+    bool Values = true;
+    std::size_t Dimensions = 0;     // so many from the last one on are left away
+    Care First = Care::LinesToCome; // of the labels; less takes less room
+};
 
 class Sheet {
   public:
@@ -50,21 +55,31 @@ class Sheet {
     void Draw_Outline(const Part& part, const Outline& outline);
     void Draw_Arrow(const Part& part, const Arrow& arrow);
     void Draw_Mark(const Part& part, const Mark& mark);
+    void Draw_Weld(const Part& part, const Weld& weld);
     void Draw_CentreLine(const Part& part, const CentreLine& line);
     void Add_Stroke(const Part& part, std::vector<Point> points, Weight width, Pattern dash);
     void Add_Head(const Part& part, Point tip, Point from);
     std::vector<Point> Circle_Points(Point centre, double radius) const;
 
     // Labels.
+    // In which care a place is looked for, the most careful first.
+    std::span<const Care> Cares() const {
+        return std::span(cares).subspan(static_cast<std::size_t>(detail_.First));
+    }
     Box Text_Box(Point centre, const std::string& words) const;
     void Add_Text(const Part& part, const Box& place, const std::string& words);
     bool Is_Free(const Box& place, Care care) const;
     bool Misses_Texts(const Segment& line) const;
     void Place_Label(const Part& part);
-    bool Place_Near(const Part& part, const std::vector<Point>& anchors, const std::string& words);
+    bool Place_Near(const Part& part, const std::vector<Point>& anchors, const std::string& words,
+                    bool above = false);
+    void Place_Pointer(const Part& part, const Pointer& pointer);
+    bool Try_Pointer(const Part& part, const std::string& words, Point tail, Point way, Care care);
+    void Mark_Crossed_Texts();
     void Leave_Out(const Part& part, const std::string& words);
 
     // Dimensions.
+    void Expect_Dimension(const Part& part, const Dimension& dimension);
     void Place_Dimension(const Part& part, const Dimension& dimension);
     bool Place_Beside(const Run& run, Care care);
     bool Place_Inside(const Run& run, Care care);
@@ -77,6 +92,7 @@ class Sheet {
     // The plot.
     void Draw_Frame(const Axes& axes);
     void Draw_Ticks(const Axes& axes, bool upright);
+    void Draw_Legend(const Axes& axes);
 
     const Drawing& drawing_;
     const TextMeasure& measure_;
@@ -85,8 +101,9 @@ class Sheet {
     double em_;           // the height of a line of text
     Box extent_, things_; // everything; without texts, dimensions and the ends of centre lines
     bool started_ = false;
-    std::vector<Segment> segments_;       // all lines
-    std::vector<Segment> dimensionLines_; // those of dimensions, with their tails
+    std::vector<Segment> segments_;                       // all lines
+    std::vector<Segment> dimensionLines_;                 // those of dimensions, with their tails
+    std::vector<std::pair<const Part*, Segment>> toCome_; // extension lines, far enough out
 };
 
 } // namespace Tensarix::Drawn

@@ -338,7 +338,7 @@ void SectionPen::Draw_Pair() {
     drawing_.Add(Outline{{right}});
     const double y = Figure("Y");
     Axis(xAxis, "X", {-tip, -y}, {tip, -y});
-    Axis(yAxis, "Y", {0, -d}, {0, 0});
+    Axis(yAxis, "Y", {0, 0}, {0, -d}); // its label below: the back of a leg is measured above
     Attempt([&] {
         const double plastic = Row_Value("yp");
         Plastic_Axis("yp", {-tip, -plastic}, {tip, -plastic});

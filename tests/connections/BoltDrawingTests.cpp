@@ -84,8 +84,8 @@ TEST(BoltDrawing, CentresNearAndFar) {
     const Mark centre = Parts_Of<Mark>(drawing, "Centre").at(0);
     EXPECT_LT(centre.At.X, 0); // on the other side of the load
     EXPECT_NEAR(centre.At.Y, 0, 1e-6);
-    const Arrow outside = Parts_Of<Arrow>(drawing, "Search").at(0);
-    EXPECT_LT(outside.Head.X, outside.Tail.X);
+    const Pointer outside = Parts_Of<Pointer>(drawing, "Search").at(0);
+    EXPECT_EQ(outside.Towards, (Point{-1, 0}));
     EXPECT_EQ(outside.Label, "Search outside");
     EXPECT_NE(drawing.Sentence.find("own centre is 1.0E+5 in. left of the centroid"),
               std::string::npos);

@@ -61,6 +61,24 @@ TEST_F(BoltPageTest, ARowIsComputedWhenItsLastInputIsThere) {
     EXPECT_EQ(p.xxFlex.Text(2, 1) + p.ccFlex.Text(2, 1), "");
 }
 
+// The centre is the one that the search for C has found: no drawing would search so long again.
+TEST_F(BoltPageTest, TheDrawingHasTheCentreOfTheSearchForC) {
+    Start();
+    const auto searched = [this](int row) {
+        page->cFlex.Move_To(row, BoltColumn::C);
+        return page->GroupSketch.Shows().Sentence.find("the search's own centre") !=
+               std::string::npos;
+    };
+    Type_Row(2, {"30", "8", "3", "3", "6", "75"}); // 397 passes
+    EXPECT_FALSE(searched(1));
+    EXPECT_TRUE(searched(2));
+    Type(2, 5, "5"); // found anew
+    EXPECT_TRUE(searched(2));
+    page->SaveButton.Click();
+    Start(); // read with its results
+    EXPECT_FALSE(searched(2));
+}
+
 TEST_F(BoltPageTest, TextsThatAreNoNumbersOrOutOfRange) {
     Start();
     struct Case {

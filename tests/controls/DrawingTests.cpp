@@ -77,6 +77,45 @@ TEST(DrawingTest, PointingFindsTheDimensionByItsTextAndByItsLine) {
     EXPECT_EQ(Name_At(layout, {1, 1}, 4), "");
 }
 
+// What lies beyond is pointed at without making the drawing smaller; a weld is a bead as long as
+// it.
+TEST(DrawingTest, PointersAndWeldsHaveTheSizeOfATextAndAreFound) {
+    const Size view{400, 400};
+    for (const Point& towards : {Point{-1, 0}, Point{0.6, 0.8}, Point{0, -1}}) {
+        Drawing plate = Plate();
+        plate.Add(Weld{{3, 0}, {3, 20}}, Ink::Body, "weld");
+        plate.Add(Pointer{{5, 10}, towards, "Search outside"}, Ink::Alert, "Search");
+        const Layout layout = Laid_Out(plate, view);
+        Expect_In_Order(layout, view);
+        int beads = 0;
+        for (const Stroke& stroke : layout.Strokes) {
+            const Point &from = stroke.Points.front(), &to = stroke.Points.back();
+            if (stroke.Name == "Search") {
+                const double length = std::hypot(to.X - from.X, to.Y - from.Y);
+                EXPECT_NEAR(length, 2 * 15, 1e-9);
+                EXPECT_NEAR((to.X - from.X) / length, towards.X, 1e-9);
+                EXPECT_NEAR((from.Y - to.Y) / length, towards.Y, 1e-9);
+            }
+            beads += stroke.Name == "weld" ? 1 : 0;
+        }
+        EXPECT_GT(beads, 20);
+        const Point onWeld = layout.In_View({3, 5});
+        EXPECT_EQ(Name_At(layout, onWeld, 4), "weld");
+    }
+}
+
+// The lines that cross a text after all are interrupted there, and it is told where.
+TEST(DrawingTest, ATextIsCrossedOnlyWhereItSaysSo) {
+    Drawing grate;
+    for (int i = 0; i <= 40; ++i)
+        grate.Add(Line{{0.25 * i, 0}, {0.25 * i, 10}});
+    grate.Add(Label{{5, 5}, "in between"});
+    const Layout layout = Laid_Out(grate, {300, 300});
+    EXPECT_TRUE(layout.Texts.at(0).Crossed);
+    for (const Text& text : Laid_Out(Plate(), {400, 400}).Texts)
+        EXPECT_FALSE(text.Crossed) << text.Words;
+}
+
 TEST(DrawingTest, TheScaleBarHasARoundLength) {
     for (const double size : {0.3, 1.0, 7.0, 44.0, 1118.0}) {
         Drawing square;
@@ -108,7 +147,7 @@ TEST(DrawingTest, ARoundedCornerTouchesBothEdges) {
 
 TEST(DrawingTest, APlotHasRoundNumbersAndItsCurvesInsideItsFrame) {
     Drawing plot{"Load against span."};
-    plot.Frame = Axes{0, 37, 0, 128, "Span (ft)", "w (kip/ft)"};
+    plot.Frame = Axes{0, 37, 0, 128, "Span (ft)", "w (kip/ft)", {{"ASD"}, {"LRFD"}}};
     Curve curve{{}, "LRFD"};
     for (double x = 1; x <= 37; ++x)
         curve.Points.push_back({x, 200 / x});
@@ -118,7 +157,8 @@ TEST(DrawingTest, APlotHasRoundNumbersAndItsCurvesInsideItsFrame) {
     const Layout layout = Laid_Out(plot, view);
     Expect_Texts_Apart(layout, view);
     ASSERT_TRUE(layout.Plot);
-    EXPECT_TRUE(layout.Plot->Contains(Text_Of(layout, "now")->Place));
+    for (const char* name : {"now", "ASD"})
+        EXPECT_TRUE(layout.Plot->Contains(Text_Of(layout, name)->Place)) << name;
     EXPECT_NEAR(layout.In_View({37, 128}).X, layout.Plot->Right, 1e-9);
     EXPECT_NEAR(layout.In_View({37, 128}).Y, layout.Plot->Top, 1e-9);
     EXPECT_EQ(layout.Texts.front().Words, "0");

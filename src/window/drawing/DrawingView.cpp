@@ -42,9 +42,20 @@ Qt::PenStyle Pen_Style(Drawn::Pattern pattern) {
         return Qt::DashLine;
     case Drawn::Pattern::DashDot:
         return Qt::DashDotLine;
+    case Drawn::Pattern::Dotted:
+        return Qt::DotLine;
     default:
         return Qt::SolidLine;
     }
+}
+
+// Lines are interrupted where they would run through a text.
+QRegion Apart_From_Texts(const Drawn::Layout& layout, QRect whole) {
+    QRegion region(whole);
+    for (const Drawn::Text& text : layout.Texts)
+        if (text.Crossed)
+            region -= To_Qt(text.Place).toAlignedRect();
+    return region;
 }
 
 } // namespace
@@ -96,9 +107,10 @@ void DrawingView::paintEvent(QPaintEvent*) {
     for (const Drawn::Fill& fill : layout.Fills)
         if (fill.Tint)
             Paint_Fill(painter, fill);
+    const QRegion apart = Apart_From_Texts(layout, rect());
+    const QRegion plot = layout.Plot ? apart & To_Qt(*layout.Plot).toAlignedRect() : apart;
     for (const Drawn::Stroke& stroke : layout.Strokes) {
-        painter.setClipRect(layout.Plot ? To_Qt(*layout.Plot) : QRectF(rect()));
-        painter.setClipping(stroke.InPlot);
+        painter.setClipRegion(stroke.InPlot ? plot : apart);
         Paint_Stroke(painter, stroke);
     }
     painter.setClipping(false);

@@ -116,6 +116,8 @@ QVariant GridModel::Cell(int row, int col, int role) const {
         return To_Qt(grid_.Text(row, col));
     case Qt::TextAlignmentRole: {
         const bool wraps = row < grid_.FixedRows() && grid_.Word_Wrap();
+        if (col < grid_.FixedCols() && Has_Unsafe(row)) // beside its sign
+            return QVariant(Qt::AlignRight | Qt::AlignVCenter);
         return static_cast<int>(Shown_Alignment(style.Align).toInt()) |
                (wraps ? Qt::TextWordWrap : 0);
     }

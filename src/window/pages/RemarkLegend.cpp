@@ -13,6 +13,7 @@ namespace Tensarix {
 namespace {
 
 constexpr int wordsWidth = 52; // average characters
+constexpr int cellMargin = 4;  // pixels
 
 struct Entry {
     RemarkWeight Weight;
@@ -46,10 +47,12 @@ QPixmap Cells(RemarkWeight weight, const QWidget& widget) {
     painter.setPen(palette.color(QPalette::Text));
     painter.drawRect(number.adjusted(0, 0, 0, -1));
     painter.drawRect(value.adjusted(0, 0, 0, -1));
-    painter.drawText(number, Qt::AlignCenter, QStringLiteral("3"));
+    const bool sign = weight == RemarkWeight::Unsafe;
+    const int side = sign ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter;
+    painter.drawText(number.adjusted(0, 0, -cellMargin, 0), side, QStringLiteral("3"));
     painter.drawText(value, Qt::AlignCenter, QStringLiteral("3.000"));
     Paint_Remark_Mark(painter, value, weight, palette);
-    if (weight == RemarkWeight::Unsafe)
+    if (sign)
         Paint_Unsafe_Sign(painter, number, palette);
     return pixmap;
 }
@@ -66,9 +69,9 @@ RemarkLegend::RemarkLegend(QWidget* parent) : QDialog(parent) {
         picture->setPixmap(Cells(entry.Weight, *this));
         picture->setAccessibleName(QStringLiteral("How it looks"));
         layout->addWidget(picture, row, 0);
-        auto* words = new QLabel(
-            QStringLiteral("%1: %2").arg(QLatin1String(entry.Name), QLatin1String(entry.Words)),
-            this);
+        auto* words = new QLabel(QStringLiteral("<b>%1</b>: %2")
+                                     .arg(QLatin1String(entry.Name), QLatin1String(entry.Words)),
+                                 this);
         words->setWordWrap(true);
         words->setMinimumWidth(wordsWidth * words->fontMetrics().averageCharWidth());
         layout->addWidget(words, row++, 1);
