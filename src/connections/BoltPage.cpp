@@ -129,8 +129,8 @@ void BoltPage::Save_Settings() const {
 }
 
 void BoltPage::Init_cFlex() {
-    // Heads wrap: what the table doesn't need is the drawing's.
-    constexpr double numberWidth = 550, usualWidth = 1150;
+    // For heads of three lines: what the table doesn't need is the drawing's.
+    const double widths[BoltColumn::Count] = {550, 1300, 1300, 1250, 1250, 1100, 1500, 1150, 1150};
     const char* heads[BoltColumn::Count] = {"No.",
                                             "Number of Bolt Rows on the Vertical",
                                             "Number of Bolt Rows on the Horizontal",
@@ -147,7 +147,7 @@ void BoltPage::Init_cFlex() {
     cFlex.Set_Row_Height_Min(350);
     cFlex.Set_Word_Wrap(true);
     for (int col = 0; col < BoltColumn::Count; ++col) {
-        cFlex.Set_Col_Width(col, col == BoltColumn::Number ? numberWidth : usualWidth);
+        cFlex.Set_Col_Width(col, widths[col]);
         cFlex.Set_Style(0, col, headStyle);
         cFlex.Set_Text(0, col, heads[col]);
     }

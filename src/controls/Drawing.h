@@ -28,6 +28,7 @@ enum class Ink : std::uint8_t {
     Force,   // loads and forces
     Result,  // what was computed: a centre, the present point
     Quiet,   // what stands behind
+    Grid,    // of a plot
     Alert    // what must not be overlooked
 };
 

@@ -62,7 +62,7 @@ void Sheet::Draw_Ticks(const Axes& axes, bool upright) {
             layout_.In_View(upright ? Point{axes.XFrom, k * step} : Point{k * step, axes.YFrom});
         const Point end =
             layout_.In_View(upright ? Point{axes.XTo, k * step} : Point{k * step, axes.YTo});
-        layout_.Strokes.push_back({{at, end}, Ink::Quiet, Weight::Thin, Pattern::Dashed, {}});
+        layout_.Strokes.push_back({{at, end}, Ink::Grid, Weight::Thin, Pattern::Solid, {}});
         const Size size = measure_(words);
         const Point centre = upright ? Point{at.X - tickGap * em_ - size.Width / 2, at.Y}
                                      : Point{at.X, at.Y + tickGap * em_ + size.Height / 2};

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double edgeRoom = 3; // pixels between the drawing and the edge of the view
 constexpr int mostTries = 12;  // to find the scale at which all fits
-constexpr double scaleStep = 0.92;
+constexpr double scaleStep = 0.92, largePart = 0.6, muchLarger = 1.25;
 constexpr double leastPart = 0.25;    // of the scale without texts; below it, the values go
 constexpr double leastPartBare = 0.2; // below it, dimensions go
 constexpr double barRoom = 2.1, barPart = 0.25, barTick = 0.25, barGap = 0.4; // lines; of the view
@@ -121,47 +121,43 @@ Fitted Try(const Drawing& drawing, const Layout& scaled, Size room, const TextMe
 
 // Makes the drawing smaller by what its texts reach over the room, until all is inside. As a
 // smaller one may have its texts in other places and so need more room, the scales that were jumped
-// over are tried then. False: it would have to be smaller than the least part of what the room
-// alone allows.
-bool Fit(const Drawing& drawing, Size room, const TextMeasure& measure, Detail detail, double least,
-         Layout& fitted) {
+// over are tried then. Gives the part of the scale that the room alone allows; 0 if that would have
+// to be less than the least, or anything is left out.
+double Fit(const Drawing& drawing, Size room, const TextMeasure& measure, Detail detail,
+           double least, Layout& fitted) {
     const Box bounds = Bounds_Of(drawing);
     const bool plot = drawing.Frame.has_value();
     Layout whole;
     Set_Scale(whole, bounds, room, plot);
-    const auto part = [&](const Layout& layout) {
-        return std::max(layout.XScale / whole.XScale, layout.YScale / whole.YScale);
-    };
-    bool found = false;
-    double reached = least;
+    double reached = 0;
     Size body = room;
-    for (int i = 0; i < mostTries && !found; ++i) {
+    for (int i = 0; i < mostTries && reached == 0; ++i) {
         Layout scaled;
         Set_Scale(scaled, bounds, body, plot);
-        if (part(scaled) < least)
+        const double part = std::max(scaled.XScale / whole.XScale, scaled.YScale / whole.YScale);
+        if (part < least)
             break;
         Fitted tried = Try(drawing, scaled, room, measure, detail);
         fitted = std::move(tried.Laid);
-        found = tried.Fits();
-        reached = part(scaled);
+        reached = tried.Fits() ? part : 0;
         const double width = (bounds.Right - bounds.Left) * scaled.XScale;
         const double height = (bounds.Top - bounds.Bottom) * scaled.YScale;
         const Size over = tried.Over;
         body = {std::min(body.Width, over.Width > 0 ? width - over.Width - 1 : body.Width),
                 std::min(body.Height, over.Height > 0 ? height - over.Height - 1 : body.Height)};
     }
-    for (double scale = scaleStep; scale > (found ? reached / scaleStep : least) && !plot;
-         scale *= scaleStep) {
+    const double smallest = std::max(least, reached / scaleStep);
+    for (double part = scaleStep; part > smallest && !plot; part *= scaleStep) {
         Layout scaled;
-        Set_Scale(scaled, bounds, {scale * room.Width, scale * room.Height}, false);
+        Set_Scale(scaled, bounds, {part * room.Width, part * room.Height}, false);
         Fitted tried = Try(drawing, scaled, room, measure, detail);
-        if (!tried.Fits())
-            continue;
-        fitted = std::move(tried.Laid);
-        found = true;
-        break;
+        if (tried.Fits()) {
+            fitted = std::move(tried.Laid);
+            reached = part;
+            break;
+        }
     }
-    return found && fitted.LeftOut.empty();
+    return fitted.LeftOut.empty() ? reached : 0;
 }
 
 std::size_t Dimensions_Of(const Drawing& drawing) {
@@ -173,13 +169,21 @@ std::size_t Dimensions_Of(const Drawing& drawing) {
 
 // All of it where there is room, else as much of it as there is room for.
 Layout Fit_What_Fits(const Drawing& drawing, Size room, const TextMeasure& measure) {
-    Layout layout;
-    for (const Care care : {Care::LinesToCome, Care::Everything})
-        if (Fit(drawing, room, measure, {true, 0, care}, leastPart, layout))
-            return layout;
+    Layout layout, closer;
+    const double careful =
+        Fit(drawing, room, measure, {true, 0, Care::LinesToCome}, leastPart, layout);
+    if (careful > largePart)
+        return layout;
+    // Lines that cross a text are worth it where the drawing gets a good deal larger by that.
+    const double plain =
+        Fit(drawing, room, measure, {true, 0, Care::Everything}, leastPart, closer);
+    if (plain > muchLarger * careful)
+        return closer;
+    if (careful > 0)
+        return layout;
     const std::size_t all = Dimensions_Of(drawing);
     for (std::size_t without = 0; without < all; ++without)
-        if (Fit(drawing, room, measure, {false, without}, leastPartBare, layout))
+        if (Fit(drawing, room, measure, {false, without}, leastPartBare, layout) > 0)
             return layout;
     Fit(drawing, room, measure, {false, all}, 0, layout);
     return layout;

@@ -29,7 +29,8 @@ constexpr InkColours inkColours[] = {
     {0x6B6B6B, 0xA8A8A8}, // Axis
     {0x6A3FA0, 0xC3A5F0}, // Force
     {0x1E6E34, 0x7FD08A}, // Result
-    {0xA0A0A0, 0x6E6E6E}, // Quiet
+    {0x868686, 0x8C8C8C}, // Quiet
+    {0xD2D2D2, 0x464A4E}, // Grid
     {0xA34A00, 0xFFB454}, // Alert
 };
 

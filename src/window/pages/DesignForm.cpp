@@ -50,6 +50,8 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
              QStringLiteral("Bolt group input"));
     Bind(ui.ccFlex, page.ccFlex);
     Bind(ui.xxFlex, page.xxFlex);
+    ui.cFlex->Show_All_Columns(); // and leaves the rest to the drawing
+    ui.cFlex->Take_What_Is_Needed();
     Show_Whole(ui.ccFlex);
     Show_Whole(ui.xxFlex);
     Bind(ui.GroupSketch, page.GroupSketch);

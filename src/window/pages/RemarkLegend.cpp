@@ -69,7 +69,7 @@ RemarkLegend::RemarkLegend(QWidget* parent) : QDialog(parent) {
         picture->setPixmap(Cells(entry.Weight, *this));
         picture->setAccessibleName(QStringLiteral("How it looks"));
         layout->addWidget(picture, row, 0);
-        auto* words = new QLabel(QStringLiteral("<b>%1</b>: %2")
+        auto* words = new QLabel(QStringLiteral("%1: %2")
                                      .arg(QLatin1String(entry.Name), QLatin1String(entry.Words)),
                                  this);
         words->setWordWrap(true);
