@@ -69,7 +69,7 @@ TEST(BeamDrawings, TheBeamTellsLoadSpanReactionsShearAndMoment) {
     EXPECT_EQ(
         places,
         (std::vector<std::array<double, 3>>{
-            {0, 25, 25}, {-0.4375, 0.4375, 0}, {24.5625, 25.4375, 25}, {0, 25, 0}, {0, 25, 12.5}}));
+            {0, 25, 25}, {-0.375, 0.375, 0}, {24.625, 25.375, 25}, {0, 25, 0}, {0, 25, 12.5}}));
     EXPECT_NE(drawing.Sentence.find("w = 3.39 Kip/ft, end reaction R = 48.71"), std::string::npos);
     // Nothing chosen: the beam without a number.
     EXPECT_EQ(Words_Of(Beam_Under_Load({}, 0), "w"), "w");
