@@ -69,9 +69,9 @@ RemarkLegend::RemarkLegend(QWidget* parent) : QDialog(parent) {
         picture->setPixmap(Cells(entry.Weight, *this));
         picture->setAccessibleName(QStringLiteral("How it looks"));
         layout->addWidget(picture, row, 0);
-        auto* words = new QLabel(QStringLiteral("%1: %2")
-                                     .arg(QLatin1String(entry.Name), QLatin1String(entry.Words)),
-                                 this);
+        auto* words = new QLabel(
+            QStringLiteral("%1: %2").arg(QLatin1String(entry.Name), QLatin1String(entry.Words)),
+            this);
         words->setWordWrap(true);
         words->setMinimumWidth(wordsWidth * words->fontMetrics().averageCharWidth());
         layout->addWidget(words, row++, 1);
