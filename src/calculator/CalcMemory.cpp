@@ -40,10 +40,8 @@ std::string To_Utf8(const std::string& text) {
     return result;
 }
 
-// The description that a file cut short still holds.
+// The description that a file cut short still holds. Fails where it holds none.
 std::string Rest_Of_Description(ByteReader& reader) {
-    if (reader.Left() <= 2)
-        return {};
     reader.Int16();
     std::string text = reader.Text(reader.Left());
     std::string whole = text;

@@ -91,6 +91,23 @@ TEST_F(GridWindowTest, TheEditorLiesOverItsCellAndSaysWhereItIs) {
     EXPECT_EQ(program->Form().Shared.StatBar.Remark(), "Type the decimal point as .");
 }
 
+TEST(GridModel, ARepaintTellsOfEveryRowThereIs) {
+    for (const int rows : {1, 2}) {
+        FlexGrid grid;
+        grid.Set_Rows(rows + 1);
+        grid.Set_Cols(2);
+        grid.Set_Fixed(1, 0);
+        GridModel model(grid, nullptr);
+        model.Reset();
+        int told = 0;
+        QObject::connect(
+            &model, &GridModel::dataChanged,
+            [&told](const auto& from, const auto& to) { told += to.row() - from.row() + 1; });
+        model.Repaint();
+        EXPECT_EQ(told, rows);
+    }
+}
+
 TEST_F(GridWindowTest, AScreenReaderIsToldEachMoveOnce) {
     To(Mode::ViewAll);
     FlexGrid& grid = program->Form().ViewAll.xShapeFlex;
