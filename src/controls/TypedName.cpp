@@ -35,7 +35,7 @@ std::string Fraction_Decimals(std::string_view numerator, std::string_view text,
         return {};
     std::size_t end = at + 1;
     const int parts = Small_Number(Digits(text, end)), of = Small_Number(numerator);
-    if (of == 0 || parts <= of || smallestPart % parts != 0)
+    if (of <= 0 || parts <= of || smallestPart % parts != 0)
         return {};
     at = end;
     std::string decimals;

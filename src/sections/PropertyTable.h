@@ -61,6 +61,7 @@ struct Layout {
 };
 
 namespace Layouts {
+// NOLINTNEXTLINE(readability-identifier-naming): as the families are called
 extern const Layout W, S, C, WT, ST, HSSRec, HSSSqr, HSSRnd, Pipe, SAngle, EqDAngle, UnEqDAngle;
 }
 

@@ -31,16 +31,16 @@ Travel::Travel(MainFrm& form) : form_(form) {
     mnuShowBrowse.Set_Caption("Show on Browse");
     mnuShowBeam.Set_Caption("Show on Beam Load");
     mnuShowWeights.Set_Caption("Show on Weights");
-    const auto with_current = [this](auto act) {
+    const auto withCurrent = [this](auto act) {
         return [this, act] {
             if (const std::optional<SectionPlace> place = Current())
                 act(*place);
         };
     };
-    mnuShowBrowse.OnClick = with_current([this](SectionPlace place) { Show(Mode::Browse, place); });
-    mnuShowBeam.OnClick = with_current([this](SectionPlace place) { Show(Mode::BeamLoad, place); });
+    mnuShowBrowse.OnClick = withCurrent([this](SectionPlace place) { Show(Mode::Browse, place); });
+    mnuShowBeam.OnClick = withCurrent([this](SectionPlace place) { Show(Mode::BeamLoad, place); });
     mnuShowWeights.OnClick =
-        with_current([this](SectionPlace place) { form_.Show_Weights_Of(place); });
+        withCurrent([this](SectionPlace place) { form_.Show_Weights_Of(place); });
     Wire(form.Find.fShapeFlex);
     Wire(form.ViewAll.xShapeFlex);
     for (const auto& [family, us, si] :

@@ -19,7 +19,7 @@ constexpr BeamSection w21x44{95.4, 81.6, 20.7, 0.35, 53.6, 7.22};
 constexpr BeamSection w44x230{1100, 971, 42.9, 0.71, 54.8, 6.45};
 constexpr BeamSection w14x99{173, 157, 14.2, 0.485, 23.5, 9.34};
 constexpr BeamSection w6x15{10.8, 9.72, 5.99, 0.23, 21.2, 11.5};
-constexpr BeamSection mc12x10_6{11.6, 9.22, 12, 0.19, 57.3};
+constexpr BeamSection mc12x10p6{11.6, 9.22, 12, 0.19, 57.3};
 
 enum Edition { Ninth, ASD, LRFD };
 
@@ -212,7 +212,7 @@ TEST(BeamRules, WorkedByHand) {
         // share (11.5 - 9.1516) / 14.9316 of 45 - 28.35: 0.9 Mn = 0.9 x 42.3813 = 38.143
         {"not compact", LRFD, w6x15, 50, 20, 3.69149, 7.62864, 0.762864},
         // a channel counts as an I-shape
-        {"channel", LRFD, mc12x10_6, 36, 20, 2.54386, 6.26400, 0.626400},
+        {"channel", LRFD, mc12x10p6, 36, 20, 2.54386, 6.26400, 0.626400},
     };
     for (const Case& c : cases) {
         const BeamLoad load =

@@ -18,7 +18,7 @@
 namespace Tensarix {
 namespace {
 
-const double FarthestBolt = std::pow(1 - std::exp(-3.4), 0.55);
+const double farthestBolt = std::pow(1 - std::exp(-3.4), 0.55);
 
 // In the frame of the group: forces square to the radius from the centre, against the load that
 // points down, turned clockwise by the angle, through a point at ex beside the centroid.
@@ -68,8 +68,8 @@ double C_Of(const std::optional<Balance>& balance) {
 }
 
 TEST(BalancedBolts, EdgesOfTheGroup) {
-    EXPECT_NEAR(C_Of(Balanced_Bolts({3, 2, 3, 3}, 0, 30)), 6 * FarthestBolt, 1e-9);
-    EXPECT_NEAR(C_Of(Balanced_Bolts({3, 2, 3, 3}, 9, 90)), 6 * FarthestBolt, 1e-6);
+    EXPECT_NEAR(C_Of(Balanced_Bolts({3, 2, 3, 3}, 0, 30)), 6 * farthestBolt, 1e-9);
+    EXPECT_NEAR(C_Of(Balanced_Bolts({3, 2, 3, 3}, 9, 90)), 6 * farthestBolt, 1e-6);
     EXPECT_EQ(C_Of(Balanced_Bolts({1, 1, 3, 3}, 9, 0)), 0);
     EXPECT_FALSE(Balanced_Bolts({0, 4, 3, 3}, 9, 0));
     EXPECT_FALSE(Balanced_Bolts({-2, -2, 3, 3}, 9, 0));
@@ -124,19 +124,19 @@ Carried Carried_About(const Balance& centre, int item, double L, double kL, doub
     const double theta = degrees * pi / 180, px = std::sin(theta), py = std::cos(theta);
     const double side = aL * py < 0 ? -1 : 1; // the way the group turns
     double turn = 1e9;
-    const auto angle_of = [](const Piece& p, double dx, double dy) {
+    const auto angleOf = [](const Piece& p, double dx, double dy) {
         return std::asin(std::min(1.0, std::abs(dx * p.tx + dy * p.ty) / std::hypot(dx, dy)));
     };
     for (const Piece& p : pieces) {
         const double dx = p.x - xc / total - centre.X, dy = p.y - yc / total - centre.Y;
-        const double limit = 1.087 * std::pow(angle_of(p, dx, dy) * 180 / pi + 6, -0.65);
+        const double limit = 1.087 * std::pow(angleOf(p, dx, dy) * 180 / pi + 6, -0.65);
         turn = std::min(turn, std::min(limit, 0.17) / std::hypot(dx, dy));
     }
     double fx = 0, fy = 0, moment = 0;
     for (const Piece& p : pieces) {
         const double x = p.x - xc / total, y = p.y - yc / total;
         const double dx = x - centre.X, dy = y - centre.Y;
-        const double r = std::hypot(dx, dy), a = angle_of(p, dx, dy);
+        const double r = std::hypot(dx, dy), a = angleOf(p, dx, dy);
         const double d = turn * r / (0.209 * std::pow(a * 180 / pi + 2, -0.32));
         const double R = side * 0.6 * 70 * 0.707106781 / 16 * p.length *
                          (1 + 0.5 * std::pow(std::sin(a), 1.5)) *

@@ -166,6 +166,12 @@ TEST(SolveWeldGroup, AbsurdNumbersFailOrEndOrCanBeGivenUp) {
     }
 }
 
+TEST(ConcentricWeldCapacity, ALengthBeyondTheRangeCountsAsTheOneBefore) {
+    const WeldLine line{0, 0, 10, 0, 0}, beyond{0, 0, 1e200, 0, 0};
+    EXPECT_EQ(ConcentricWeldCapacity({beyond}), 0);
+    EXPECT_EQ(ConcentricWeldCapacity({line, beyond}), 2 * ConcentricWeldCapacity({line}));
+}
+
 TEST(WeldLines, AreOrderedAndTheShortOnesDropped) {
     WeldBench bench;
     std::vector<WeldLine> lines{{5, 9, 5, 1}, {4, 2, 1, 2}, {0, 0, 0.1, 0}, {0, 0, 0, 0.11}};

@@ -179,12 +179,12 @@ TEST(SectionDrawingTest, LabelsHaveRoomOfTheirOwnOnEverySection) {
         if (count++ % Tests::walkStep != 0)
             return;
         const std::string name = record.Text("AISC_Manual_Label");
-        const auto laid_out = [&](Profile units, double width) {
+        const auto laidOut = [&](Profile units, double width) {
             return Lay_Out(Full(record, family, units), view, [width](const std::string& words) {
                 return Size{width * static_cast<double>(words.size()), 2.2 * width};
             });
         };
-        const Drawn::Layout usual = laid_out(Profile::US, 6.8), large = laid_out(Profile::SI, 9.5);
+        const Drawn::Layout usual = laidOut(Profile::US, 6.8), large = laidOut(Profile::SI, 9.5);
         SCOPED_TRACE(name);
         Tests::Expect_Texts_Apart(usual, view);
         Tests::Expect_Texts_Apart(large, view);

@@ -12,7 +12,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-struct Dialogs_At_Work final : NoDialogs {
+struct DialogsAtWork final : NoDialogs {
     std::function<void(AnySectionFrm&)> InField;
     std::vector<SectionPlace> Weighed;
     void Show_AnySectionFrm(AnySectionFrm& form) override { InField(form); }
@@ -22,7 +22,7 @@ struct Dialogs_At_Work final : NoDialogs {
 // A program with the read-out on, of which everything that a user could notice is noted.
 struct Running {
     TestMachine Desk;
-    Dialogs_At_Work Opened;
+    DialogsAtWork Opened;
     MainFrm Form{Desk.Host, Opened};
 
     Running() {

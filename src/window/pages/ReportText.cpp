@@ -28,6 +28,7 @@ class ReportText final : public QAccessibleWidget, public QAccessibleTextInterfa
         return state;
     }
 
+    using QAccessibleWidget::text;
     int characterCount() const override {
         const int last = view_.Lines() - 1;
         return view_.Start_Of(last) + static_cast<int>(view_.Line(last).size());
