@@ -63,7 +63,7 @@ struct Layout {
 namespace Layouts {
 // NOLINTNEXTLINE(readability-identifier-naming): as the families are called
 extern const Layout W, S, C, WT, ST, HSSRec, HSSSqr, HSSRnd, Pipe, SAngle, EqDAngle, UnEqDAngle;
-}
+} // namespace Layouts
 
 // The text of a value, as it stands in the cell. Fails where the column is missing, Null, or holds
 // a text where a number is needed. The style has no effect under SI.

@@ -7,8 +7,14 @@ using namespace Tensarix;
 TEST(Normalisers, Symbols) {
     const std::pair<const char*, const char*> cases[] = {
         // clang-format off
-        {"Ix", "I X"}, {" A ", "AREA"}, {"[beta]", "BETA"}, {"h/tw", "H OVER T W"},
-        {"h / tw", "H OVER T W"}, {"bf/2tf", "BF OVER 2 TF"}, {"tan alpha", "TANGENT ALPHA"},
+        {"[beta]", "BETA"}, {"aisc", "A I S C"}, {" A ", "AREA"}, {"Wt", "WEIGHT"},
+        {"Wno", "W N O"}, {"Iy", "I Y"}, {"Ix", "I X"}, {"Zy", "Z Y"}, {"Sy", "S Y"},
+        {"ry", "R Y"}, {"ro", "R O"}, {"Qs", "Q S"}, {"yp", "Y P"}, {"eo", "E O"},
+        {"h / tw", "H OVER T W"}, {"h/tw", "H OVER T W"}, {"bf / 2tf", "BF OVER 2 TF"},
+        {"bf/2tf", "BF OVER 2 TF"}, {"b / t", "B OVER T"}, {"b/t", "B OVER T"},
+        {"h / t", "H OVER T"}, {"h/t", "H OVER T"}, {"D / t", "D OVER T"}, {"D/t", "D OVER T"},
+        {"kdes", "K DESIGN"}, {"kdet", "K DETAIL"}, {"tdes", "T DESIGN"}, {"tnom", "T NOMINAL"},
+        {"tan alpha", "TANGENT ALPHA"}, {"ID", "INSIDE DIAMETER"}, {"OD", "OUTSIDE DIAMETER"},
         {"W12x50", "W12x50"}, {" Cw ", " Cw "}, {"2.5x10^6", "2.5 :: TIMES 10 TO THE POWER 6"},
         {"2.5X10^6", "2.5X10^6"}, {"1'-4 3/8\"", "One Foot and Four and Three-Eights Inches"},
         {"-3/8\"", "(Three-Eights Inch)"},
@@ -26,7 +32,13 @@ TEST(Normalisers, Units) {
         {"in^2", "1.00", "SQUARE INCH"}, {"in^2", "1.01", "SQUARE INCHES"},
         {"in^2", "0.5", "SQUARE INCH"}, {" lb/ft ", "50", "POUNDS PER FOOT"},
         {"kg/m", "x", "KILOGRAM PER METER"}, {"in.", "2 1/2", "INCHES"},
-        {"in^6", "12", "INCHES TO THE POWER 6"}, {"mm^4", "0", "MM TO THE POWER 4"},
+        {"in^3", "2", "INCHES TO THE POWER 3"}, {"in^4", "1", "INCH TO THE POWER 4"},
+        {"in^5", "2", "INCHES TO THE POWER 5"}, {"in^6", "12", "INCHES TO THE POWER 6"},
+        {"mm", "2", "MM"}, {"mm^2", "1", "SQUARE MM"}, {"mm^3", "2", "MM TO THE POWER 3"},
+        {"mm^4", "0", "MM TO THE POWER 4"}, {"mm^6", "3", "MM TO THE POWER 6"},
+        {"mm^3/10^3", "7", "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 3"},
+        {"mm^4/10^3", "7", "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 4"},
+        {"mm^6/10^9", "7", "DIVIDED BY 10 TO THE POWER 9 MM TO THE POWER 6"},
         {"mm^4/10^6", "7", "DIVIDED BY 10 TO THE POWER 6 MM TO THE POWER 4"},
         {"in", "1e999", "INCH"}, // the value can't be read, so it stays 0
         {"ksi", "50", ""}, {"", "2", ""},
