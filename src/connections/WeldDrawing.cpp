@@ -199,7 +199,7 @@ bool WeldPasses::Is_Plot_Due(double now) {
 }
 
 Drawing Weld_Search_Plot(const WeldPasses& passes) {
-    Drawing drawing;
+    Drawing drawing{"Here the iteration draws Fy[v] and Fy[m] against Ro"};
     const std::vector<WeldPassLoads>& kept = passes.Kept();
     if (kept.size() < 2 || !(kept.back().Ro > 0))
         return drawing;

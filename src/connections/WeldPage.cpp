@@ -62,6 +62,7 @@ void WeldPage::Initialize_WeldRoutines() {
     Initialize_WeldView();
     Initialize_WeldStripBox();
     Initialize_WeldFlex();
+    SearchPlot.Set_Drawing(Weld_Search_Plot(passes_));
 }
 
 void WeldPage::Initialize_WeldView() {
@@ -161,7 +162,7 @@ void WeldPage::Empty_Report() {
     BalancedBox.Set_Text({});
     CBox.Set_Remark({});
     passes_.Clear();
-    SearchPlot.Set_Drawing({});
+    SearchPlot.Set_Drawing(Weld_Search_Plot(passes_));
     ElapsedIndicator.Set_Caption({});
 }
 

@@ -10,6 +10,7 @@ namespace {
 // In heights of a line of text.
 constexpr double headLength = 0.55;
 constexpr double leastBetweenHeads = 2.4; // of a line whose heads stand between its ends
+constexpr double offCentre = 4;           // of a label's width: a line that can have it off centre
 constexpr double firstGap = 0.95, laneStep = 0.3, leastBetweenLines = 0.55;
 constexpr double tailLength = 1.1, tailStep = 0.5, longestTail = 7;
 constexpr double extensionGap = 0.15, extensionEnd = 0.25, textGap = 0.3;
@@ -114,7 +115,11 @@ bool Sheet::Try(const Run& run, double across, double tail, Care care) {
 // Where the label may stand, the best first: in the line, behind its ends, beside it.
 std::vector<Point> Sheet::Label_Centres(const Run& run, double across, double tail) const {
     const double middle = (run.From + run.To) / 2, gap = textGap * em_;
-    if (run.To - run.From > run.Label.Width + (2 * headLength + 4 * textGap) * em_)
+    const double length = run.To - run.From;
+    if (detail_.First != Care::LinesToCome && length > offCentre * run.Label.Width)
+        return {run.At(middle, across), run.At(middle - length / 4, across),
+                run.At(middle + length / 4, across)};
+    if (length > run.Label.Width + (2 * headLength + 4 * textGap) * em_)
         return {run.At(middle, across)};
     const bool inside = std::get<Dimension>(run.Of.What).At == Side::Inside;
     const Point beside =
@@ -134,16 +139,16 @@ Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
     const auto line = [&](double from, double to) {
         proposal.Lines.push_back({run.At(from, across), run.At(to, across)});
     };
-    const double middle = (run.From + run.To) / 2;
     const double label = run.Upright ? labelCentre.Y : labelCentre.X;
+    const bool inLine = labelCentre == run.At(label, across);
     if (run.Pinched) { // the tail under the label as long as it has to be
         line(run.From - (label < run.From ? tail : tailLength * em_), run.From);
         line(run.From, run.To);
         line(run.To, run.To + (label > run.To ? tail : tailLength * em_));
-    } else if (labelCentre == run.At(middle, across)) {
+    } else if (inLine && run.From < label && label < run.To) {
         const double half = run.Label.Width / 2 + textGap * em_;
-        line(run.From, middle - half);
-        line(middle + half, run.To);
+        line(run.From, label - half);
+        line(label + half, run.To);
     } else {
         line(label < run.From ? run.From - tail : run.From,
              label > run.To ? run.To + tail : run.To); // as far as its label

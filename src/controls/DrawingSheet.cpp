@@ -206,10 +206,15 @@ void Sheet::Add_Stroke(const Part& part, std::vector<Point> points, Weight width
          layout_.Plot.has_value() && std::holds_alternative<Curve>(part.What)});
 }
 
-// The head of an arrow whose tip is at a point and which comes from another one.
+// The head of an arrow whose tip is at a point and which comes from another one. A short arrow has
+// a small one, so that its length can still be seen.
 void Sheet::Add_Head(const Part& part, Point tip, Point from) {
-    const Point foot = Along(tip, from, headLength * em_);
-    const Point half = Along({0, 0}, {-(foot.Y - tip.Y), foot.X - tip.X}, headHalfWidth * em_);
+    constexpr double mostOfArrow = 0.6;
+    const double length =
+        std::min(headLength * em_, mostOfArrow * std::hypot(from.X - tip.X, from.Y - tip.Y));
+    const Point foot = Along(tip, from, length);
+    const Point half =
+        Along({0, 0}, {-(foot.Y - tip.Y), foot.X - tip.X}, headHalfWidth / headLength * length);
     layout_.Fills.push_back(
         {{{tip, {foot.X + half.X, foot.Y + half.Y}, {foot.X - half.X, foot.Y - half.Y}}},
          part.In,

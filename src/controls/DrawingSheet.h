@@ -25,8 +25,10 @@ inline constexpr Care cares[] = {Care::LinesToCome, Care::Everything, Care::AllL
 // What may be left away for want of room.
 struct Detail {
     bool Values = true;
-    std::size_t Dimensions = 0;     // so many from the last one on are left away
-    Care First = Care::LinesToCome; // of the labels; less takes less room
+    std::size_t Dimensions = 0; // so many from the last one on are left away
+    // Of the labels. Less takes less room, also because one may then stand off the middle of its
+    // dimension.
+    Care First = Care::LinesToCome;
 };
 
 class Sheet {
