@@ -20,6 +20,13 @@ TEST(NumberWords, NumbersWithTheirBlanks) {
     };
     for (const auto& [value, words] : cases)
         EXPECT_EQ(Number_To_Words(value), words) << value;
+    std::string all;
+    for (int number = 1; number < 100; number += number < 20 ? 1 : 10)
+        all += Number_To_Words(number);
+    EXPECT_EQ(all,
+              "One Two Three Four Five Six Seven Eight Nine Ten Eleven Twelve Thirteen Fourteen "
+              "Fifteen Sixteen Seventeen Eighteen Nineteen Twenty Thirty Forty Fifty Sixty "
+              "Seventy Eighty Ninety ");
     EXPECT_NO_THROW(Number_To_Words(1.25e300));
     EXPECT_EQ(Group_To_Words("001", 8), " One Infinitillion");
 }
@@ -47,6 +54,8 @@ TEST(NumberWords, Ordinals) {
     const std::tuple<std::int16_t, std::int16_t, const char*> cases[] = {
         {1, 1, "First"},          {2, 1, "Half"},
         {2, 3, "Halves"},         {3, 2, "Thirds"},
+        {4, 1, "Fourth"},         {5, 2, "Fifths"},
+        {6, 1, "Sixth"},          {7, 1, "Seventh"},
         {8, 1, "Eight"},          {8, 3, "Eights"},
         {9, 1, "Ninth"},          {12, 1, "Twelfth"},
         {16, 1, "Sixteenth"},     {16, 3, "Sixteenths"},

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <sstream>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -201,20 +202,25 @@ TEST(FindSearch, EveryListedDepthIsFound) {
 }
 
 TEST(FindSearch, UnitsInTheTablesOfTheManual) {
-    // clang-format off
     const std::tuple<const char*, const char*, const char*> cases[] = {
-        {"Wt", "lb/ft", "Kg/m"},       {"A", "in^2", "mm^2"},         {"T", "in", "mm"},
-        {"t", "in", "mm"},             {"eo", "in", "mm"},            {"r", "in", "mm"},
-        {"Ix", "in^4", "mm^4/10^6"},   {"Sw", "in^4", "mm^4/10^6"},   {"S", "in^3", "mm^3/10^3"},
-        {"C", "in^3", "mm^3/10^3"},    {"Qw", "in^3", "mm^3/10^3"},   {"J", "in^4", "mm^4/10^3"},
-        {"Cw", "in^6", "mm^6/10^9"},   {"Wno", "in^2", "mm^2"},       {"H", "", ""},
-        {"bf / 2tf", "", ""},          {"Tan Alpha", "", ""},         {"", "", ""},
-        {"W", "", ""}};
-    // clang-format on
-    for (const auto& [property, us, si] : cases) {
-        EXPECT_EQ(FindUnitLabel(property, Profile::US), us) << property;
-        EXPECT_EQ(FindUnitLabel(property, Profile::SI), si) << property;
+        {"Wt", "lb/ft", "Kg/m"},
+        {"A Wno", "in^2", "mm^2"},
+        {"d Ht OD bf b ID tw tf t tnom tdes kdes kdet k1 k x y eo xp yp r rx ry rz ro T", "in",
+         "mm"},
+        {"I Ix Iy Sw", "in^4", "mm^4/10^6"},
+        {"Z S Zx Sx Zy Sy C Qf Qw", "in^3", "mm^3/10^3"},
+        {"J", "in^4", "mm^4/10^3"},
+        {"Cw", "in^6", "mm^6/10^9"},
+        {"H W bf/2tf h/tw b/t h/t D/t TanAlpha Qs", "", ""}};
+    for (const auto& [properties, us, si] : cases) {
+        std::istringstream all(properties);
+        for (std::string property; all >> property;) {
+            EXPECT_EQ(FindUnitLabel(property, Profile::US), us) << property;
+            EXPECT_EQ(FindUnitLabel(property, Profile::SI), si) << property;
+        }
     }
+    EXPECT_EQ(FindUnitLabel("bf / 2tf", Profile::US), "");
+    EXPECT_EQ(FindUnitLabel("", Profile::US), "");
 }
 
 TEST(FindSearch, AtLeastComparesTheTypedDigits) {
