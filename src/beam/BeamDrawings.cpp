@@ -97,10 +97,10 @@ Curve Bending_Branch(BeamMethod method, const BeamInput& input, double from, dou
 }
 
 // Of the curves of a plot: the method's own is solid, the other two differ.
-Pattern Pattern_Of(BeamMethod method, BeamMethod own) {
-    if (method == own)
+Pattern Pattern_Of(BeamMethod each, BeamMethod own) {
+    if (each == own)
         return Pattern::Solid;
-    const bool first = method == (own == methods.front() ? methods[1] : methods.front());
+    const bool first = each == (own == methods.front() ? methods[1] : methods.front());
     return first ? Pattern::Dotted : Pattern::Dashed;
 }
 
@@ -184,9 +184,9 @@ Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamL
         return drawing;
     drawing.Frame = Frame_Of(method, input, present);
     // Below the boundary the rules keep the load of the boundary.
-    for (const BeamMethod other : methods)
-        if (other != method)
-            Add_Other(drawing, other, input, Pattern_Of(other, method));
+    for (const BeamMethod each : methods)
+        if (each != method)
+            Add_Other(drawing, each, input, Pattern_Of(each, method));
     const double Lv = boundary.BoundaryFeet;
     const double highest = boundary.LoadKipsPerFoot;
     drawing.Add(Curve{{{0, highest}, {Lv, highest}}}, Ink::Body, "Shear");

@@ -13,9 +13,7 @@
 #include <string>
 #include <vector>
 
-namespace Tensarix {
-
-namespace Drawn {
+namespace Tensarix::Drawn {
 
 struct Size {
     double Width = 0, Height = 0;
@@ -100,6 +98,4 @@ double Round_Step(double least);
 // The end of an axis that a value fits under: a few round steps, not less than the value.
 double Round_Up(double value);
 
-} // namespace Drawn
-
-} // namespace Tensarix
+} // namespace Tensarix::Drawn

@@ -61,7 +61,7 @@ DesignationSearch::DesignationSearch(const std::filesystem::path& programFolder)
     });
 }
 
-FoundSection DesignationSearch::Found(const Section& section, Profile units, bool whole) const {
+FoundSection DesignationSearch::Found(const Section& section, Profile units, bool whole) {
     const auto own = static_cast<std::size_t>(units);
     return {section.Place,
             units,
@@ -89,6 +89,7 @@ std::vector<FoundSection> DesignationSearch::Find(std::string_view typed, std::s
                      [](const Hit& a, const Hit& b) { return a.Rank < b.Rank; });
     hits.resize(std::min(hits.size(), most));
     std::vector<FoundSection> found;
+    found.reserve(hits.size());
     for (const Hit& hit : hits)
         found.push_back(
             Found(sections_[hit.At], hit.Rank % 2 == 0 ? Profile::US : Profile::SI, hit.Rank < 2));

@@ -51,7 +51,7 @@ class DesignationSearch {
         NameKey Keys[2];
     };
 
-    FoundSection Found(const Section& section, Profile units, bool whole) const;
+    static FoundSection Found(const Section& section, Profile units, bool whole);
 
     std::vector<Section> sections_; // in the Manual's order
 };

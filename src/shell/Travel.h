@@ -44,7 +44,7 @@ class Travel {
 
   private:
     struct Stop {
-        Mode Page;
+        Mode Page = Mode::Browse;
         SectionPlace Place;
         int Row = 0, Col = 0; // of a table of sections
     };

@@ -91,6 +91,24 @@ TEST_F(GridWindowTest, TheEditorLiesOverItsCellAndSaysWhereItIs) {
     EXPECT_EQ(program->Form().Shared.StatBar.Remark(), "Type the decimal point as .");
 }
 
+TEST_F(GridWindowTest, TheSortMarkStandsInsideItsHead) {
+    To(Mode::ViewAll);
+    auto& view = Find<GridView>("xShapeFlex");
+    QHeaderView* const heads = view.horizontalHeader();
+    const QImage before = heads->grab().toImage();
+    program->Form().ViewAll.xShapeFlex.OnHeadClick(3);
+    Settle();
+    const QImage after = heads->grab().toImage();
+    QRect mark;
+    for (int x = 0; x < after.width(); ++x)
+        for (int y = 0; y < after.height(); ++y)
+            if (after.pixel(x, y) != before.pixel(x, y))
+                mark |= QRect(x, y, 1, 1);
+    const QRect head(heads->sectionViewportPosition(3), 0, heads->sectionSize(3), heads->height());
+    EXPECT_TRUE(head.adjusted(head.width() / 2, 0, -3, -3).contains(mark));
+    EXPECT_GE(mark.width(), 8);
+}
+
 TEST(GridModel, ARepaintTellsOfEveryRowThereIs) {
     for (const int rows : {1, 2}) {
         FlexGrid grid;

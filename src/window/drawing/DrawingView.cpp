@@ -95,7 +95,7 @@ QSize DrawingView::sizeHint() const {
 }
 
 bool DrawingView::Is_Lit(const std::string& name) const {
-    return !name.empty() && name == box_->Lit();
+    return box_ && !name.empty() && name == box_->Lit();
 }
 
 void DrawingView::paintEvent(QPaintEvent*) {

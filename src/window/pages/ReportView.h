@@ -29,8 +29,8 @@ class ReportView : public QAbstractScrollArea {
     int Start_Of(int line) const;
     // The line in which the character stands; the nearest there is.
     int Line_Of(int character) const;
-    int Line_At(const QPoint& inViewport) const;
-    QRect Line_Rect(int line) const; // on the screen
+    int Line_At(const QPoint& point) const; // in the viewport
+    QRect Line_Rect(int line) const;        // on the screen
     // First and last of the selected lines; -1: none are.
     std::pair<int, int> Selection() const;
     void Select_Lines(int first, int last);

@@ -1,5 +1,6 @@
 #include "window/pages/WtCalcsDialog.h"
 
+#include "common/NumberText.h"
 #include "ui_WtCalcsDialog.h"
 #include "ui_WtCalcsDialogA.h"
 #include "window/Bind.h"
@@ -78,9 +79,9 @@ void Make_WtCalcs_FormA(WtCalcsFrmA& form, WtCalcsDialog& dialog) {
     ui.SSTab1->addTab(With_Mnemonic(To_Qt(WtCalcsFrmA::metricCaption), 'E'));
     Bind_Sheets(ui, form, dialog);
     Lay_Over(ui.ImperialFlex, form.ImperialFlex, form.ShapeSizeUS, QStringLiteral("ShapeSizeUS"),
-             QStringLiteral("Standard U.S. Profile"));
+             To_Qt(Trim(WtCalcsFrmA::imperialCaption)));
     Lay_Over(ui.MetricFlex, form.MetricFlex, form.ShapeSizeSI, QStringLiteral("ShapeSizeSI"),
-             QStringLiteral("SI Equivalent Profile"));
+             To_Qt(Trim(WtCalcsFrmA::metricCaption)));
     dialog.Unload = [&form] { form.Unload(); };
 }
 
