@@ -128,6 +128,15 @@ TEST_F(InstanceTest, OtherUsers) {
         ASSERT_TRUE(lock.open(QIODevice::WriteOnly) && flock(lock.handle(), LOCK_EX) == 0);
         ASSERT_EQ(fchown(lock.handle(), 65534, 65534), 0);
         EXPECT_FALSE(SingleInstance().Other_Runs());
+        ASSERT_EQ(fchown(lock.handle(), 0, 0), 0); // the lock is one's own, but who listens is not
+        ASSERT_TRUE(chmod(home.path().toLocal8Bit(), 0777) == 0 && seteuid(65534) == 0);
+        QLocalServer stranger;
+        EXPECT_TRUE(stranger.listen(home.filePath("tensarix.socket")));
+        ASSERT_TRUE(seteuid(0) == 0 && chmod(home.path().toLocal8Bit(), 0700) == 0);
+        SingleInstance second;
+        EXPECT_TRUE(second.Other_Runs());
+        EXPECT_TRUE(second.Raise_Other()) << "no instance, and no wait for it";
+        EXPECT_FALSE(second.Other_Runs());
     }
     EXPECT_EQ(Runtime_Folder(), home.path());
     ASSERT_EQ(chmod(home.path().toLocal8Bit(), 0777), 0);

@@ -49,12 +49,15 @@ SingleInstance::SingleInstance(QByteArray activationToken, int patienceMs)
 
 bool SingleInstance::Take_Place() {
     first_ = lock_.Take(); // none can be kept: rather a second window than none
-    if (first_) {
-        server_.setSocketOptions(QLocalServer::UserAccessOption);
-        QLocalServer::removeServer(socket_); // what a crashed run left behind
-        server_.listen(socket_);
-    }
+    if (first_)
+        Listen();
     return first_;
+}
+
+void SingleInstance::Listen() {
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+    QLocalServer::removeServer(socket_); // what a crashed run left behind
+    server_.listen(socket_);
 }
 
 bool SingleInstance::Other_Runs() {
@@ -65,7 +68,12 @@ bool SingleInstance::Raise_Other() {
     QElapsedTimer waited;
     waited.start();
     while (!waited.hasExpired(patienceMs_)) {
-        if (Other_Answers(patienceMs_ - static_cast<int>(waited.elapsed())) || Take_Place())
+        const Answer answer = Ask_Other(patienceMs_ - static_cast<int>(waited.elapsed()));
+        if (answer == Answer::NotOurs) { // no instance: rather a second window than none
+            first_ = true;
+            Listen();
+        }
+        if (answer != Answer::None || Take_Place())
             return true;
         QThread::msleep(raiseWaitMs);
     }
@@ -73,13 +81,15 @@ bool SingleInstance::Raise_Other() {
 }
 
 // A connection alone says nothing: the system makes it for a program that is ending, too.
-bool SingleInstance::Other_Answers(int patienceMs) const {
+SingleInstance::Answer SingleInstance::Ask_Other(int patienceMs) const {
     QLocalSocket socket;
     socket.connectToServer(socket_);
-    if (!socket.waitForConnected(patienceMs) || !Is_Own_Peer(socket))
-        return false;
+    if (!socket.waitForConnected(patienceMs))
+        return Answer::None;
+    if (!Is_Own_Peer(socket))
+        return Answer::NotOurs;
     socket.write(token_ + '\n');
-    return socket.waitForReadyRead(patienceMs);
+    return socket.waitForReadyRead(patienceMs) ? Answer::Raised : Answer::None;
 }
 
 void SingleInstance::On_Raise(std::function<bool(const QByteArray&)> raise) {
@@ -93,12 +103,12 @@ void SingleInstance::Take_Wishes() {
     while (QLocalSocket* socket = server_.nextPendingConnection()) {
         QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         QObject::connect(socket, &QLocalSocket::readyRead, socket,
-                         [this, socket] { Answer(*socket); });
-        Answer(*socket);
+                         [this, socket] { Answer_Wish(*socket); });
+        Answer_Wish(*socket);
     }
 }
 
-void SingleInstance::Answer(QLocalSocket& socket) {
+void SingleInstance::Answer_Wish(QLocalSocket& socket) {
     if (!socket.canReadLine())
         return;
     if (Is_Own_Peer(socket) && raise_(socket.readLine().trimmed())) {

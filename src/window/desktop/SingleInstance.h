@@ -8,6 +8,7 @@
 #include <QLocalServer>
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 
 class QLocalSocket;
@@ -36,9 +37,11 @@ class SingleInstance final : public Instance {
 
   private:
     bool Take_Place();
-    bool Other_Answers(int patienceMs) const;
+    void Listen();
+    enum class Answer : std::uint8_t { None, Raised, NotOurs };
+    Answer Ask_Other(int patienceMs) const;
     void Take_Wishes();
-    void Answer(QLocalSocket& socket);
+    void Answer_Wish(QLocalSocket& socket);
 
     QByteArray token_;
     int patienceMs_;
