@@ -4,6 +4,8 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 
+#include <utility>
+
 namespace Tensarix {
 
 void Answer_Refused_Key(QWidget& widget, int character) {
@@ -34,17 +36,20 @@ bool Filter_Key(const KeyFilter& filter, const QKeyEvent& event, QLineEdit& box)
     return kept == 0;
 }
 
+// A filter looks at the text as it is: each character is sent alone, once the ones before it stand
+// there.
 bool Filter_Input_Method(QWidget* widget, const KeyFilter& filter, QInputMethodEvent& event) {
-    if (!filter)
+    const QString text = event.commitString();
+    if (!filter || text.isEmpty() || (text.size() == 1 && filter(text.at(0).unicode()) != 0))
         return false;
-    QString kept;
-    for (const QChar character : event.commitString())
-        if (filter(character.unicode()) != 0)
-            kept += character;
-    if (kept == event.commitString())
-        return false;
+    int start = event.replacementStart(), length = event.replacementLength();
+    for (const QChar character : text) {
+        QInputMethodEvent one;
+        one.setCommitString(text.size() > 1 ? QString(character) : QString(),
+                            std::exchange(start, 0), std::exchange(length, 0));
+        QCoreApplication::sendEvent(widget, &one);
+    }
     QInputMethodEvent rest(event.preeditString(), event.attributes());
-    rest.setCommitString(kept, event.replacementStart(), event.replacementLength());
     QCoreApplication::sendEvent(widget, &rest);
     return true;
 }

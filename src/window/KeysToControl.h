@@ -45,8 +45,8 @@ void Answer_Refused_Key(QWidget& widget, int character);
 // one that stands for the number pad's separator.
 bool Filter_Key(const KeyFilter& filter, const QKeyEvent& event, QLineEdit& box);
 
-// Text that comes from an input method passes the filter of the keys, character by character. True
-// if it had to be changed, and the widget has got what is left of it.
+// Text that comes from an input method passes the filter of the keys, character by character, as if
+// typed. True if the widget has got it in another way than by this event.
 bool Filter_Input_Method(QWidget* widget, const KeyFilter& filter, QInputMethodEvent& event);
 
 } // namespace Tensarix

@@ -42,7 +42,12 @@ class EditedGrid : public testing::Test {
         editing.Add(CellEditing::TextCells{box,
                                            [](int, int col) { return col == 2; },
                                            [](int key) { return key == 'x' ? 0 : key; },
-                                           [](int key) { return key == 'x' ? 0 : key; },
+                                           [this](int key) {
+                                               const bool second =
+                                                   box.Text().find('.') != std::string::npos;
+                                               return key == 'x' || (key == '.' && second) ? 0
+                                                                                           : key;
+                                           },
                                            {},
                                            {},
                                            [this](const std::string&) { ++commits; }});
@@ -167,10 +172,10 @@ TEST_F(EditedGrid, ArrowsWalkInTheTextAndLeaveAtItsEnds) {
 TEST_F(EditedGrid, TextOfAnInputMethodPassesTheFilter) {
     Type("1");
     QInputMethodEvent text;
-    text.setCommitString(QStringLiteral("2x3"));
+    text.setCommitString(QStringLiteral("2x.3.4"));
     QApplication::sendEvent(line, &text);
-    EXPECT_EQ(line->text(), QStringLiteral("123"));
-    EXPECT_EQ(box.Text(), "123");
+    EXPECT_EQ(line->text(), QStringLiteral("12.34"));
+    EXPECT_EQ(box.Text(), "12.34");
 }
 
 TEST_F(EditedGrid, TheMouse) {
