@@ -347,9 +347,13 @@ void BoltPage::Remark_On(int row, double C) {
         return;
     }
     std::string words = "not checked";
-    if (balanced)
-        words = "use C = " + Format_Number(balanced->C, "0.000") + " (shown " +
-                Trim(cFlex.Text(row, BoltColumn::C)) + ")";
+    if (balanced) {
+        const std::string right = Format_Number(balanced->C, "0.000");
+        const std::string shown = Trim(cFlex.Text(row, BoltColumn::C));
+        words = remark.Weight == RemarkWeight::Unsafe
+                    ? "use C = " + right + " (shown " + shown + ")"
+                    : shown + " is on the safe side of C = " + right;
+    }
     Verdicts.Set(row, {std::move(words), remark.Weight});
 }
 
@@ -392,6 +396,7 @@ void BoltPage::AddRow_Click() {
     cFlex.Set_Top_Row(cFlex.Rows() - rowsBelowTop);
     Lay_Out_Row(row);
     cFlex.Move_To(row, cFlex.Col());
+    Run(cFlex.BringIntoView); // fewer rows than that may show
     RemRowButton.Enable(true);
 }
 

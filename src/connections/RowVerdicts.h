@@ -12,7 +12,7 @@
 namespace Tensarix {
 
 struct RowVerdict {
-    std::string Words; // "use C = 0.732 (shown 3.000)"
+    std::string Words; // "use C = 0.732 (shown 3.000)", "1.000 is on the safe side of C = 1.100"
     RemarkWeight Weight = RemarkWeight::Note;
     bool Computing = false;
 

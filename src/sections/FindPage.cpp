@@ -169,6 +169,8 @@ void FindPage::Fill_Grid(bool searching) {
         if (searching)
             fShapeFlex.Set_Marked_Col(
                 Value_Column(family.Find.Columns, TableVariant::Find, condition.Property));
+        else // columns of another family
+            fShapeFlex.Set_Left_Col(fShapeFlex.FixedCols());
     });
     Show_What_To_Do();
     if (Follow_Current_Cell(desk_, fShapeFlex, before))

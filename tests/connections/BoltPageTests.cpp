@@ -178,6 +178,12 @@ TEST_F(BoltPageTest, TheLineUnderTheTableNamesEachRowNotToUse) {
     p.cFlex.Move_To(3, 3);
     p.cFlex.OnKeyDown(Keys::Delete);
     EXPECT_EQ(p.Verdicts.Text(), "All rows in equilibrium within 2.5 %");
+    p.cFlex.Set_Text(1, BoltColumn::C, "4.000  "); // as another program may have saved it
+    p.SaveButton.Click();
+    Start();
+    machine.Events.Be_Idle();
+    EXPECT_EQ(page->Verdicts.Text(), "Row 1: 4.000 is on the safe side of C = 4.474.");
+    EXPECT_EQ(page->Verdicts.Rows().at(1).Weight, RemarkWeight::Note);
 }
 
 TEST_F(BoltPageTest, AddAndRemoveRows) {

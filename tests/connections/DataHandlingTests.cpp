@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <random>
 
 #include <unistd.h>
 
@@ -74,6 +75,31 @@ TEST_F(BoltFileTest, CutShortAnywhereItsTextsAreEmptyFromThere) {
             }
         }
     }
+    EXPECT_TRUE(boxes.Shown.empty());
+}
+
+// Damage anywhere, the same in each run: such a file is set aside as it is, or its records, written
+// again, are read as the same ones.
+TEST_F(BoltFileTest, FlippedBits) {
+    std::mt19937 random(1);
+    int read = 0;
+    for (int round = 0; round < 500; ++round) {
+        WriteBoltFile(Two_Rows(), path, boxes);
+        Bytes bytes = *Read_Whole_File(path);
+        for (unsigned flips = 1 + random() % 4; flips > 0; --flips)
+            bytes[random() % bytes.size()] ^= static_cast<unsigned char>(1u << random() % 8);
+        Put(bytes);
+        if (Failed()) {
+            EXPECT_EQ(Read_Whole_File(aside), bytes) << round;
+            std::filesystem::remove(aside);
+            continue;
+        }
+        ++read;
+        const std::vector<BoltRow> once = entries;
+        EXPECT_TRUE(WriteBoltFile(once, path, boxes) && !Failed() && entries == once) << round;
+    }
+    EXPECT_GT(read, 250);
+    EXPECT_LT(read, 500);
     EXPECT_TRUE(boxes.Shown.empty());
 }
 

@@ -228,7 +228,9 @@ TEST_F(FindTest, TheSearchedColumnIsMarkedAndTheSectionOfTheRowDrawn) {
     page.FindButton.Click();
     EXPECT_EQ(drawn(), "No section meets the condition");
     // Where the values of one property are written over those of another, no column is the first's.
+    page.fShapeFlex.Set_Left_Col(9);
     page.fShapeType.Select(4);
+    EXPECT_EQ(page.fShapeFlex.Left_Col(), 2) << "columns of another family";
     for (const auto& [property, column] : {std::pair{"x", -1}, {"xp", 12}, {"Ix", 13}}) {
         Ask(property, ">=", "0");
         page.FindButton.Click();
