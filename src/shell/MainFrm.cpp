@@ -106,7 +106,7 @@ void MainFrm::StartUp() {
     Design.Start();
     Tell_Who_Decides();
     if (const std::string remark = Shared.Host.Store.Remark(); !remark.empty())
-        Shared.StatBar.Set_Remark(remark);
+        Shared.StatBar.Set_Remark(remark, RemarkWeight::Caution);
 }
 
 void MainFrm::Start_Flags() {
