@@ -59,7 +59,6 @@ bool WeldPage::Can_Edit(int row, int col) const {
 }
 
 void WeldPage::Initialize_WeldRoutines() {
-    SearchPlot.Set_Drawing(Weld_Search_Plot(passes_));
     Initialize_WeldView();
     Initialize_WeldStripBox();
     Initialize_WeldFlex();

@@ -32,6 +32,11 @@ class WholeText final : public QObject {
     }
 };
 
+// By its form.
+bool Gives_Way(const QWidget& widget) {
+    return widget.property("hiddenWhenEmpty").toBool();
+}
+
 // Keys of a text box: every character passes the control's filter first.
 class TextKeys final : public QObject {
   public:
@@ -84,12 +89,15 @@ Link* Bind(QLineEdit* widget, TextBox& control) {
 
 void Bind(QLabel* widget, Label& control) {
     const bool stop = (widget->focusPolicy() & Qt::TabFocus) != 0;
+    const bool givesWay = Gives_Way(*widget);
     const QString described = widget->accessibleDescription();
-    new Link(widget, control.Shown, [widget, stop, described, &control] {
+    new Link(widget, control.Shown, [widget, stop, givesWay, described, &control] {
         QString text = To_Qt(control.Caption());
         if (widget->wordWrap()) // a sign alone on the next line is read as nothing
             text.replace(QStringLiteral(" %"), QStringLiteral("\u00A0%"));
         widget->setText(text);
+        if (givesWay)
+            widget->setVisible(!text.isEmpty());
         widget->setToolTip(Tip_Text(Remark_In_Words(control.Remark(), control.Remark_Weight())));
         Show_Weight(*widget, control.Caption_Weight());
         widget->setAccessibleDescription(
@@ -103,8 +111,11 @@ void Bind(QLabel* widget, Label& control) {
 
 void Bind(QLineEdit* widget, ResultBox& control) {
     widget->setReadOnly(true);
-    new Link(widget, control.Shown, [widget, &control] {
+    const bool givesWay = Gives_Way(*widget);
+    new Link(widget, control.Shown, [widget, givesWay, &control] {
         widget->setText(To_Qt(control.Text()));
+        if (givesWay)
+            widget->setVisible(!control.Text().empty());
         QPalette palette;
         if (control.Fore() != Colours::Standard)
             palette.setColor(QPalette::Text, Shown_Colour(control.Fore(), palette));

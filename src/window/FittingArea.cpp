@@ -1,12 +1,13 @@
 #include "window/FittingArea.h"
 
+#include <QBoxLayout>
 #include <QDialog>
 #include <QEvent>
 #include <QKeyEvent>
-#include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
-#include <QVBoxLayout>
+
+#include <utility>
 
 namespace Tensarix {
 
@@ -21,8 +22,46 @@ QSize Character_Size(const QWidget& widget) {
 
 } // namespace
 
+// A column gives a part whose height follows its width the one it would like, and never less.
 int FittingPage::heightForWidth(int width) const {
-    return layout()->hasHeightForWidth() ? layout()->minimumHeightForWidth(width) : -1;
+    if (!layout()->hasHeightForWidth())
+        return -1;
+    return isColumn_ ? layout()->heightForWidth(width) : layout()->minimumHeightForWidth(width);
+}
+
+void FittingPage::Let_Stack(std::vector<Row> rows) {
+    rows_ = std::move(rows);
+}
+
+void FittingPage::Stack(const Row& row, bool stacked) {
+    row.Parts->setDirection(stacked ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    if (row.Column)
+        row.Column->setDirection(stacked ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    if (row.Parts == layout())
+        isColumn_ = stacked;
+    Measure_Anew(*this);
+}
+
+// The widths that were found too large decide when there is room again, so that nothing flickers.
+void FittingPage::Fit_Width(int width) {
+    while (!widths_.empty() && widths_.back() <= width) {
+        widths_.pop_back();
+        Stack(rows_[widths_.size()], false);
+    }
+    while (widths_.size() < rows_.size() && minimumSizeHint().width() > width) {
+        widths_.push_back(minimumSizeHint().width());
+        Stack(rows_[widths_.size() - 1], true);
+    }
+}
+
+void Measure_Anew(QWidget& whole) {
+    QList<QWidget*> parts = whole.findChildren<QWidget*>();
+    parts.prepend(&whole);
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+        (*part)->updateGeometry();
+        if ((*part)->layout())
+            (*part)->layout()->activate();
+    }
 }
 
 FittingArea::FittingArea(QWidget* page, QWidget* parent) : QScrollArea(parent) {
@@ -45,9 +84,17 @@ QSize FittingArea::minimumSizeHint() const {
     return QSize(leastWidth * one.width(), leastLines * one.height()).boundedTo(sizeHint());
 }
 
+// Whether or not the bar shows: it would come and go with what it decides.
+void FittingArea::Fit_Page() {
+    if (auto* page = qobject_cast<FittingPage*>(widget()))
+        page->Fit_Width(width() - verticalScrollBar()->sizeHint().width());
+}
+
 bool FittingArea::viewportEvent(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest) {
+        Fit_Page();
         updateGeometry();
+    }
     return QScrollArea::viewportEvent(event);
 }
 
@@ -58,6 +105,7 @@ void FittingArea::scrollContentsBy(int dx, int dy) {
 }
 
 void FittingArea::resizeEvent(QResizeEvent* event) {
+    Fit_Page();
     QScrollArea::resizeEvent(event);
     viewport()->update();
 }

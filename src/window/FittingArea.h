@@ -3,6 +3,9 @@
 
 #include <QScrollArea>
 
+#include <vector>
+
+class QBoxLayout;
 class QDialog;
 
 namespace Tensarix {
@@ -15,7 +18,28 @@ class FittingPage final : public QWidget {
   public:
     using QWidget::QWidget;
     int heightForWidth(int width) const override;
+
+    // Parts that stand side by side, and go under each other where the page is narrower than that.
+    // Inside one of them a column may turn the other way then.
+    struct Row {
+        QBoxLayout* Parts;
+        QBoxLayout* Column = nullptr;
+    };
+    // A row after the other, in this order, as far as it takes: so a narrow page scrolls down and
+    // not sideways. Once.
+    void Let_Stack(std::vector<Row> rows);
+    void Fit_Width(int width);
+
+  private:
+    void Stack(const Row& row, bool stacked);
+
+    std::vector<Row> rows_;
+    bool isColumn_ = false;   // the page's own row is stacked
+    std::vector<int> widths_; // that the page needed before each of the rows that are stacked now
 };
+
+// All parts of a widget tell their sizes anew, from the inside, and at once.
+void Measure_Anew(QWidget& whole);
 
 class FittingArea final : public QScrollArea {
     Q_OBJECT
@@ -32,6 +56,9 @@ class FittingArea final : public QScrollArea {
     void scrollContentsBy(int dx, int dy) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void Fit_Page();
 };
 
 // As large as wanted, and as the screen allows.

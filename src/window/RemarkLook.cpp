@@ -17,6 +17,7 @@ namespace {
 constexpr int noteSize = 6, cautionSize = 10; // pixels of the corner
 constexpr int tipColumns = 60;
 constexpr int lineWidth = 2; // of the frame around what is unsafe
+constexpr int besideText = 3;
 
 struct Grounds {
     QRgb Caution, Unsafe;
@@ -121,6 +122,8 @@ void Show_Weight(QLabel& label, RemarkWeight weight) {
     label.setAutoFillBackground(heavy);
     label.setFrameStyle(heavy ? static_cast<int>(QFrame::Box) | QFrame::Plain : QFrame::NoFrame);
     label.setLineWidth(weight == RemarkWeight::Unsafe ? lineWidth : 1);
+    if (label.wordWrap())
+        label.setMargin(heavy ? besideText : 0);
 }
 
 void Show_Weight(QLineEdit& box, RemarkWeight weight) {

@@ -91,8 +91,10 @@ void Show_Weight(QLabel& label, const Advice& remark) {
         colours.setColor(QPalette::Window, Tint_Colour(Drawn::Ink::Alert, colours));
     label.setPalette(colours);
     label.setAutoFillBackground(caution);
-    label.setAccessibleDescription(To_Qt(Weight_Word(remark.Weight)) +
-                                   QStringLiteral(" on the number shown"));
+    const QString description =
+        To_Qt(Weight_Word(remark.Weight)) + QStringLiteral(" on the number shown");
+    if (label.accessibleDescription() != description) // who listens is told each time it is set
+        label.setAccessibleDescription(description);
 }
 
 // These settings are filed under the program's folder as application name.
@@ -224,16 +226,6 @@ void CalcWindow::Toggle_Results() {
     results_->show();
 }
 
-// All parts tell their sizes anew, from the inside.
-void CalcWindow::Measure_Anew() {
-    const QList<QWidget*> parts = findChildren<QWidget*>();
-    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
-        (*part)->updateGeometry();
-        if ((*part)->layout())
-            (*part)->layout()->activate();
-    }
-}
-
 // The display and the keys stand together: on a small screen they are rather small than scrolled.
 void CalcWindow::Fit_Font() {
     const int room = static_cast<int>(screen()->availableSize().height() * calculatorPart);
@@ -241,7 +233,7 @@ void CalcWindow::Fit_Font() {
     while (layout()->totalMinimumSize().height() > room && smaller.pointSizeF() > leastPoints) {
         smaller.setPointSizeF(smaller.pointSizeF() * fontStep);
         setFont(smaller);
-        Measure_Anew();
+        Measure_Anew(*this);
         layout()->invalidate();
     }
 }

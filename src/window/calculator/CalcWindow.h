@@ -58,7 +58,6 @@ class CalcWindow final : public QDialog {
     void Paste();
     bool Clock_Yield();
     void Put_Beside(QDialog& dialog) const;
-    void Measure_Anew();
     void Fit_Font();
     void Open_Dialog(QDialog& dialog);
     void Toggle_Results();

@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QSignalBlocker>
 
 #include <functional>
 
@@ -127,6 +128,14 @@ class ColumnPaste final : public QObject {
     TextBox& editor_;
 };
 
+// An old text that goes while the box has the keyboard would be heard.
+void Forget_Text(QLineEdit* box) {
+    const QSignalBlocker quiet(box);
+    box->clear();
+}
+
+void Forget_Text(QComboBox*) {}
+
 template <typename Widget, typename Control>
 CellOverlay* Overlay(GridView* view, const FlexGrid& grid, Widget* widget, Control& control) {
     Link* link = Bind(widget, control);
@@ -135,6 +144,8 @@ CellOverlay* Overlay(GridView* view, const FlexGrid& grid, Widget* widget, Contr
     // A hidden widget takes no focus; and what is typed arrives where the keyboard already is.
     control.Focus.Take = [widget, link, overlay] {
         link->Flush_After([widget, overlay] {
+            if (widget->isHidden())
+                Forget_Text(widget);
             overlay->Place();
             widget->setFocus();
         });

@@ -11,10 +11,17 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace Tensarix {
+
+namespace {
+
+constexpr int afterEditorMs = 100; // by then a move has followed on it, if one does
+
+} // namespace
 
 bool GridView::Go_To(int row, int col, bool extend) {
     const int first = grid_->OnTab ? grid_->FixedCols() : 0; // to fill in, a head is of no use
@@ -152,13 +159,13 @@ bool GridView::event(QEvent* event) {
 // Who comes by the keyboard sees where he is.
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
-    QMetaObject::invokeMethod( // after the table itself has been told
-        this,
-        [this] {
-            if (hasFocus())
-                Tell_Current_Cell();
-        },
-        Qt::QueuedConnection);
+    // After the table itself has been told. A move may follow on an editor, and tells by itself.
+    untold_ = true;
+    const int wait = event->reason() == Qt::OtherFocusReason ? afterEditorMs : 0;
+    QTimer::singleShot(wait, this, [this] {
+        if (hasFocus() && untold_)
+            Tell_Current_Cell();
+    });
     const bool byKey = event->reason() == Qt::TabFocusReason ||
                        event->reason() == Qt::BacktabFocusReason ||
                        event->reason() == Qt::ShortcutFocusReason;

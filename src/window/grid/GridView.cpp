@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <set>
 
 namespace Tensarix {
@@ -173,12 +174,13 @@ void GridView::Pull() {
 
 void GridView::Measure() {
     measured_ = grid_->Layout_Version();
-    fitted_ = grid_->Texts_Version();
+    Find_Fitting_Widths();
     model_->Reset();
     Measure_Columns();
     Measure_Rows();
     Place_Frozen();
     updateGeometries();
+    frozen_->doItemsLayout(); // else its bar still ends where it did, and holds the other one back
     Fit_Contents();
 }
 
@@ -198,18 +200,34 @@ void GridView::Take_What_Is_Needed() {
     Fit_Contents();
 }
 
+void GridView::Let_Columns_Give_Way() {
+    giveWay_ = true;
+    Fit_Contents();
+}
+
+// Of frame and bar.
+int GridView::Room_Around() const {
+    const bool bar = verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff;
+    return 2 * frameWidth() + (bar ? verticalScrollBar()->sizeHint().width() : 0);
+}
+
 int GridView::Columns_Width() const {
-    int width = 2 * frameWidth();
+    int width = Room_Around();
     for (int col = 0; col < grid_->Cols(); ++col)
-        width += Column_Pixels(col);
-    if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff)
-        width += verticalScrollBar()->sizeHint().width();
+        width += Usual_Pixels(col);
     return width;
+}
+
+// With columns that have given way as far as they can.
+int GridView::Least_Width() const {
+    return std::accumulate(fittingWidths_.begin(), fittingWidths_.end(), Room_Around());
 }
 
 void GridView::Fit_Contents() {
     if (allColumns_)
         setMinimumWidth(Columns_Width());
+    if (giveWay_)
+        setMinimumWidth(Least_Width());
     if (onlyNeeded_)
         setMaximumWidth(Columns_Width());
     if (allRows_) {
@@ -255,9 +273,25 @@ void GridView::Measure_Columns() {
     frozen_->horizontalHeader()->setFixedHeight(height);
 }
 
-int GridView::Column_Pixels(int col) const {
+int GridView::Usual_Pixels(int col) const {
     return std::max(static_cast<int>(std::lround(grid_->Col_Width(col) * Twip_Scale())),
-                    Fitting_Width(col));
+                    fittingWidths_[static_cast<std::size_t>(col)]);
+}
+
+int GridView::Column_Pixels(int col) const {
+    const int usual = Usual_Pixels(col), least = fittingWidths_[static_cast<std::size_t>(col)];
+    const int whole = Columns_Width(), narrowest = Least_Width();
+    if (!giveWay_ || width() >= whole)
+        return usual;
+    const double part = static_cast<double>(width() - narrowest) / (whole - narrowest);
+    return least + static_cast<int>((usual - least) * std::max(0.0, part));
+}
+
+void GridView::Find_Fitting_Widths() {
+    fitted_ = grid_->Texts_Version();
+    fittingWidths_.clear();
+    for (int col = 0; col < grid_->Cols(); ++col)
+        fittingWidths_.push_back(Fitting_Width(col));
 }
 
 // What is never cut: a number, wherever it stands, the names in a fixed column, the heads, or their
@@ -289,7 +323,10 @@ double GridView::Row_Squeeze() const {
     double whole = 0;
     for (int row = grid_->FixedRows(); row < grid_->Rows(); ++row)
         whole += grid_->Row_Height(row) * Twip_Scale();
-    const double part = (height() - 2 * frameWidth() - Head_Height()) / whole;
+    const bool bar = Columns_Width() > width() && !giveWay_;
+    const int room = height() - 2 * frameWidth() - Head_Height() -
+                     (bar ? horizontalScrollBar()->sizeHint().height() : 0);
+    const double part = room / whole;
     const double least = (fontMetrics().height() + leastRowMargin) /
                          (grid_->Row_Height(grid_->FixedRows()) * Twip_Scale());
     return part >= least ? std::min(part, 1.0) : 1;
@@ -299,8 +336,11 @@ double GridView::Row_Squeeze() const {
 void GridView::Widen_Columns() {
     if (fitted_ == grid_->Texts_Version())
         return;
-    fitted_ = grid_->Texts_Version();
-    bool wider = false;
+    const std::vector<int> before = fittingWidths_;
+    Find_Fitting_Widths();
+    bool wider = giveWay_ && fittingWidths_ != before;
+    if (wider)
+        Measure_Columns();
     for (int col = 0; col < grid_->Cols(); ++col) {
         QTableView* pane = this;
         if (col < grid_->FixedCols())
@@ -427,6 +467,7 @@ void GridView::selectionChanged(const QItemSelection& selected, const QItemSelec
 }
 
 void GridView::Tell_Current_Cell() {
+    untold_ = false;
     QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(this);
     const QModelIndex current = currentIndex();
     if (!QAccessible::isActive() || !table || !current.isValid())
@@ -490,6 +531,8 @@ void GridView::resizeEvent(QResizeEvent* event) {
     QTableView::resizeEvent(event);
     if (!grid_)
         return;
+    if (giveWay_)
+        Measure_Columns();
     if (onlyNeeded_)
         Measure_Rows();
     Place_Frozen();

@@ -9,6 +9,8 @@
 #include <QPoint>
 #include <QTableView>
 
+#include <vector>
+
 namespace Tensarix {
 
 class GridModel;
@@ -33,6 +35,8 @@ class GridView : public QTableView {
     void Show_All_Rows();
     // As wide as its columns, and no wider; the rows a little lower where they all show then.
     void Take_What_Is_Needed();
+    // Where there is no room for its columns, each is narrower, down to what its texts need.
+    void Let_Columns_Give_Way();
     // Pixels to the twip under the current font and scale.
     double Twip_Scale() const;
 
@@ -67,6 +71,10 @@ class GridView : public QTableView {
     double Row_Squeeze() const;
     void Fit_Contents();
     int Columns_Width() const;
+    int Room_Around() const;
+    void Find_Fitting_Widths();
+    int Least_Width() const;
+    int Usual_Pixels(int col) const;
     int Head_Height() const;
     int Column_Pixels(int col) const;
     int Fitting_Width(int col) const;
@@ -100,8 +108,9 @@ class GridView : public QTableView {
     int revealed_ = -1; // the marked column that has been brought into view
     std::string typed_; // the name that is being typed
     QElapsedTimer sinceTyped_;
-    bool pulling_ = false;
-    bool allColumns_ = false, allRows_ = false, onlyNeeded_ = false;
+    bool pulling_ = false, untold_ = false; // where the keyboard is, to a screen reader
+    bool allColumns_ = false, allRows_ = false, onlyNeeded_ = false, giveWay_ = false;
+    std::vector<int> fittingWidths_; // by column
 };
 
 } // namespace Tensarix

@@ -14,7 +14,8 @@ namespace {
 constexpr double resultSize = 1.5;              // of the font of its label
 constexpr int leastChars = 40, leastLines = 13; // of a drawing
 const QString widestSpan = QStringLiteral("000'-00 00/00\"   ");
-constexpr int factorWidth = 12; // average characters
+constexpr int leastTableLines = 9; // three rows
+constexpr int factorWidth = 12;    // average characters
 
 void Enlarge(QLabel* result) {
     QFont font = result->font();
@@ -37,6 +38,7 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     Bind(ui.ShapeLab, page.ShapeLab);
     Bind(ui.zShapeFlex, page.zShapeFlex);
     ui.zShapeFlex->Show_All_Columns();
+    ui.zShapeFlex->setMinimumHeight(leastTableLines * ui.zShapeFlex->fontMetrics().lineSpacing());
     Bind(ui.AppliedCode, page.AppliedCode);
     Bind(ui.CodeFrame, page.CodeFrame);
     Bind(ui.CodeOpt0, page.CodeOpt[0]);
@@ -62,8 +64,13 @@ QWidget* Make_Beam_Form(BeamPage& page, QWidget* parent) {
     for (DrawingView* drawing : {ui.BeamSketch, ui.LoadPlot})
         drawing->setMinimumSize(leastChars * drawing->fontMetrics().averageCharWidth(),
                                 leastLines * drawing->fontMetrics().lineSpacing());
-    ui.BeamSpanBox->setMinimumWidth(ui.BeamSpanBox->fontMetrics().horizontalAdvance(widestSpan));
+    ui.BeamSpanBox->setFixedWidth(ui.BeamSpanBox->fontMetrics().horizontalAdvance(widestSpan));
     ui.CFactor->setMaximumWidth(factorWidth * ui.CFactor->fontMetrics().averageCharWidth());
+    form->Let_Stack({{ui.inputsLayout},
+                     {ui.resultsAndRemarks},
+                     {ui.pageLayout, ui.choicesLayout},
+                     {ui.drawingsLayout},
+                     {ui.codeLayout}});
     return form;
 }
 

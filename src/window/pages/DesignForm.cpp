@@ -15,10 +15,13 @@ namespace Tensarix {
 
 namespace {
 
+constexpr double resultSize = 1.25; // of the font of its label
 constexpr int remarkLines = 4;
 const QString widestResult = QStringLiteral("** 000.00000   ");
 constexpr int remarkWidth = 30; // average characters
-constexpr int drawingWidth = 34, drawingLines = 14;
+constexpr int drawingWidth = 34, drawingLines = 14, plotLines = 10;
+constexpr int tableLines = 17; // seven rows
+constexpr int reportWidth = 40, reportLines = 8;
 
 // A small grid shows whole.
 void Show_Whole(GridView* view) {
@@ -35,10 +38,23 @@ void Keep_Width(QLabel* remark) {
     remark->setMinimumWidth(remarkWidth * remark->fontMetrics().averageCharWidth());
 }
 
+void Enlarge(QLineEdit* result) {
+    QFont font = result->font();
+    font.setPointSizeF(font.pointSizeF() * resultSize);
+    result->setFont(font);
+}
+
+// What lies below doesn't move when it shows.
+void Keep_Place(QWidget* widget) {
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
 // A drawing is never smaller than its texts need.
-void Keep_Room(DrawingView* drawing) {
+void Keep_Room(DrawingView* drawing, int lines = drawingLines) {
     drawing->setMinimumSize(drawingWidth * drawing->fontMetrics().averageCharWidth(),
-                            drawingLines * drawing->fontMetrics().lineSpacing());
+                            lines * drawing->fontMetrics().lineSpacing());
 }
 
 QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
@@ -50,10 +66,13 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
              QStringLiteral("Bolt group input"));
     Bind(ui.ccFlex, page.ccFlex);
     Bind(ui.xxFlex, page.xxFlex);
-    ui.cFlex->Show_All_Columns(); // and leaves the rest to the drawing
     ui.cFlex->Take_What_Is_Needed();
-    Show_Whole(ui.ccFlex);
-    Show_Whole(ui.xxFlex);
+    ui.cFlex->Let_Columns_Give_Way();
+    ui.cFlex->setMinimumHeight(tableLines * ui.cFlex->fontMetrics().lineSpacing());
+    for (GridView* values : {ui.ccFlex, ui.xxFlex}) {
+        Show_Whole(values);
+        values->Take_What_Is_Needed();
+    }
     Bind(ui.GroupSketch, page.GroupSketch);
     Keep_Room(ui.GroupSketch);
     ui.Verdicts->Show_Verdicts(page.Verdicts);
@@ -64,6 +83,7 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     Bind(ui.SaveButton, page.SaveButton);
     Bind(ui.UnsavedNote, page.UnsavedNote);
     Bind(ui.ClearButton, page.ClearButton);
+    form->Let_Stack({{ui.pageLayout, ui.sideLayout}});
     return form;
 }
 
@@ -87,18 +107,25 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.WeldSketch, page.WeldSketch);
     Keep_Room(ui.WeldSketch);
     Bind(ui.SearchPlot, page.SearchPlot);
+    Keep_Room(ui.SearchPlot, plotLines);
     Bind(ui.WeldFlex, page.WeldFlex);
     Lay_Over(ui.WeldFlex, page.WeldFlex, page.EdiTxtA, QStringLiteral("EdiTxtA"),
              QStringLiteral("Weld parameter"));
     Show_Whole(ui.WeldFlex);
     Bind(ui.WeldStripBox, page.WeldStripBox);
     Bind(ui.IterationDisplayBox, page.IterationDisplayBox);
+    const QFontMetrics metrics = ui.IterationDisplayBox->fontMetrics();
+    ui.IterationDisplayBox->setMinimumSize(reportWidth * metrics.averageCharWidth(),
+                                           reportLines * metrics.lineSpacing());
     Bind(ui.ElapsedIndicator, page.ElapsedIndicator);
     Bind(ui.CBox, page.CBox);
+    for (QLineEdit* result : {ui.CBox, ui.BalancedBox})
+        Enlarge(result);
     ui.CBox->setMinimumWidth(ui.CBox->fontMetrics().horizontalAdvance(widestResult));
     Bind(ui.BalancedCaption, page.BalancedCaption);
     Bind(ui.BalancedBox, page.BalancedBox);
     ui.BalancedBox->setMinimumWidth(ui.CBox->minimumWidth());
+    Keep_Place(ui.BalancedBox);
     Bind(ui.CRemark, page.CRemark);
     // Its room is kept, so that nothing moves when a run ends.
     ui.CRemark->setMinimumHeight(remarkLines * ui.CRemark->fontMetrics().lineSpacing());
@@ -106,6 +133,7 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Bind(ui.StopIterationButton, page.StopIterationButton);
     Bind(ui.ClearDisplayButton, page.ClearDisplayButton);
     Share_Focus(ui.StartIterationButton, ui.StopIterationButton);
+    form->Let_Stack({{ui.displayLayout}, {ui.pageLayout}});
     return form;
 }
 

@@ -35,6 +35,7 @@ QWidget* Make_Find_Form(FindPage& page, QWidget* parent) {
         Label_Of(option, ui.fProfileFrame->accessibleName());
     for (QWidget* option : {ui.fDimOption1, ui.fDimOption2})
         Label_Of(option, ui.fDimFrame->accessibleName());
+    form->Let_Stack({{ui.searchLayout}, {ui.optionsLayout}, {ui.headLayout}});
     return form;
 }
 

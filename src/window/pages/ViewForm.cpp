@@ -17,6 +17,7 @@ QWidget* Make_View_Form(ViewPage& page, QWidget* parent) {
     Bind(ui.xDimOption2, page.xDimOption2);
     Bind(ui.xSectionDrawing, page.SectionDrawing);
     Bind(ui.xShapeFlex, page.xShapeFlex);
+    form->Let_Stack({{ui.optionsLayout}, {ui.choicesLayout}});
     return form;
 }
 
