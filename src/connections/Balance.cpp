@@ -410,12 +410,12 @@ Advice Balance_Remark(double shown, const std::optional<Balance>& balance, doubl
     const double excess = Excess_Over(balance, shown, tolerance);
     if (excess == 0)
         return {};
-    std::string text = balance->ByLines
-                           ? "AISC 360-05 J2.4(c), for lines along and across the load, gives C = "
-                           : "The centre that satisfies all equilibrium conditions gives C = ";
-    text.append(Format_Number(balance->C, "0.000")).append(" (this value is ");
-    text.append(Format_Number(std::abs(excess) * 100, "0"));
-    text.append(excess > 0 ? " % higher)" : " % lower)");
+    std::string text = excess > 0 ? "Use C = " : "C = ";
+    text.append(Format_Number(balance->C, "0.000"));
+    text.append(balance->ByLines ? " from AISC 360-05 J2.4(c), for lines along and across the load"
+                                 : " from the centre that satisfies all equilibrium conditions");
+    text.append(": the value shown is ").append(Format_Number(std::abs(excess) * 100, "0"));
+    text.append(excess > 0 ? " % higher" : " % lower");
     return {std::move(text), excess > 0 ? RemarkWeight::Unsafe : RemarkWeight::Note};
 }
 

@@ -296,10 +296,10 @@ Advice Lost_Digits_Remark(const SectionRecordset& record, const Property& proper
         return {};
     const bool much = std::abs(shown - stored) > littleLost * std::abs(stored);
     const bool whole = stored == std::trunc(stored);
-    return {"Stored value: " + Format_Number(stored, whole ? wholePattern : storedPattern)
-                                   .append(" ")
-                                   .append(Unit_Text(property, profile)),
-            much ? RemarkWeight::Caution : RemarkWeight::Note};
+    std::string value = Format_Number(stored, whole ? wholePattern : storedPattern);
+    value.append(" ").append(Unit_Text(property, profile));
+    return much ? Advice{"Use the stored value: " + value, RemarkWeight::Caution}
+                : Advice{"Stored value: " + value, RemarkWeight::Note};
 }
 
 std::string_view Unit_Text(const Property& property, Profile profile) {

@@ -14,7 +14,7 @@ namespace Tensarix {
 
 namespace {
 
-constexpr int noteSize = 6, cautionSize = 10; // pixels of the corner
+constexpr int noteSize = 6, cautionSize = 10, selectedSize = 14; // pixels of the corner
 constexpr int tipColumns = 60;
 constexpr int lineWidth = 2; // of the frame around what is unsafe
 constexpr int besideText = 3;
@@ -28,6 +28,16 @@ QColor Blend(const QColor& below, const QColor& above, double part) {
     const auto mix = [part](int a, int b) { return static_cast<int>(a + (b - a) * part); };
     return {mix(below.red(), above.red()), mix(below.green(), above.green()),
             mix(below.blue(), above.blue())};
+}
+
+QColor Mark_Colour(RemarkWeight weight, const QPalette& palette, bool selected) {
+    constexpr double quiet = 0.5;
+    const QColor text = palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+    if (weight == RemarkWeight::Note)
+        return Blend(palette.color(selected ? QPalette::Highlight : QPalette::Base), text, quiet);
+    return !selected                         ? text
+           : weight == RemarkWeight::Caution ? lightGrounds.Caution
+                                             : lightGrounds.Unsafe;
 }
 
 } // namespace
@@ -51,10 +61,9 @@ QColor Current_Row_Ground(const QPalette& palette) {
 }
 
 void Paint_Remark_Mark(QPainter& painter, const QRect& cell, RemarkWeight weight,
-                       const QPalette& palette) {
-    constexpr double quiet = 0.5;
+                       const QPalette& palette, bool selected) {
     const bool note = weight == RemarkWeight::Note;
-    const int size = note ? noteSize : cautionSize;
+    const int size = note ? noteSize : selected ? selectedSize : cautionSize;
     const QPoint corner = cell.topRight() + QPoint(1, 0);
     QPainterPath mark(corner);
     mark.lineTo(corner - QPoint(size, 0));
@@ -62,8 +71,7 @@ void Paint_Remark_Mark(QPainter& painter, const QRect& cell, RemarkWeight weight
     mark.closeSubpath();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor text = palette.color(QPalette::Text);
-    painter.fillPath(mark, note ? Blend(palette.color(QPalette::Base), text, quiet) : text);
+    painter.fillPath(mark, Mark_Colour(weight, palette, selected));
     painter.restore();
 }
 

@@ -250,18 +250,21 @@ TEST(BalanceRemark, StandsBeyondTheTolerance) {
     const BoltGroup group{3, 1, 3, 3};
     const double C = BoltCoefficientC(group, 8, 0, yield);
     const Advice none;
-    EXPECT_EQ(Balance_Remark(C, Balanced_Bolts(group, 8, 0), boltRemarkTolerance),
-              (Advice{"The centre that satisfies all equilibrium conditions gives C = 0.732 (this "
-                      "value is 310 % higher)",
-                      RemarkWeight::Unsafe}));
-    EXPECT_EQ(Balance_Remark(0.9, Balance{1.0}, 0.05),
-              (Advice{"The centre that satisfies all equilibrium conditions gives C = 1.000 (this "
-                      "value is 10 % lower)",
-                      RemarkWeight::Note}));
-    EXPECT_EQ(Balance_Remark(1.1, Balance{.C = 1, .ByLines = true}, 0.05),
-              (Advice{"AISC 360-05 J2.4(c), for lines along and across the load, gives C = 1.000 "
-                      "(this value is 10 % higher)",
-                      RemarkWeight::Unsafe}));
+    EXPECT_EQ(
+        Balance_Remark(C, Balanced_Bolts(group, 8, 0), boltRemarkTolerance),
+        (Advice{"Use C = 0.732 from the centre that satisfies all equilibrium conditions: the "
+                "value shown is 310 % higher",
+                RemarkWeight::Unsafe}));
+    EXPECT_EQ(
+        Balance_Remark(0.9, Balance{1.0}, 0.05),
+        (Advice{"C = 1.000 from the centre that satisfies all equilibrium conditions: the value "
+                "shown is 10 % lower",
+                RemarkWeight::Note}));
+    EXPECT_EQ(
+        Balance_Remark(1.1, Balance{.C = 1, .ByLines = true}, 0.05),
+        (Advice{"Use C = 1.000 from AISC 360-05 J2.4(c), for lines along and across the load: "
+                "the value shown is 10 % higher",
+                RemarkWeight::Unsafe}));
     EXPECT_EQ(Balance_Remark(4.5584, Balanced_Bolts({6, 1, 3, 3}, 4, 0), 0.025), none);
     EXPECT_EQ(Balance_Remark(1.0, std::nullopt, 0.025),
               (Advice{"Not checked: no centre that satisfies all equilibrium conditions was found",

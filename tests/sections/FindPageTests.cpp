@@ -284,7 +284,7 @@ TEST_F(ViewTest, TheRemarkOfACellStandsBesideItsText) {
     page.xShapeFlex.Move_To(1, 14); // Ix of W44x335
     EXPECT_EQ(desk.StatBar.Panel1(),
               " SELECTION:   W44x335  [W1100x499]    -->   Ix = 1x10^10 mm^4");
-    EXPECT_EQ(desk.StatBar.Remark(), "Stored value: 12,900,000,000 mm^4");
+    EXPECT_EQ(desk.StatBar.Remark(), "Use the stored value: 12,900,000,000 mm^4");
     page.xShapeFlex.Move_To(1, 2);
     EXPECT_EQ(desk.StatBar.Remark(), "");
     page.xShapeType.Select(5);

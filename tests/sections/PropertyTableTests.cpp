@@ -54,10 +54,10 @@ TEST(PropertyTable, LostDigitsAreToldWithTheStoredNumber) {
     const SectionRecordset w = Section("W44x335"), l = Section("L2x2x1/8");
     const auto caution = RemarkWeight::Caution, note = RemarkWeight::Note;
     EXPECT_EQ(Lost_Digits_Remark(w, ix, si, "1x10^10  "),
-              (Advice{"Stored value: 12,900,000,000 mm^4", caution}));
+              (Advice{"Use the stored value: 12,900,000,000 mm^4", caution}));
     EXPECT_EQ(Lost_Digits_Remark(w, ix, us, "31100.00  "), Advice{});
     EXPECT_EQ(Lost_Digits_Remark(l, Named(Layouts::SAngle, "Cw"), us, "0.0008  "),
-              (Advice{"Stored value: 0.000789 in^6", caution}));
+              (Advice{"Use the stored value: 0.000789 in^6", caution}));
     EXPECT_EQ(Lost_Digits_Remark(w, cw, si, "144x10^12  "), Advice{});
     EXPECT_EQ(Lost_Digits_Remark(w, cw, si, "145x10^12  "),
               (Advice{"Stored value: 144,000,000,000,000 mm^6", note}));

@@ -84,7 +84,7 @@ class Inspection {
     void Read(const QWidget& widget, const QString& text) {
         static const QRegularExpression comma(QStringLiteral("\\d,\\d")),
             weight(QStringLiteral("\\b\\d{1,3}(,\\d{3})+\\.\\d\\d\\b")),
-            stored(QStringLiteral("Stored value: \\d{1,3}(,\\d{3})+\\b"));
+            stored(QStringLiteral("[Ss]tored value: \\d{1,3}(,\\d{3})+\\b"));
         const bool weights = screen_.rfind("weights", 0) == 0;
         if (QString(text).remove(weights ? weight : stored).contains(comma))
             Complain(widget, ("has a comma: " + text.toStdString()).c_str());

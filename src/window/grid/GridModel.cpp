@@ -187,7 +187,8 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     if (index.data(GridModel::RemarkRole).isValid())
         Paint_Remark_Mark(*painter, option.rect,
-                          RemarkWeight(index.data(GridModel::WeightRole).toInt()), option.palette);
+                          RemarkWeight(index.data(GridModel::WeightRole).toInt()), option.palette,
+                          option.state.testFlag(QStyle::State_Selected));
     if (index.data(GridModel::UnsafeRowRole).toBool())
         Paint_Unsafe_Sign(*painter, option.rect, option.palette);
 }
