@@ -17,8 +17,8 @@ using namespace Drawn;
 constexpr std::string_view twoDecimals = "0.00";
 constexpr std::array methods{BeamMethod::ASD9th, BeamMethod::ASD13th, BeamMethod::LRFD13th};
 
-std::string Kips(double value) {
-    return Format_Number(value, twoDecimals) + " Kips";
+std::string Use(double value) {
+    return " (use " + Format_Number(value, twoDecimals) + ")";
 }
 
 bool Has_Load(const BeamLoad& load) {
@@ -146,18 +146,24 @@ BeamLoad Beam_Load(BeamMethod method, const BeamInput& input) {
                           method == BeamMethod::ASD13th ? DesignMethod::ASD : DesignMethod::LRFD);
 }
 
-Drawing Beam_Under_Load(const BeamLoad& load, double magnification) {
+Drawing Beam_Under_Load(const BeamLoad& load, double magnification,
+                        const std::optional<BeamLoad>& toUse) {
     const bool known = Has_Load(load);
     const double span = known ? load.SpanFeet : 1;
-    const auto words = [known](const std::string& symbol, const std::string& value) {
-        return known ? symbol + " = " + value : symbol;
+    const auto words = [&](const std::string& symbol, auto value, std::string_view unit) {
+        if (!known)
+            return symbol;
+        return symbol + " = " + Format_Number(value(load), twoDecimals) + std::string{unit} +
+               (toUse ? Use(value(*toUse)) : "");
     };
-    const double shear = load.EndReactionKips;
-    const double moment = load.LoadKipsPerFoot * span * span / 8;
-    const std::string w = words("w", Format_Number(load.LoadKipsPerFoot, twoDecimals) + " Kip/ft");
-    const std::string R = words("R", Kips((1 + magnification) * shear));
-    const std::string V = words("V", Kips(shear));
-    const std::string M = words("M", Format_Number(moment, twoDecimals) + " Kip-ft");
+    const std::string w = words(
+        "w", [](auto& l) { return l.LoadKipsPerFoot; }, " Kip/ft");
+    const std::string R = words(
+        "R", [=](auto& l) { return (1 + magnification) * l.EndReactionKips; }, " Kips");
+    const std::string V = words(
+        "V", [](auto& l) { return l.EndReactionKips; }, " Kips");
+    const std::string M = words(
+        "M", [=](auto& l) { return l.LoadKipsPerFoot * span * span / 8; }, " Kip-ft");
     Drawing drawing;
     drawing.Sentence = "A simply supported beam under a uniform load";
     if (known)
@@ -177,7 +183,8 @@ Drawing Beam_Under_Load(const BeamLoad& load, double magnification) {
     return drawing;
 }
 
-Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamLoad& present) {
+Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamLoad& present,
+                          const std::optional<BeamLoad>& toUse) {
     Drawing drawing;
     const BeamLoad boundary = Beam_Load(method, At_Span(input, 0));
     if (!Has_Load(present) || !Has_Load(boundary))
@@ -196,7 +203,8 @@ Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamL
     bending.Label = "Bending";
     drawing.Add(std::move(bending), Ink::Body, "Bending");
     const std::string point = Length_Text(present.SpanFeet) +
-                              ": w = " + Format_Number(present.LoadKipsPerFoot, twoDecimals);
+                              ": w = " + Format_Number(present.LoadKipsPerFoot, twoDecimals) +
+                              (toUse ? Use(toUse->LoadKipsPerFoot) : "");
     drawing.Add(Mark{{present.SpanFeet, present.LoadKipsPerFoot}, MarkKind::Dot, point},
                 Ink::Result, "Present");
     drawing.Add(CentreLine{{Lv, highest}, {Lv, 0}, "Boundary " + Length_Text(Lv)}, Ink::Axis,

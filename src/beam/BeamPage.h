@@ -85,8 +85,10 @@ class BeamPage {
     void Load_Factor(const std::string& text);
     void Show_Results(const BeamLoad& load);
     void Show_Span_Remark();
-    void Show_Drawings(const BeamInput& input, const BeamLoad& load);
-    Advice Rule_Remark(const BeamInput& input, const BeamLoad& load) const;
+    void Show_Drawings(const BeamInput& input, const BeamLoad& load,
+                       const std::optional<BeamLoad>& toUse);
+    std::optional<BeamLoad> Load_To_Use(const BeamInput& input, const BeamLoad& load) const;
+    Advice Rule_Remark(const BeamInput& input, const std::optional<BeamLoad>& toUse) const;
     std::string Left_Out(const BeamInput& input) const;
     BeamLoad By_Whole_Rules(const BeamInput& input, double spanFeet) const;
     std::string Unsaid(const BeamInput& input, const BeamLoad& load) const;

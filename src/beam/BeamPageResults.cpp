@@ -58,16 +58,18 @@ void BeamPage::CalculateValues() {
     boundary_ = load.BoundaryFeet;
     Show_Results(load);
     Show_Span_Remark();
-    Advice remark = Rule_Remark(input, load);
+    const std::optional<BeamLoad> toUse = Load_To_Use(input, load);
+    Advice remark = Rule_Remark(input, toUse);
     RuleRemark.Set_Caption(std::move(remark.Text), remark.Weight);
     LoadNotes.Set_Caption(Unsaid(input, load));
-    Show_Drawings(input, load);
+    Show_Drawings(input, load, toUse);
 }
 
-void BeamPage::Show_Drawings(const BeamInput& input, const BeamLoad& load) {
-    BeamSketch.Set_Drawing(Beam_Under_Load(load, Magnification()));
+void BeamPage::Show_Drawings(const BeamInput& input, const BeamLoad& load,
+                             const std::optional<BeamLoad>& toUse) {
+    BeamSketch.Set_Drawing(Beam_Under_Load(load, Magnification(), toUse));
     const BeamMethod method = Rules();
-    LoadPlot.Set_Drawing(Load_Against_Span(method, input, load));
+    LoadPlot.Set_Drawing(Load_Against_Span(method, input, load, toUse));
     LoadPlot.Tell = [method, input](const std::string&, Drawn::Point at) {
         return Load_At_Span(method, input, at.X);
     };
@@ -109,6 +111,8 @@ void BeamPage::Show_Span_Remark() {
 // What the rules leave out of this section.
 std::string BeamPage::Left_Out(const BeamInput& input) const {
     const BeamSection& section = input.Section;
+    if (section.d == 0 || input.YieldKsi == 0) // nothing was computed
+        return {};
     const float yield = input.YieldKsi;
     std::string text;
     if (Is_9th_Edition() && !Is_Compact_Flange(section, yield))
@@ -132,18 +136,22 @@ BeamLoad BeamPage::By_Whole_Rules(const BeamInput& input, double spanFeet) const
     return Whole_Rules_13th(input.Section, input.YieldKsi, spanFeet, Method(), Is_Channel());
 }
 
-// Where what is left out makes the load at this span too high, the one to use comes first.
-Advice BeamPage::Rule_Remark(const BeamInput& input, const BeamLoad& load) const {
-    if (input.Section.d == 0 || input.YieldKsi == 0) // nothing was computed
-        return {};
-    Advice remark{Left_Out(input)};
-    if (remark.Text.empty())
-        return remark;
+// Where what is left out makes the load at this span too high.
+std::optional<BeamLoad> BeamPage::Load_To_Use(const BeamInput& input, const BeamLoad& load) const {
+    if (Left_Out(input).empty())
+        return std::nullopt;
     const BeamLoad whole = By_Whole_Rules(input, load.SpanFeet);
     if (whole.EndReactionKips < sameReaction * load.EndReactionKips)
+        return whole;
+    return std::nullopt;
+}
+
+Advice BeamPage::Rule_Remark(const BeamInput& input, const std::optional<BeamLoad>& toUse) const {
+    Advice remark{Left_Out(input)};
+    if (toUse)
         Attempt([&] {
-            const double reaction = (1.0 + Magnification()) * whole.EndReactionKips;
-            remark = {"Use w = " + Format_Number(whole.LoadKipsPerFoot, loadPattern) +
+            const double reaction = (1.0 + Magnification()) * toUse->EndReactionKips;
+            remark = {"Use w = " + Format_Number(toUse->LoadKipsPerFoot, loadPattern) +
                           " Kip/ft, end reaction " + Format_Number(reaction, loadPattern) +
                           " Kips\n" + remark.Text,
                       RemarkWeight::Unsafe};

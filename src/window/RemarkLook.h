@@ -21,7 +21,7 @@ QColor Remark_Ground(RemarkWeight weight, const QPalette& palette);
 // The ground of the row in which the current cell lies.
 QColor Current_Row_Ground(const QPalette& palette);
 
-// In the upper right corner of a cell or head. On the selection, which hides the ground, it is light.
+// In the upper right corner of a cell or head. On the selection, which hides the ground, light.
 void Paint_Remark_Mark(QPainter& painter, const QRect& cell, RemarkWeight weight,
                        const QPalette& palette, bool selected = false);
 // At the left edge of the cell with the number of a row that has something unsafe in it.

@@ -33,7 +33,7 @@ std::string Words_Of(const Drawing& drawing, const std::string& name) {
 
 TEST(BeamDrawings, TheBeamTellsLoadSpanReactionsShearAndMoment) {
     const BeamLoad load = Beam_Load(BeamMethod::ASD13th, w21x48);
-    const Drawing drawing = Beam_Under_Load(load, 0.15);
+    const Drawing drawing = Beam_Under_Load(load, 0.15, {});
     EXPECT_EQ(Words_Of(drawing, "w"), "w = 3.39 Kip/ft");
     EXPECT_EQ(Words_Of(drawing, "R"), "R = 48.71 Kips"); // magnified
     EXPECT_EQ(Words_Of(drawing, "V"), "V = 42.36 Kips");
@@ -72,14 +72,18 @@ TEST(BeamDrawings, TheBeamTellsLoadSpanReactionsShearAndMoment) {
             {0, 25, 25}, {-0.375, 0.375, 0}, {24.625, 25.375, 25}, {0, 25, 0}, {0, 25, 12.5}}));
     EXPECT_NE(drawing.Sentence.find("w = 3.39 Kip/ft, end reaction R = 48.71"), std::string::npos);
     // Nothing chosen: the beam without a number.
-    EXPECT_EQ(Words_Of(Beam_Under_Load({}, 0), "w"), "w");
+    EXPECT_EQ(Words_Of(Beam_Under_Load({}, 0, {}), "w"), "w");
+    // Another load to use.
+    BeamLoad less = load;
+    less.LoadKipsPerFoot /= 2;
+    EXPECT_EQ(Words_Of(Beam_Under_Load(load, 0, less), "M"), "M = 264.74 Kip-ft (use 132.37)");
 }
 
 TEST(BeamDrawings, TheCurveIsTheRulesOwn) {
     for (const BeamMethod method :
          {BeamMethod::ASD9th, BeamMethod::ASD13th, BeamMethod::LRFD13th}) {
         const BeamLoad load = Beam_Load(method, w21x48);
-        const Drawing plot = Load_Against_Span(method, w21x48, load);
+        const Drawing plot = Load_Against_Span(method, w21x48, load, {});
         const auto bending = Parts_Of<Curve>(plot, "Bending").front().Points;
         EXPECT_NEAR(bending.front().X, load.BoundaryFeet, 1e-12);
         EXPECT_NEAR(bending.back().X, plot.Frame->XTo, 1e-9);
@@ -99,7 +103,7 @@ TEST(BeamDrawings, TheCurveIsTheRulesOwn) {
                                 }),
                   2);
     }
-    EXPECT_TRUE(Load_Against_Span(BeamMethod::ASD9th, {}, {}).Empty());
+    EXPECT_TRUE(Load_Against_Span(BeamMethod::ASD9th, {}, {}, {}).Empty());
 }
 
 TEST(BeamDrawings, PointingReadsTheCurveOff) {
