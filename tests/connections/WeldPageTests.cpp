@@ -122,7 +122,7 @@ TEST_F(WeldPageTest, AConvergedRun) {
     EXPECT_EQ(p.CBox.Text().size(), std::string("2.73387  ").size());
     EXPECT_EQ(p.CBox.Fore(), 0u);
     EXPECT_EQ(p.ElapsedIndicator.Caption(), "Iteration Time »  00h:00m:00s ");
-    EXPECT_TRUE(p.CRemark.Caption().starts_with("The centre that satisfies"));
+    EXPECT_TRUE(p.CRemark.Caption().starts_with("Use C = "));
 }
 
 TEST_F(WeldPageTest, ConcentricAndByStrip) {
