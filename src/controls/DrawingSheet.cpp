@@ -222,7 +222,7 @@ void Sheet::Add_Head(const Part& part, Point tip, Point from) {
          part.Name});
 }
 
-std::vector<Point> Sheet::Circle_Points(Point centre, double radius) const {
+std::vector<Point> Sheet::Circle_Points(Point centre, double radius) {
     std::vector<Point> points;
     for (int i = 0; i <= circlePieces; ++i) {
         const double angle = 2 * std::numbers::pi * i / circlePieces;

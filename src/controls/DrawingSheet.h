@@ -61,7 +61,7 @@ class Sheet {
     void Draw_CentreLine(const Part& part, const CentreLine& line);
     void Add_Stroke(const Part& part, std::vector<Point> points, Weight width, Pattern dash);
     void Add_Head(const Part& part, Point tip, Point from);
-    std::vector<Point> Circle_Points(Point centre, double radius) const;
+    static std::vector<Point> Circle_Points(Point centre, double radius);
 
     // Labels.
     // In which care a place is looked for, the most careful first.

@@ -185,7 +185,7 @@ TEST(CalcClipboard, TakesANumberAsIfKeyed) {
                     CalcTest calc, sum;
                     calc.Keys("2 + 77 exp 3");
                     EXPECT_TRUE(Key_In_Number(calc.Form, " " + text)) << text;
-                    const std::string shown = calc.Shown();
+                    std::string shown = calc.Shown();
                     sum.Keys("2 + 1 frc 3");
                     Key_In_Number(sum.Form, text);
                     EXPECT_EQ(calc.Keys("- 2 =").Shown(), sum.Keys("- 2 =").Shown()) << text;
