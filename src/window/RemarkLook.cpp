@@ -22,7 +22,7 @@ constexpr int besideText = 3;
 struct Grounds {
     QRgb Caution, Unsafe;
 };
-constexpr Grounds lightGrounds{0xFFF3C4, 0xFFC04D}, darkGrounds{0x40391B, 0x7A4A00};
+constexpr Grounds lightGrounds{0xFFF3C4, 0xFFC04D}, darkGrounds{0x40391B, 0x663C00};
 
 QColor Blend(const QColor& below, const QColor& above, double part) {
     const auto mix = [part](int a, int b) { return static_cast<int>(a + (b - a) * part); };

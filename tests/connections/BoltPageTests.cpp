@@ -20,13 +20,21 @@ class BoltPageTest : public testing::Test {
         page->Start();
         return *page;
     }
-    // As typed: the editor is opened, filled and left by Enter.
-    void Type(int row, int col, const std::string& text) {
+    // Opens the editor and fills it, and leaves it by Enter.
+    void Begin(int row, int col, const std::string& text) {
         page->cFlex.Move_To(row, col);
         page->cFlex.OnKeyDown(Keys::F2);
         page->EdiTxt.Set_Text(text);
+    }
+    void Type(int row, int col, const std::string& text) {
+        Begin(row, col, text);
         page->EdiTxt.OnKeyDown(Keys::Enter);
     }
+    void Delete(int row, int col) {
+        page->cFlex.Move_To(row, col);
+        page->cFlex.OnKeyDown(Keys::Delete);
+    }
+    std::string Row(int row) { return page->cFlex.Clip_Of(row, 1, row, BoltColumn::CPrime); }
     void Type_Row(int row, const std::vector<std::string>& texts) {
         int col = 1;
         for (const std::string& text : texts)
@@ -37,6 +45,7 @@ class BoltPageTest : public testing::Test {
     std::filesystem::path File() { return machine.Data.Path / boltFileName; }
 };
 
+const std::string noTexts(BoltColumn::Count - 2, '\t'); // of a row
 const std::vector<std::string> sixInLine{"6", "1", "3", "3", "4", "0"};
 const std::vector<std::string> overshooting{"6", "2", "3", "3", "6", "75"};
 
@@ -173,10 +182,8 @@ TEST_F(BoltPageTest, TheLineUnderTheTableNamesEachRowNotToUse) {
     Type(3, 5, "9");
     EXPECT_TRUE(meanwhile.starts_with("Row 3: computing")) << meanwhile;
     machine.Events.OnYield = nullptr;
-    p.cFlex.Move_To(4, 3);
-    p.cFlex.OnKeyDown(Keys::Delete);
-    p.cFlex.Move_To(3, 3);
-    p.cFlex.OnKeyDown(Keys::Delete);
+    Delete(4, 3);
+    Delete(3, 3);
     EXPECT_EQ(p.Verdicts.Text(), "All rows in equilibrium within 2.5 %");
     p.cFlex.Set_Text(1, BoltColumn::C, "4.000  "); // as another program may have saved it
     p.SaveButton.Click();
@@ -237,9 +244,7 @@ TEST_F(BoltPageTest, SaveAndTheNextStart) {
     Type_Row(6, {"6", "1"}); // not complete: not saved
     p.AddRowButton.Click();
     Type_Row(16, sixInLine);
-    p.cFlex.Move_To(16, 5);
-    p.cFlex.OnKeyDown(Keys::F2);
-    p.EdiTxt.Set_Text("0"); // still in the editor
+    Begin(16, 5, "0"); // still in the editor
     p.SaveButton.Click();
     EXPECT_EQ(machine.Boxes.Shown.back(), "Warning:|Entries succesfully Saved ! |information");
     const std::size_t messages = machine.Boxes.Shown.size();
@@ -271,8 +276,7 @@ TEST_F(BoltPageTest, ClearAsksAndDeletesTheFile) {
     EXPECT_EQ(Cell(1, 7), "4.558  ");
     machine.Boxes.Answer = true;
     p.ClearButton.Click();
-    for (int col = 1; col < BoltColumn::Count; ++col)
-        EXPECT_EQ(Cell(1, col) + Cell(2, col), "") << col;
+    EXPECT_EQ(Row(1) + Row(2), noTexts + noTexts);
     EXPECT_EQ(Cell(1, 0), "1");
     EXPECT_FALSE(std::filesystem::exists(File()));
     EXPECT_TRUE(std::filesystem::is_empty(machine.Data.Path));
@@ -314,8 +318,7 @@ TEST_F(BoltPageTest, ABlockOfRowsIsPastedWholeOrNotAtAll) {
     EXPECT_EQ(Cell(2, 1), "6.000  ");
     p.cFlex.Select_Range(2, 1, 3, 6);
     p.cFlex.OnKeyDown(Keys::Delete);
-    for (int col = 1; col < BoltColumn::Count; ++col)
-        EXPECT_EQ(Cell(2, col) + Cell(3, col), "") << col;
+    EXPECT_EQ(Row(2) + Row(3), noTexts + noTexts);
 }
 
 // An edit and a clearing come back with their results.
@@ -399,10 +402,7 @@ TEST_F(BoltPageTest, TheNewestInputsResultStands) {
     EXPECT_EQ(Cell(1, 7), "12.000  ");
     EXPECT_EQ(Cell(2, 7), "4.558  ");
 
-    during([&] {
-        p.cFlex.Move_To(1, 4);
-        p.cFlex.OnKeyDown(Keys::Delete);
-    });
+    during([&] { Delete(1, 4); });
     EXPECT_EQ(Cell(1, 7) + Cell(1, 8) + Remark(1), "");
 
     during([&] {
@@ -424,8 +424,7 @@ TEST_F(BoltPageTest, ARowRemovedWhileItIsComputed) {
         return true;
     };
     Type_Row(16, overshooting);
-    for (int col = 1; col < BoltColumn::Count; ++col)
-        EXPECT_EQ(Cell(16, col), "") << col;
+    EXPECT_EQ(Row(16), noTexts);
 }
 
 // A click on the last row commits first; by the time the row is gone.
@@ -433,9 +432,7 @@ TEST_F(BoltPageTest, TheRowThatIsGoneToIsRemovedMeanwhile) {
     BoltPage& p = Start();
     p.AddRowButton.Click();
     Type_Row(1, {"6", "2", "3", "3", "6"});
-    p.cFlex.Move_To(1, 6);
-    p.cFlex.OnKeyDown(Keys::F2);
-    p.EdiTxt.Set_Text("75");
+    Begin(1, 6, "75");
     machine.Events.OnYield = [&] {
         p.RemRowButton.Click();
         return true;
@@ -459,9 +456,7 @@ TEST_F(BoltPageTest, ClosingEndsSearchesAtAnyDepthAndShowsNoMessage) {
     };
     p.cFlex.Move_To(1, 1);
     Type_Row(1, {"6", "2", "3", "3", "6"});
-    p.cFlex.Move_To(1, 6);
-    p.cFlex.OnKeyDown(Keys::F2);
-    p.EdiTxt.Set_Text("75");
+    Begin(1, 6, "75");
     p.SaveButton.Click(); // commits first, which starts the search
     EXPECT_EQ(depth, 6);
     EXPECT_TRUE(machine.Boxes.Shown.empty());
