@@ -122,6 +122,9 @@ TEST(WeldDrawing, TheCurvesOfASearchMeetAtItsEnd) {
     const Curve moments = Parts_Of<Curve>(plot, "Fy[m]").at(0);
     EXPECT_EQ(vertical.Points.back(), (Point{5, 50}));
     EXPECT_EQ(moments.Points.back(), (Point{5, 50}));
+    for (const auto& [now, due] :
+         {std::pair{10.0, true}, {10.2, false}, {10.25, true}, {3.0, true}})
+        EXPECT_EQ(passes.Is_Plot_Due(now), due) << now; // also on a clock that was set back
     const Size view{300, 220};
     Expect_Texts_Apart(Laid_Out(plot, view), view);
 }
