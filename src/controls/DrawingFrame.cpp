@@ -9,7 +9,7 @@ namespace Tensarix::Drawn {
 namespace {
 
 // In heights of a line of text.
-constexpr double tickGap = 0.3, leastBetweenTicks = 1.6;
+constexpr double tickGap = 0.3, leastBetweenTicks = 1.6, mostTicks = 10;
 constexpr double legendGap = 0.5, legendLine = 2.6, legendStep = 1.2;
 
 } // namespace
@@ -48,14 +48,14 @@ void Sheet::Draw_Legend(const Axes& axes) {
     }
 }
 
-// Round numbers along one of the axes, as close as their texts allow.
+// Round numbers along one of the axes, as close as their texts allow, but not too many.
 void Sheet::Draw_Ticks(const Axes& axes, bool upright) {
     const Part grid{Line{}, Ink::Quiet, {}};
     const double from = upright ? axes.YFrom : axes.XFrom, to = upright ? axes.YTo : axes.XTo;
     const double scale = upright ? layout_.YScale : layout_.XScale;
     const double widest = std::max(measure_(General_Text(Round_Step(to))).Width, 2 * em_);
     const double room = upright ? leastBetweenTicks * em_ : widest + em_;
-    const double step = Round_Step(room / scale);
+    const double step = Round_Step(std::max(room / scale, (to - from) / mostTicks));
     for (double k = std::ceil(from / step - 1e-9); k * step <= to + 1e-9 * step; ++k) {
         const std::string words = General_Text(k * step);
         const Point at =
