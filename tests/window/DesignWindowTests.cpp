@@ -106,7 +106,10 @@ TEST_F(DesignWindowTest, AddedRowsAreInView) {
 TEST_F(DesignWindowTest, ConfigurationsByTheArrowKeys) {
     To_Welds();
     auto& list = Find<IconList>("WeldView");
-    list.setFocus();
+    const ScreenReader reader;
+    list.setFocus(Qt::TabFocusReason);
+    Settle();
+    EXPECT_EQ(ScreenReader::Told(), (QStringList{list.accessibleName(), "Weld Configuration 1"}));
     QTest::keyClick(&list, Qt::Key_Down);
     QTest::keyClick(&list, Qt::Key_Down);
     Settle();

@@ -89,6 +89,10 @@ TEST_F(GridWindowTest, TheEditorLiesOverItsCellAndSaysWhereItIs) {
     QTest::keyClick(&editor, ','); // refused, and answered
     EXPECT_EQ(editor.text(), "7");
     EXPECT_EQ(program->Form().Shared.StatBar.Remark(), "Type the decimal point as .");
+    ScreenReader::Told();
+    QTest::keyClick(&editor, Qt::Key_Tab);
+    Settle();
+    EXPECT_EQ(ScreenReader::Told().filter("cell").size(), 1) << "the one that Tab goes to";
 }
 
 TEST_F(GridWindowTest, TheSortMarkStandsInsideItsHead) {

@@ -3,11 +3,11 @@
 #include "common/NumberText.h"
 #include "window/Bind.h"
 #include "window/Link.h"
+#include "window/TellCurrentItem.h"
 #include "window/To_Qt.h"
 #include "window/grid/GridModel.h"
 #include "window/grid/HeadView.h"
 
-#include <QAccessible>
 #include <QItemSelection>
 #include <QMouseEvent>
 #include <QRegularExpression>
@@ -468,15 +468,7 @@ void GridView::selectionChanged(const QItemSelection& selected, const QItemSelec
 
 void GridView::Tell_Current_Cell() {
     untold_ = false;
-    QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(this);
-    const QModelIndex current = currentIndex();
-    if (!QAccessible::isActive() || !table || !current.isValid())
-        return;
-    if (QAccessibleInterface* const cell =
-            table->tableInterface()->cellAt(current.row(), current.column())) {
-        QAccessibleEvent event(cell, QAccessible::Focus);
-        QAccessible::updateAccessibility(&event);
-    }
+    Tell_Current_Item(*this);
 }
 
 bool GridView::eventFilter(QObject* watched, QEvent* event) {

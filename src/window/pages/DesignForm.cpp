@@ -112,6 +112,7 @@ QWidget* Make_Weld_Form(WeldPage& page, QWidget* parent) {
     Lay_Over(ui.WeldFlex, page.WeldFlex, page.EdiTxtA, QStringLiteral("EdiTxtA"),
              QStringLiteral("Weld parameter"));
     Show_Whole(ui.WeldFlex);
+    ui.WeldFlex->Take_What_Is_Needed();
     Bind(ui.WeldStripBox, page.WeldStripBox);
     Bind(ui.IterationDisplayBox, page.IterationDisplayBox);
     const QFontMetrics metrics = ui.IterationDisplayBox->fontMetrics();

@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "window/Link.h"
+#include "window/TellCurrentItem.h"
 #include "window/Theme.h"
 #include "window/To_Qt.h"
 
@@ -92,6 +93,17 @@ void IconList::keyPressEvent(QKeyEvent* event) {
     chosenByPress_ = false; // no click follows
     if (event->key() == Qt::Key_Space)
         Clicked(currentRow());
+}
+
+void IconList::focusInEvent(QFocusEvent* event) {
+    QListWidget::focusInEvent(event);
+    QMetaObject::invokeMethod( // after the list itself has been told
+        this,
+        [this] {
+            if (hasFocus())
+                Tell_Current_Item(*this);
+        },
+        Qt::QueuedConnection);
 }
 
 QSize IconList::sizeHint() const {

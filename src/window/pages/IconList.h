@@ -22,6 +22,7 @@ class IconList : public QListWidget {
   protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
   private:
     void Pull();
