@@ -1,6 +1,6 @@
 # Two ways to install:
 #   portable  what `cmake --install` does: program, store and guide beside each other in one folder
-#             of the user's, so that the data files stay there too
+#             of the user's, so that the data files stay there too; and what Windows' packages hold
 #   system    what the Debian package holds: `cmake --build build/release --target package`
 
 if(CMAKE_INSTALL_PREFIX_INITIALIZED_TO_DEFAULT) # /usr/local is no place for a portable folder
@@ -19,9 +19,18 @@ install(FILES ${section_store} ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION . COMPONE
 set(guide_pages ${CMAKE_SOURCE_DIR}/docs/guide.md ${CMAKE_SOURCE_DIR}/docs/calculator.md
   ${CMAKE_SOURCE_DIR}/docs/validation.md)
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/program)
-file(CREATE_LINK ${CMAKE_SOURCE_DIR}/docs ${CMAKE_BINARY_DIR}/program/guide SYMBOLIC)
+file(CREATE_LINK ${CMAKE_SOURCE_DIR}/docs ${CMAKE_BINARY_DIR}/program/guide SYMBOLIC RESULT failed)
+if(failed) # not every user of Windows may make links
+  file(COPY ${guide_pages} ${CMAKE_SOURCE_DIR}/docs/pictures
+    DESTINATION ${CMAKE_BINARY_DIR}/program/guide)
+endif()
 install(FILES ${guide_pages} DESTINATION guide COMPONENT portable)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures DESTINATION guide COMPONENT portable)
+
+if(WIN32)
+  include(${CMAKE_CURRENT_LIST_DIR}/InstallWindows.cmake)
+  return()
+endif()
 
 macro(tensarix_system what)
   install(${what} ${ARGN} COMPONENT system EXCLUDE_FROM_ALL)

@@ -1,22 +1,23 @@
 // A folder of its own for a test.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
+#include <random>
 #include <string>
 #include <system_error>
 
 namespace Tensarix::Tests {
 
-// Gone with the object, whatever became of its permissions.
+// Gone with the object, whatever became of its permissions. Its name is not of ASCII alone.
 class FreshFolder {
   public:
     FreshFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tensarix-XXXXXX").string();
-        if (!mkdtemp(name.data()))
-            throw std::runtime_error("no temporary folder");
-        Path = name;
+        std::random_device random;
+        do
+            Path =
+                std::filesystem::temp_directory_path() /
+                (u8"tensarix \u00FC" + std::filesystem::path(std::to_string(random())).u8string());
+        while (!std::filesystem::create_directory(Path));
     }
     ~FreshFolder() {
         std::error_code ignored;

@@ -17,7 +17,8 @@ namespace Tensarix::Tests {
 class PlainStore {
   public:
     explicit PlainStore(const std::filesystem::path& folder = TENSARIX_PROGRAM_DIR) {
-        EXPECT_EQ(sqlite3_open((folder / sectionStoreFile).c_str(), &database_), SQLITE_OK);
+        EXPECT_EQ(sqlite3_open((folder / sectionStoreFile).string().c_str(), &database_),
+                  SQLITE_OK);
     }
     ~PlainStore() { sqlite3_close(database_); }
     PlainStore(const PlainStore&) = delete;

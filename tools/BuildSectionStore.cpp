@@ -109,7 +109,8 @@ void Insert_Sections(const Database& database, const std::vector<SectionRow>& ro
 
 void Write_Store(const std::filesystem::path& path, const std::vector<SectionRow>& rows) {
     sqlite3* raw = nullptr;
-    const int result = sqlite3_open(path.string().c_str(), &raw);
+    const std::u8string name = path.u8string();
+    const int result = sqlite3_open(reinterpret_cast<const char*>(name.c_str()), &raw);
     const Database database{raw};
     Need(raw, result);
     Run(database, "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF");

@@ -62,7 +62,7 @@ QString File_Name(const std::string& screen, const QString& suffix) {
 // With a home of its own, so that every tour starts as the first.
 bool Take_Pictures(const Wishes& wishes, const QString& suffix) {
     const QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "LOCALAPPDATA"})
         qputenv(name, home.path().toLocal8Bit());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path());
     Program program({Program_Folders().Program, home.path().toStdString()},

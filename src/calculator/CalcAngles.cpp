@@ -1,5 +1,6 @@
 #include "calculator/CalcAngles.h"
 
+#include "calculator/CalcCircle.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcText.h"
 #include "common/Failure.h"
@@ -80,13 +81,13 @@ Advice Turns_Remark(const CalcVariables& vars, double angle) {
 double Sine(const CalcVariables& vars, double angle) {
     if (Is_One_Of(vars, angle, 180, 360, zeroPlaces))
         return 0;
-    return Snap14(std::sin(To_Circle(vars, angle)));
+    return Snap14(Circle_Sine(To_Circle(vars, angle)));
 }
 
 double Cosine(const CalcVariables& vars, double angle) {
     if (Is_One_Of(vars, angle, 90, 270, zeroPlaces))
         return 0;
-    return Snap14(std::cos(To_Circle(vars, angle)));
+    return Snap14(Circle_Cosine(To_Circle(vars, angle)));
 }
 
 double Tangent(const CalcVariables& vars, double angle) {
@@ -95,7 +96,7 @@ double Tangent(const CalcVariables& vars, double angle) {
     if (Is_One_Of(vars, angle, 180, 360, tangentPlaces))
         return 0;
     const double circle = To_Circle(vars, angle);
-    return Snap14(Finite(std::sin(circle) / std::cos(circle)));
+    return Snap14(Finite(Circle_Sine(circle) / Circle_Cosine(circle)));
 }
 
 double Inverse_Sine(const CalcVariables& vars, double value) {

@@ -1,6 +1,7 @@
 #include "calculator/CalcConversions.h"
 
 #include "calculator/CalcAngles.h"
+#include "calculator/CalcCircle.h"
 #include "calculator/CalcClock.h"
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
@@ -34,8 +35,8 @@ void Complete_Polar(CalcVariables& vars) {
     ConversionState& conversion = vars.Conversion;
     const double angle = To_Circle(vars, Shown_Value(vars));
     const double radius = conversion.PolarRadius.value_or(0);
-    conversion.SecondResult = vars.Pending.Running ? 0 : Finite(std::sin(angle) * radius);
-    conversion.PolarRadius = Finite(std::cos(angle) * radius);
+    conversion.SecondResult = vars.Pending.Running ? 0 : Finite(Circle_Sine(angle) * radius);
+    conversion.PolarRadius = Finite(Circle_Cosine(angle) * radius);
     vars.Entry.EntryText = Number_Text(*conversion.PolarRadius);
 }
 

@@ -3,6 +3,9 @@
 #include <system_error>
 
 #ifdef _WIN32
+#include <chrono>
+#include <thread>
+
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
@@ -19,6 +22,13 @@ namespace fs = std::filesystem;
 
 #ifdef _WIN32
 
+namespace {
+
+constexpr int tries = 50;
+constexpr std::chrono::milliseconds betweenTries{10};
+
+} // namespace
+
 OpenFile Make_New_File(const fs::path& path, std::optional<fs::perms>) {
     const int file = _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_EXCL | _O_NOINHERIT,
                             _S_IREAD | _S_IWRITE);
@@ -33,6 +43,10 @@ bool Give_Name(OpenFile file, const fs::path& path, const fs::path& name) {
     file.reset(); // an open one keeps its name
     std::error_code error;
     fs::rename(path, name, error);
+    for (int i = 0; error && i < tries; ++i) { // whoever reads the old one holds it for a moment
+        std::this_thread::sleep_for(betweenTries);
+        fs::rename(path, name, error);
+    }
     return !error;
 }
 

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view ending = ".new";
+const fs::path ending = ".new";
 constexpr int digits = 8, tries = 10;
 
 fs::path Fresh_Name(const fs::path& target) {
@@ -22,21 +22,24 @@ fs::path Fresh_Name(const fs::path& target) {
     for (int i = 0; i < digits; ++i)
         name += "0123456789abcdef"[random() % 16];
     fs::path fresh = target;
-    return fresh += name.append(ending);
+    fresh += name;
+    return fresh += ending;
 }
 
-bool Is_Fresh_Name(const std::string& name, const std::string& target) {
-    return name.size() == target.size() + 1 + digits + ending.size() &&
-           name.starts_with(target + ".") && name.ends_with(ending);
+// In the system's own characters: not every name of a file is a text.
+bool Is_Fresh_Name(const fs::path::string_type& name, const fs::path::string_type& begin) {
+    const auto& end = ending.native();
+    return name.size() == begin.size() + digits + end.size() && name.starts_with(begin) &&
+           name.ends_with(end);
 }
 
 // What programs have left that were killed.
 void Remove_Left_Over(const fs::path& target) {
-    const std::string name = target.filename().string();
+    const fs::path begin = target.filename() += ".";
     std::error_code error;
     fs::directory_iterator entry(target.has_parent_path() ? target.parent_path() : ".", error);
     for (; !error && entry != fs::directory_iterator{}; entry.increment(error))
-        if (Is_Fresh_Name(entry->path().filename().string(), name))
+        if (Is_Fresh_Name(entry->path().filename().native(), begin.native()))
             Remove_If_Left(entry->path());
 }
 

@@ -25,6 +25,13 @@ constexpr int typedSearchMs = 1500; // a designation is typed slower than a word
 
 } // namespace
 
+void Program::Prepare_Toolkit() {
+#ifdef _WIN32 // its palette follows the system's dark mode, which newer toolkits do by themselves
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
+#endif
+}
+
 void Program::Prepare_Application() {
     const QString title = To_Qt(applicationTitle);
     QApplication::setApplicationName(title);

@@ -7,12 +7,17 @@
 #include "weights/WtCalcsFrmA.h"
 #include "window/desktop/APIModule.h"
 #include "window/desktop/DesktopClipboard.h"
-#include "window/desktop/DesktopVoice.h"
 #include "window/desktop/IniSettings.h"
 #include "window/desktop/MessageBoxes.h"
 #include "window/desktop/SingleInstance.h"
 #include "window/desktop/UserFolders.h"
 #include "window/pages/ProgramWindow.h"
+
+#ifdef _WIN32
+#include "window/desktop/SapiVoice.h"
+#else
+#include "window/desktop/DesktopVoice.h"
+#endif
 
 #include <memory>
 
@@ -20,8 +25,17 @@ class QDialog;
 
 namespace Tensarix {
 
+#ifdef _WIN32
+using SystemVoice = SapiVoice;
+#else
+using SystemVoice = DesktopVoice;
+#endif
+
 class Program final : public Dialogs {
   public:
+    // Before the toolkit starts: what it is to be told through the environment.
+    static void Prepare_Toolkit();
+
     // The token is what the desktop gave this start (Activation_Token).
     explicit Program(const Folders& folders = Program_Folders(),
                      std::unique_ptr<Clock> clock = std::make_unique<SteadyClock>(),
@@ -51,7 +65,7 @@ class Program final : public Dialogs {
     SingleInstance instance_; // ends last, when the settings have been saved
     IniSettings settings_;
     DesktopClipboard clipboard_;
-    DesktopVoice voice_;
+    SystemVoice voice_;
     MessageBoxes messages_;
     std::unique_ptr<Clock> clock_;
     DesktopEvents events_;

@@ -9,6 +9,9 @@ class ProgramStyle final : public QProxyStyle {
     Q_OBJECT
 
   public:
+#ifdef _WIN32 // of its own styles there the toolkit's has no dark mode
+    ProgramStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+#endif
     // A drop-down list hangs below its box, as long as it says and with a scroll bar: one of 274
     // sections would else fill the screen.
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

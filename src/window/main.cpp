@@ -4,6 +4,7 @@
 
 int main(int argc, char** argv) {
     using namespace Tensarix;
+    Program::Prepare_Toolkit();
     const QByteArray activationToken = Activation_Token();
     QApplication application(argc, argv);
     Program::Prepare_Application();

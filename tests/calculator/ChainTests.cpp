@@ -199,6 +199,18 @@ TEST(CalcFunctions, AgreeWithTheLibraryToThirteenDigits) {
     }
 }
 
+// All their digits are right, where a processor's own cosine has six or seven.
+TEST(CalcFunctions, CosinesNearZero) {
+    const struct {
+        const char *Keys, *Shown;
+    } cases[] = {
+        {"RadButton 10.9955742875643 cos", "2.44403693719019-14"},
+        {"RadButton 1.5707963267949 pm cos", "-3.2694367339181-15"},
+    };
+    for (const auto& each : cases)
+        EXPECT_EQ(CalcTest().Keys(each.Keys).Shown(), each.Shown) << each.Keys;
+}
+
 // A number, with or without an exponent; or alone a fraction, an angle, or a message. The user
 // takes any row of each dialog, or leaves it.
 TEST(CalcFuzz, ThePanelHoldsOneOfItsForms) {

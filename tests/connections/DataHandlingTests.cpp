@@ -7,7 +7,9 @@
 #include <fstream>
 #include <random>
 
+#ifndef _WIN32
 #include <unistd.h>
+#endif
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -136,6 +138,8 @@ TEST_F(BoltFileTest, WhatIsNoFileIsToldAndLeftAlone) {
     EXPECT_TRUE(std::filesystem::is_directory(path));
 }
 
+#ifndef _WIN32
+
 // The superuser reads everything: for him another user tries.
 TEST_F(BoltFileTest, AFileThatCannotBeReadIsLeftWhereItIs) {
     WriteBoltFile(Two_Rows(), path, boxes);
@@ -150,6 +154,8 @@ TEST_F(BoltFileTest, AFileThatCannotBeReadIsLeftWhereItIs) {
     EXPECT_TRUE(std::filesystem::exists(path));
     EXPECT_FALSE(std::filesystem::exists(aside));
 }
+
+#endif
 
 TEST_F(BoltFileTest, AFailedWriteLeavesTheOldFile) {
     WriteBoltFile(Two_Rows(), path, boxes);

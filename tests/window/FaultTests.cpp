@@ -112,7 +112,7 @@ class FaultTest : public testing::Test {
     }
     void Expect_Up_And_Down() {
         const auto process = Launch_Tensarix(home.path());
-        EXPECT_TRUE(Comes_Up(home.path()));
+        EXPECT_TRUE(Comes_Up());
         EXPECT_EQ(process->state(), QProcess::Running);
         Kill(*process);
         Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
@@ -177,7 +177,7 @@ TEST_F(FaultTest, WithoutRoomTheOldFilesStay) {
         EXPECT_EQ(Left_Over(), Names{});
         Leave_Room(program, room, SIG_IGN);
         program.start(home.filePath("tensarix"), QStringList());
-        EXPECT_TRUE(Comes_Up(home.path()));
+        EXPECT_TRUE(Comes_Up());
         Kill(program);
         QFile::remove(home.filePath("tensarix.socket"));
     }

@@ -1,6 +1,8 @@
 // Real processes of the program, and how they are asked whether they are up.
 #pragma once
 
+#include "window/desktop/UserFolders.h"
+
 #include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
@@ -13,6 +15,11 @@
 
 namespace Tensarix::Tests {
 
+#ifdef _WIN32
+inline constexpr char programName[] = "/tensarix.exe";
+#else
+inline constexpr char programName[] = "/tensarix";
+#endif
 inline constexpr int patienceMs = 60000; // for what takes well under a second on a free machine
 
 inline std::unique_ptr<QProcess> Launch(const QString& program, const QStringList& arguments = {}) {
@@ -22,7 +29,7 @@ inline std::unique_ptr<QProcess> Launch(const QString& program, const QStringLis
 }
 
 inline bool Copy_Program(const QString& folder) {
-    for (const char* name : {"/tensarix", "/ShapeDataBase.mdb"})
+    for (const char* name : {programName, "/ShapeDataBase.mdb"})
         if (!QFile::copy(TENSARIX_PROGRAM_DIR + QString(name), folder + name))
             return false;
     return true;
@@ -37,7 +44,7 @@ inline QString Shared_Copy() {
 }
 
 inline std::unique_ptr<QProcess> Launch_Tensarix(const QString& folder = Shared_Copy()) {
-    return Launch(folder + QStringLiteral("/tensarix"));
+    return Launch(folder + QLatin1String(programName));
 }
 
 inline void Kill(QProcess& process) {
@@ -46,11 +53,11 @@ inline void Kill(QProcess& process) {
 }
 
 // A program is up once it answers that its window has been raised.
-inline bool Comes_Up(const QString& home) {
+inline bool Comes_Up() {
     return QTest::qWaitFor(
-        [&home] {
+        [] {
             QLocalSocket socket;
-            socket.connectToServer(home + QStringLiteral("/tensarix.socket"));
+            socket.connectToServer(Instance_Address());
             if (!socket.waitForConnected(patienceMs))
                 return false;
             socket.write("\n"); // the wish, without a token

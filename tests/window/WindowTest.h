@@ -17,7 +17,8 @@ namespace Tensarix::Tests {
 
 // Sets the folders of the user to a fresh one, for this process and those that it starts.
 inline void Use_Home(const QString& folder) {
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+    for (const char* name :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "LOCALAPPDATA"})
         qputenv(name, folder.toLocal8Bit());
 }
 

@@ -1,7 +1,10 @@
 # shellcheck shell=bash
 # The libraries of the program for Windows, from the sources of Debian's own packages: Qt's base
-# module and SQLite. Sourced by build.sh, which has set $windows and $libraries.
-# shellcheck disable=SC2154
+# module and SQLite. Sourced by build.sh and test.sh.
+
+windows=$PWD/build/windows
+libraries=$windows/libraries
+mkdir -p "$windows"
 
 # apt asked with the source packages of the archives that this machine uses, beside its own lists.
 apt_source() {
@@ -60,4 +63,38 @@ build_sqlite() {
             cp "$windows/sqlite/sqlite3.h" "$libraries/include/" &&
             x86_64-w64-mingw32-ar rcs "$libraries/lib/libsqlite3.a" "$windows/sqlite/sqlite3.o"
     } >"$windows/sqlite.log" 2>&1 || fail "SQLite could not be built; see $windows/sqlite.log"
+}
+
+# build_googletest: for the tests alone.
+build_googletest() {
+    [ ! -e "$libraries/lib/cmake/GTest/GTestConfig.cmake" ] || return 0
+    say "Building GoogleTest for Windows"
+    {
+        cmake -S /usr/src/googletest -B "$windows/googletest" -G Ninja \
+            -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake" -DCMAKE_BUILD_TYPE=Release \
+            -DCMAKE_INSTALL_PREFIX="$libraries" -DBUILD_GMOCK=OFF &&
+            cmake --build "$windows/googletest" --target install
+    } >"$windows/googletest.log" 2>&1 ||
+        fail "GoogleTest could not be built; see $windows/googletest.log"
+}
+
+# gather_licences: those of all that is in the package beside the program.
+gather_licences() {
+    local target=$windows/licences qt=$windows/source/qt6-base file name
+    [ ! -d "$target" ] || return 0
+    rm -rf "$target.new"
+    mkdir -p "$target.new/qt"
+    sed "s/@QT_VERSION@/$(dpkg-parsechangelog -l "$qt/debian/changelog" -S Version)/;
+         s/@SQLITE_VERSION@/$(dpkg-parsechangelog -l "$windows/source/sqlite3/debian/changelog" -S Version)/" \
+        package/windows/LICENCES.txt >"$target.new/README.txt"
+    cp "$qt"/LICENSES/*GPL*.txt "$qt/debian/copyright" "$target.new/qt/"
+    find "$qt/src/3rdparty" -type f \( -iname '*licen[cs]e*' -o -iname 'copying*' \) |
+        while read -r file; do
+            name=${file#"$qt"/src/3rdparty/}
+            cp "$file" "$target.new/qt/${name//\//-}"
+        done
+    cp "$windows/source/sqlite3/debian/copyright" "$target.new/sqlite.txt"
+    cp /usr/share/doc/mingw-w64-common/copyright "$target.new/mingw-w64.txt"
+    cp /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright "$target.new/gcc.txt"
+    mv "$target.new" "$target"
 }

@@ -22,6 +22,7 @@
 #include "window/calculator/CalcResultsDialog.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QEvent>
 #include <QEventLoop>
 #include <QGridLayout>
@@ -100,7 +101,7 @@ void Show_Weight(QLabel& label, const Advice& remark) {
 // These settings are filed under the program's folder as application name.
 void Add_Settings(CalcHost& host, Machine& machine) {
     const auto section = [&machine](std::string_view name) {
-        return machine.Places.Program.string().append("/").append(name);
+        return QDir(machine.Places.Program).path().toStdString().append("/").append(name);
     };
     host.Read_Setting = [&machine, section](std::string_view name, std::string_view key) {
         return machine.Store.Read(section(name), key);

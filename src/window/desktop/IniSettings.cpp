@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t mostBytes = 4u << 20; // far more than the program ever writes
 
 std::filesystem::path File_Path(const QString& path) {
-    return QFile::encodeName(path).toStdString();
+    return QFileInfo(path).filesystemFilePath();
 }
 
 // A pipe would keep the program waiting for ever. No file is as good as an empty one.

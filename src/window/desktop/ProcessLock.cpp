@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #else
-#include <QLockFile>
+#include <windows.h>
 #endif
 
 namespace Tensarix {
@@ -38,14 +38,24 @@ struct ProcessLock::Held {
     }
 };
 
-#else // the system keeps the file open for one process
+#else
 
+// The system lets one process open the file.
 struct ProcessLock::Held {
-    QLockFile File;
+    QString Path;
+    HANDLE File = INVALID_HANDLE_VALUE;
 
-    explicit Held(const QString& path) : File(path) { File.setStaleLockTime(0); }
+    explicit Held(const QString& path) : Path(path) {}
+    Held(const Held&) = delete;
+    ~Held() {
+        if (File != INVALID_HANDLE_VALUE)
+            CloseHandle(File);
+    }
     bool Take() {
-        return File.isLocked() || File.tryLock() || File.error() != QLockFile::LockFailedError;
+        if (File == INVALID_HANDLE_VALUE)
+            File = CreateFileW(reinterpret_cast<LPCWSTR>(Path.utf16()), GENERIC_WRITE, 0, nullptr,
+                               OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return File != INVALID_HANDLE_VALUE || GetLastError() != ERROR_SHARING_VIOLATION;
     }
 };
 

@@ -11,6 +11,8 @@
 #ifdef __linux__
 #include <sys/socket.h>
 #include <unistd.h>
+#elif defined(_WIN32)
+#include <windows.h>
 #endif
 
 namespace Tensarix {
@@ -32,6 +34,14 @@ bool Is_Own_Peer([[maybe_unused]] const QLocalSocket& socket) {
 #endif
 }
 
+// The window of another program comes to the front only with leave of the one that the user has
+// just started.
+void Let_Other_Come_To_Front() {
+#ifdef _WIN32
+    AllowSetForegroundWindow(ASFW_ANY);
+#endif
+}
+
 } // namespace
 
 QByteArray Activation_Token() {
@@ -41,8 +51,7 @@ QByteArray Activation_Token() {
 
 SingleInstance::SingleInstance(QByteArray activationToken, int patienceMs)
     : token_(std::move(activationToken)), patienceMs_(patienceMs),
-      lock_(Runtime_Folder() + QStringLiteral("/tensarix.lock")),
-      socket_(Runtime_Folder() + QStringLiteral("/tensarix.socket")) {
+      lock_(Runtime_Folder() + QStringLiteral("/tensarix.lock")), socket_(Instance_Address()) {
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { Take_Wishes(); });
     Take_Place();
 }
@@ -88,6 +97,7 @@ SingleInstance::Answer SingleInstance::Ask_Other(int patienceMs) const {
         return Answer::None;
     if (!Is_Own_Peer(socket))
         return Answer::NotOurs;
+    Let_Other_Come_To_Front();
     socket.write(token_ + '\n');
     return socket.waitForReadyRead(patienceMs) ? Answer::Raised : Answer::None;
 }
@@ -111,11 +121,12 @@ void SingleInstance::Take_Wishes() {
 void SingleInstance::Answer_Wish(QLocalSocket& socket) {
     if (!socket.canReadLine())
         return;
-    if (Is_Own_Peer(socket) && raise_(socket.readLine().trimmed())) {
-        socket.write(raisedAnswer);
-        socket.flush(); // whatever becomes of the event loop
+    if (!Is_Own_Peer(socket) || !raise_(socket.readLine().trimmed())) {
+        socket.disconnectFromServer();
+        return;
     }
-    socket.disconnectFromServer();
+    socket.write(raisedAnswer); // who asked hangs up: it would be lost on Windows if this end did
+    socket.flush();             // whatever becomes of the event loop
 }
 
 } // namespace Tensarix

@@ -17,4 +17,8 @@ QString Settings_Folder();
 // has made for that or, without one, that of the settings, which is made then.
 QString Runtime_Folder();
 
+// Where the first instance listens to later ones: a socket in that folder or, on Windows, a pipe
+// whose name no other user's has.
+QString Instance_Address();
+
 } // namespace Tensarix

@@ -47,8 +47,7 @@ GuideWindow* GuideWindow::Open(const std::filesystem::path& programFolder, const
 }
 
 GuideWindow::GuideWindow(const std::filesystem::path& programFolder, QWidget* parent)
-    : QDialog(parent),
-      folder_(QDir(To_Qt(programFolder.string())).filePath(QStringLiteral("guide"))) {
+    : QDialog(parent), folder_(QDir(programFolder).filePath(QStringLiteral("guide"))) {
     Ui::GuideWindow ui;
     ui.setupUi(this);
     text_ = ui.GuideText;
