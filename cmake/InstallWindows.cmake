@@ -17,6 +17,10 @@ if(MINGW)
     endif()
     install(FILES ${found} DESTINATION . COMPONENT portable)
   endforeach()
+  # The compiler's come with 20 MB of what only a debugger reads.
+  install(CODE "file(GLOB libraries \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/*.dll\")
+    execute_process(COMMAND ${CMAKE_STRIP} \${libraries} COMMAND_ERROR_IS_FATAL ANY)"
+    COMPONENT portable)
 else()
   set(CMAKE_INSTALL_SYSTEM_RUNTIME_DESTINATION .)
   set(CMAKE_INSTALL_SYSTEM_RUNTIME_COMPONENT portable)

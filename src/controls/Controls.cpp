@@ -165,6 +165,10 @@ void MenuItem::Check(bool checked) {
     Change(checked_, checked, Shown);
 }
 
+void MenuItem::Set_Remark(std::string remark) {
+    Change(remark_, std::move(remark), Shown);
+}
+
 void MenuItem::Click() const {
     if (enabled_)
         Run(OnClick);

@@ -211,10 +211,13 @@ class MenuItem {
     void Enable(bool enabled);
     bool Checked() const { return checked_; }
     void Check(bool checked);
+    // Why choosing it may do nothing; empty: nothing to tell.
+    const std::string& Remark() const { return remark_; }
+    void Set_Remark(std::string remark);
     void Click() const;
 
   private:
-    std::string caption_;
+    std::string caption_, remark_;
     bool enabled_ = true;
     bool checked_ = false;
 };

@@ -186,6 +186,7 @@ void MainFrm::Tell_Who_Decides() {
 }
 
 void MainFrm::Tell_No_Voice() {
+    mnuReadOut.Set_Remark(std::string{noVoice});
     if (Shared.ReadOut && !std::exchange(toldNoVoice_, true))
         Shared.StatBar.Set_Remark(std::string{noVoice});
 }
@@ -229,6 +230,7 @@ void MainFrm::mnuReadOut_Click() {
     mnuReadOut.Check(Shared.ReadOut);
     Shared.Saved.Save(Setting::ReadOutLoud, Shared.ReadOut ? "1" : "0");
     Shared.Host.Speech.Speak(""); // silence, also when it has just been switched off
+    mnuReadOut.Set_Remark({});
     if (Shared.ReadOut)
         Shared.Host.Speech.Reach();
 }

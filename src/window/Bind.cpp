@@ -105,6 +105,7 @@ void Bind(QAction* action, MenuItem& control) {
     // An action is no widget, and its menu asks for its state at any time: it follows at once.
     const auto pull = [action, &control] {
         action->setText(To_Qt(control.Caption()));
+        action->setToolTip(To_Qt(control.Remark()));
         action->setEnabled(control.Enabled());
         if (action->isCheckable())
             action->setChecked(control.Checked());

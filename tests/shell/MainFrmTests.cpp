@@ -90,6 +90,7 @@ TEST_F(MainFrmTest, RemarksOfTheDesktop) {
     EXPECT_EQ(machine.Speech.Reaches, 1);
     machine.Speech.OnMissing();
     EXPECT_EQ(bar.Remark(), "No speech service was found: nothing is read out loud");
+    EXPECT_EQ(f.mnuReadOut.Remark(), bar.Remark());
     bar.Set_Remark("");
     f.mnuReadOut.Click();
     f.mnuReadOut.Click();

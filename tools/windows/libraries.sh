@@ -35,7 +35,7 @@ build_qt() {
     local off=() feature
     # wintab.h, which tablets need, is not in the archive.
     for feature in tabletevent sql dbus printsupport opengl concurrent testlib_selfcover icu ssl \
-        vulkan openssl; do
+        vulkan openssl schannel opengl_dynamic direct2d; do
         off+=("-DFEATURE_$feature=OFF")
     done
     for feature in system_zlib system_png system_pcre2 system_freetype system_harfbuzz system_jpeg; do
