@@ -2,7 +2,6 @@
 
 #include "ui_GuideWindow.h"
 #include "window/FittingArea.h"
-#include "window/To_Qt.h"
 
 #include <QDir>
 #include <QFile>
