@@ -66,7 +66,7 @@ void Add_Shear(Drawing& drawing, double span, const std::string& words) {
                          {{{span / 2, axis}}, {{span, axis - height}}, {{span, axis}}}}},
                 Ink::Quiet);
     drawing.Add(Line{{0, axis}, {span, axis}}, Ink::Body);
-    drawing.Add(Label{{0.12 * span, axis + height}, words}, Ink::Measure, "V");
+    drawing.Add(Label{{0.3 * span, axis + height}, words}, Ink::Measure, "V");
 }
 
 void Add_Moment(Drawing& drawing, double span, const std::string& words) {
@@ -202,8 +202,7 @@ Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamL
     Curve bending = Bending_Branch(method, input, Lv, drawing.Frame->XTo);
     bending.Label = "Bending";
     drawing.Add(std::move(bending), Ink::Body, "Bending");
-    const std::string point = Length_Text(present.SpanFeet) +
-                              ": w = " + Format_Number(present.LoadKipsPerFoot, twoDecimals) +
+    const std::string point = "w = " + Format_Number(present.LoadKipsPerFoot, twoDecimals) +
                               (toUse ? Use(toUse->LoadKipsPerFoot) : "");
     drawing.Add(Mark{{present.SpanFeet, present.LoadKipsPerFoot}, MarkKind::Dot, point},
                 Ink::Result, "Present");
@@ -211,7 +210,7 @@ Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamL
                 "Boundary");
     drawing.Sentence = "Allowable load against span by the " + std::string{Method_Name(method)} +
                        ": shear governs up to " + Length_Text(Lv) + ", bending beyond; at " +
-                       point + " Kip/ft";
+                       Length_Text(present.SpanFeet) + ": " + point + " Kip/ft";
     return drawing;
 }
 

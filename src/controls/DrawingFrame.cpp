@@ -12,6 +12,14 @@ namespace {
 constexpr double tickGap = 0.3, leastBetweenTicks = 1.6, mostTicks = 10;
 constexpr double legendGap = 0.5, legendLine = 2.6, legendStep = 1.2;
 
+// A round step, not under the least, of which the end of the axis is a multiple if one is.
+double Tick_Step(double least, double end) {
+    for (double step = Round_Step(least); step <= end; step = Round_Step(1.5 * step))
+        if (std::abs(std::remainder(end, step)) < 1e-6 * step)
+            return step;
+    return Round_Step(least);
+}
+
 } // namespace
 
 void Sheet::Draw_Frame(const Axes& axes) {
@@ -55,7 +63,7 @@ void Sheet::Draw_Ticks(const Axes& axes, bool upright) {
     const double scale = upright ? layout_.YScale : layout_.XScale;
     const double widest = std::max(measure_(General_Text(Round_Step(to))).Width, 2 * em_);
     const double room = upright ? leastBetweenTicks * em_ : widest + em_;
-    const double step = Round_Step(std::max(room / scale, (to - from) / mostTicks));
+    const double step = Tick_Step(std::max(room / scale, (to - from) / mostTicks), to);
     for (double k = std::ceil(from / step - 1e-9); k * step <= to + 1e-9 * step; ++k) {
         const std::string words = General_Text(k * step);
         const Point at =

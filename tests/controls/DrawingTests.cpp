@@ -162,4 +162,14 @@ TEST(DrawingTest, APlotHasRoundNumbersAndItsCurvesInsideItsFrame) {
     EXPECT_NEAR(layout.In_View({37, 128}).X, layout.Plot->Right, 1e-9);
     EXPECT_NEAR(layout.In_View({37, 128}).Y, layout.Plot->Top, 1e-9);
     EXPECT_EQ(layout.Texts.front().Words, "0");
+    // A round frame has a number at its end: 25 has one at each fifth, not at 10 and 20.
+    Drawing empty;
+    empty.Frame = Axes{0, 25, 0, 150, "Ro", "Fy"};
+    const Layout round = Laid_Out(empty, view);
+    for (const Point& end : {round.In_View({25, 0}), round.In_View({0, 150})})
+        EXPECT_TRUE(
+            std::any_of(round.Strokes.begin(), round.Strokes.end(), [&](const Stroke& line) {
+                return line.In == Ink::Grid &&
+                       std::hypot(line.Points[0].X - end.X, line.Points[0].Y - end.Y) < 1e-6;
+            }));
 }
