@@ -4,11 +4,17 @@
 
 #ifdef _WIN32
 #include <chrono>
+#include <cstdint>
+#include <cstring>
+#include <new>
+#include <string>
 #include <thread>
+#include <vector>
 
+#include <windows.h>
+// It needs the one above.
 #include <fcntl.h>
 #include <io.h>
-#include <sys/stat.h>
 #else
 #include <fcntl.h>
 #include <sys/file.h>
@@ -27,11 +33,26 @@ namespace {
 constexpr int tries = 50;
 constexpr std::chrono::milliseconds betweenTries{10};
 
+// What the system is told of a new name, in the shape that it wants.
+std::vector<char> Renaming(const std::wstring& name) {
+    const std::size_t bytes = name.size() * sizeof(wchar_t);
+    std::vector<char> room(sizeof(FILE_RENAME_INFO) + bytes); // its end has a zero
+    auto* renaming = new (room.data()) FILE_RENAME_INFO{};
+    renaming->ReplaceIfExists = TRUE;
+    renaming->FileNameLength = static_cast<DWORD>(bytes);
+    std::memcpy(renaming->FileName, name.data(), bytes);
+    return room;
+}
+
 } // namespace
 
+// No other program opens, renames or deletes it meanwhile.
 OpenFile Make_New_File(const fs::path& path, std::optional<fs::perms>) {
-    const int file = _wopen(path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_EXCL | _O_NOINHERIT,
-                            _S_IREAD | _S_IWRITE);
+    const HANDLE handle = CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return nullptr;
+    const int file = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_BINARY);
     return OpenFile{file < 0 ? nullptr : _fdopen(file, "wb")};
 }
 
@@ -39,15 +60,18 @@ bool Put_On_Disk(std::FILE* file) {
     return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
 }
 
-bool Give_Name(OpenFile file, const fs::path& path, const fs::path& name) {
-    file.reset(); // an open one keeps its name
+bool Give_Name(OpenFile file, const fs::path&, const fs::path& name) {
     std::error_code error;
-    fs::rename(path, name, error);
-    for (int i = 0; error && i < tries; ++i) { // whoever reads the old one holds it for a moment
-        std::this_thread::sleep_for(betweenTries);
-        fs::rename(path, name, error);
+    std::vector<char> renaming = Renaming(fs::absolute(name, error).native());
+    const auto handle = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(file.get())));
+    for (int i = 0; i < tries; ++i) {
+        if (SetFileInformationByHandle(handle, FileRenameInfo, renaming.data(),
+                                       static_cast<DWORD>(renaming.size())))
+            return true;
+        std::this_thread::sleep_for(
+            betweenTries); // whoever reads the old one holds it for a moment
     }
-    return !error;
+    return false;
 }
 
 void Remove_If_Left(const fs::path& path) {

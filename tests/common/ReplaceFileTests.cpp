@@ -71,6 +71,10 @@ TEST_F(ReplaceFileTest, TwoWritersTearNothing) {
     std::thread first(write, one), second(write, two);
     for (int i = 0; i < 200; ++i) {
         std::ifstream file(folder / "a.dat", std::ios::binary);
+#ifdef _WIN32 // where it is held while it gets its name
+        if (!file)
+            continue;
+#endif
         const Bytes seen{std::istreambuf_iterator<char>(file), {}};
         EXPECT_TRUE(seen == one || seen == two) << seen.size() << " bytes";
     }

@@ -125,7 +125,7 @@ TEST(DrawingTest, TheScaleBarHasARoundLength) {
         const std::string& words = layout.Texts.back().Words;
         const double length = std::stod(words);
         EXPECT_EQ(words.substr(words.size() - 3), " mm");
-        EXPECT_EQ(Round_Step(length), length) << words;
+        EXPECT_DOUBLE_EQ(Round_Step(length), length) << words;
         const Stroke& bar = layout.Strokes[layout.Strokes.size() - 3];
         EXPECT_NEAR(bar.Points[1].X - bar.Points[0].X, length * layout.XScale, 1e-6);
         EXPECT_GT(length * layout.XScale, 30);

@@ -200,7 +200,7 @@ TEST_F(DesignWindowTest, EventsComeThroughNestedSearchesAndClosingEndsThem) {
         EXPECT_EQ(Design().Bolts.cFlex.Text(row, 7), "");
     EXPECT_EQ(Design().Welds.CBox.Text(), "");
     program.reset();
-    QSettings saved(QSettings::IniFormat, QSettings::UserScope, "Tensarix", "Tensarix");
+    const QSettings saved(Settings_Folder() + "/Tensarix.ini", QSettings::IniFormat);
     EXPECT_EQ(saved.value("TensarixSetting/WeldView").toString(), "5");
     EXPECT_EQ(saved.value("TensarixSetting/WeldStrip").toString(), "3");
 }

@@ -34,8 +34,8 @@ build_qt() {
     say "Building Qt for Windows: about 15 minutes on two idle cores"
     local off=() feature
     # wintab.h, which tablets need, is not in the archive.
-    for feature in tabletevent sql dbus printsupport opengl concurrent testlib_selfcover icu ssl \
-        vulkan openssl schannel opengl_dynamic direct2d; do
+    for feature in tabletevent sql dbus printsupport concurrent testlib_selfcover icu ssl vulkan \
+        openssl schannel direct2d; do
         off+=("-DFEATURE_$feature=OFF")
     done
     for feature in system_zlib system_png system_pcre2 system_freetype system_harfbuzz system_jpeg; do
@@ -46,7 +46,7 @@ build_qt() {
             -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64.cmake" -DCMAKE_BUILD_TYPE=Release \
             -DCMAKE_INSTALL_PREFIX="$libraries" \
             -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
-            -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF "${off[@]}" &&
+            -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DINPUT_opengl=no "${off[@]}" &&
             cmake --build "$windows/qt" && cmake --install "$windows/qt"
     } >"$windows/qt.log" 2>&1 || fail "Qt could not be built; see $windows/qt.log"
 }
