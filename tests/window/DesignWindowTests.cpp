@@ -103,6 +103,19 @@ TEST_F(DesignWindowTest, AddedRowsAreInView) {
     EXPECT_TRUE(Find<QPushButton>("RemRowButton").isEnabled());
 }
 
+TEST_F(DesignWindowTest, InANarrowWindowTheDrawingIsUnderTheTable) {
+    auto& table = Find<GridView>("cFlex");
+    auto& drawing = Find<QWidget>("GroupSketch");
+    for (const auto& [size, under] :
+         {std::pair{QSize(800, 600), true}, {QSize(1240, 700), false}}) {
+        program->Window().resize(size);
+        for (int turn = 0; turn < 5; ++turn)
+            Settle();
+        EXPECT_EQ(drawing.y() > table.geometry().bottom(), under);
+        EXPECT_EQ(drawing.x() > table.geometry().right(), !under);
+    }
+}
+
 TEST_F(DesignWindowTest, ConfigurationsByTheArrowKeys) {
     To_Welds();
     auto& list = Find<IconList>("WeldView");

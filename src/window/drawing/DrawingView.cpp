@@ -90,8 +90,10 @@ const Drawn::Layout& DrawingView::Laid_Out() {
     return *layout_;
 }
 
+// Where a form has set how high it is at least, it asks for no more: the rest is what is left.
 QSize DrawingView::sizeHint() const {
-    return {usualWidth * fontMetrics().averageCharWidth(), usualLines * fontMetrics().height()};
+    const int height = minimumHeight() > 0 ? minimumHeight() : usualLines * fontMetrics().height();
+    return {usualWidth * fontMetrics().averageCharWidth(), height};
 }
 
 bool DrawingView::Is_Lit(const std::string& name) const {
