@@ -26,7 +26,7 @@ struct Releaser {
 template <typename Interface>
 using Held = std::unique_ptr<Interface, Releaser>;
 
-// The first voice with these attributes; none: there is no such voice.
+// The first voice with these attributes (nullptr: any); none: there is no such voice.
 Held<ISpObjectToken> Voice_With(const wchar_t* attributes) {
     ISpObjectTokenCategory* category = nullptr;
     if (FAILED(CoCreateInstance(__uuidof(SpObjectTokenCategory), nullptr, CLSCTX_ALL,
@@ -54,13 +54,6 @@ void Choose_Language(ISpVoice& voice) {
         }
 }
 
-bool Has_Voice(ISpVoice& voice) {
-    ISpObjectToken* token = nullptr;
-    const bool found = SUCCEEDED(voice.GetVoice(&token)) && token;
-    const Held<ISpObjectToken> held{token};
-    return found;
-}
-
 } // namespace
 
 void SapiVoice::Closer::operator()(ISpVoice* voice) const {
@@ -86,9 +79,9 @@ bool SapiVoice::Find_Voice() {
                                 reinterpret_cast<void**>(&voice))))
         return false;
     std::unique_ptr<ISpVoice, Closer> found{voice};
-    Choose_Language(*voice);
-    if (!Has_Voice(*voice))
+    if (!Voice_With(nullptr))
         return false;
+    Choose_Language(*voice);
     const ULONGLONG events = Event_Bit(SPEI_WORD_BOUNDARY) | Event_Bit(SPEI_END_INPUT_STREAM);
     voice->SetInterest(events, events);
     voice->SetNotifyCallbackFunction(
