@@ -202,7 +202,7 @@ class Walk {
     }
 
     void View_All() {
-        ViewPage& page = program_.Form().ViewAll;
+        ViewAllPage& page = program_.Form().ViewAll;
         To(Mode::ViewAll);
         for (int family = 0; family < page.xShapeType.Count(); family += 4) {
             page.xShapeType.Select(family);

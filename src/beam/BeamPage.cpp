@@ -8,7 +8,7 @@
 #include "measures/FeetInchParsing.h"
 #include "measures/InputFunction.h"
 #include "sections/FamilyTable.h"
-#include "speech/Normalisers.h"
+#include "speech/SpokenSymbols.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "calculator/CalcCircle.h"
 #include "calculator/CalcEntry.h"
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 

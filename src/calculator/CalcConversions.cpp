@@ -6,7 +6,7 @@
 #include "calculator/CalcDisplay.h"
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcFraction.h"
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 

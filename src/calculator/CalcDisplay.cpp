@@ -1,7 +1,7 @@
 #include "calculator/CalcDisplay.h"
 
 #include "calculator/CalcClock.h"
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 

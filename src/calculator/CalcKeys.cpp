@@ -7,8 +7,8 @@
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcFraction.h"
 #include "calculator/CalcMemory.h"
+#include "calculator/CalcNumbers.h"
 #include "calculator/CalcStatistics.h"
-#include "calculator/CalcText.h"
 #include "common/NumberText.h"
 
 #include <algorithm>

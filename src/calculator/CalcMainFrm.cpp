@@ -6,9 +6,9 @@
 #include "calculator/CalcFraction.h"
 #include "calculator/CalcFunctions.h"
 #include "calculator/CalcMemory.h"
+#include "calculator/CalcNumbers.h"
 #include "calculator/CalcOperators.h"
 #include "calculator/CalcStatistics.h"
-#include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 

@@ -5,7 +5,7 @@
 #include "calculator/CalcEntry.h"
 #include "calculator/CalcFraction.h"
 #include "calculator/CalcMemoryFrm.h"
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "common/ReplaceFile.h"

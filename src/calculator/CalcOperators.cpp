@@ -2,8 +2,8 @@
 
 #include "calculator/CalcConversions.h"
 #include "calculator/CalcDisplay.h"
+#include "calculator/CalcNumbers.h"
 #include "calculator/CalcResults.h"
-#include "calculator/CalcText.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 

@@ -1,6 +1,6 @@
 #include "calculator/CalcPriority.h"
 
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 #include "common/Failure.h"
 
 #include <algorithm>

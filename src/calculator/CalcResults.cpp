@@ -1,6 +1,6 @@
 #include "calculator/CalcResults.h"
 
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 #include "calculator/CalcWaiting.h"
 #include "common/NumberText.h"
 

@@ -1,7 +1,7 @@
 #include "calculator/CalcWaiting.h"
 
 #include "calculator/CalcAngles.h"
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 // and tells its view.
 #pragma once
 
+#include "controls/FocusPoint.h"
 #include "controls/Remark.h"
 #include "controls/View.h"
 

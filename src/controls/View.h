@@ -22,28 +22,6 @@ class View {
     void Changed() const { Run(OnChanged); }
 };
 
-// The keyboard has one focus, so one focus point at the most has it at a time. Setting the focus
-// runs OnLostFocus of the point that had it, then OnGotFocus of the new one, at once.
-class FocusPoint {
-  public:
-    Handler OnGotFocus;
-    Handler OnLostFocus;
-    Handler Take; // the view's: moves the real focus
-
-    FocusPoint() = default;
-    FocusPoint(const FocusPoint&) = delete;
-    FocusPoint& operator=(const FocusPoint&) = delete;
-    ~FocusPoint();
-
-    bool Has() const { return holder_ == this; }
-    void Set();
-    // The focus goes to something that is no focus point.
-    void Release();
-
-  private:
-    static inline FocusPoint* holder_ = nullptr;
-};
-
 // Where an editor lies on its form, in twips (1440 to the inch).
 struct Placement {
     double Left = 0, Top = 0, Width = 0, Height = 0;

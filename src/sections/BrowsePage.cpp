@@ -3,7 +3,7 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "sections/SectionDrawing.h"
-#include "speech/Normalisers.h"
+#include "speech/SpokenSymbols.h"
 
 namespace Tensarix {
 

@@ -2,7 +2,7 @@
 
 #include "common/NumberText.h"
 #include "sections/SectionDrawing.h"
-#include "speech/Normalisers.h"
+#include "speech/SpokenSymbols.h"
 
 namespace Tensarix {
 

@@ -1,7 +1,7 @@
 #include "shell/AboutFrm.h"
 
 #include "shell/Version.h"
-#include "speech/Normalisers.h"
+#include "speech/SpokenSymbols.h"
 
 namespace Tensarix {
 

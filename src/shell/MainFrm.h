@@ -7,7 +7,7 @@
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
 #include "sections/FindPage.h"
-#include "sections/ViewPage.h"
+#include "sections/ViewAllPage.h"
 #include "shell/Dialogs.h"
 #include "shell/GridPopup.h"
 #include "shell/Modes.h"
@@ -29,7 +29,7 @@ class MainFrm {
 
     BrowsePage Browse;
     FindPage Find;
-    ViewPage ViewAll;
+    ViewAllPage ViewAll;
     BeamPage Beam;
     DesignPage Design;
 

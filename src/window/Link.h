@@ -3,7 +3,7 @@
 // so that it never acts on what is no longer so.
 #pragma once
 
-#include "controls/View.h"
+#include "controls/FocusPoint.h"
 
 #include <QObject>
 #include <QWidget>

@@ -1,8 +1,8 @@
 // Generated calculations, all with fixed seeds: operator chains against plain evaluation by
 // priority, and random keys that must leave the panel in one of its forms.
 #include "Largest.h"
+#include "calculator/CalcNumbers.h"
 #include "calculator/CalcTestSupport.h"
-#include "calculator/CalcText.h"
 #include "common/NumberText.h"
 
 #include <gtest/gtest.h>

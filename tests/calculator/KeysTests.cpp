@@ -1,7 +1,7 @@
 // The table of all keys, and the ways in besides them: keyboard, clipboard, clock, help.
 #include "calculator/CalcHelpModule.h"
+#include "calculator/CalcNumbers.h"
 #include "calculator/CalcTestSupport.h"
-#include "calculator/CalcText.h"
 
 #include <gtest/gtest.h>
 
@@ -284,7 +284,7 @@ TEST(CalcRandom, TakesTheLastDigitsOfTheDate) {
         }
 }
 
-TEST(CalcText, DigitRules) {
+TEST(CalcNumbers, DigitRules) {
     const struct {
         const char *Text, *Fit, *Trimmed;
     } cases[] = {
@@ -310,7 +310,7 @@ TEST(CalcText, DigitRules) {
     EXPECT_EQ(Number_Text(1.0 / 3), "0.333333333333333");
 }
 
-TEST(CalcText, Snapping) {
+TEST(CalcNumbers, Snapping) {
     EXPECT_EQ(Snap14(2.999999999999997), 3);
     EXPECT_EQ(Snap14(-2.999999999999997), -3);
     EXPECT_EQ(Snap14(2.99999999999), 2.99999999999);

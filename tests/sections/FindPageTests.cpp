@@ -3,7 +3,7 @@
 #include "StandIns.h"
 #include "sections/FindPage.h"
 #include "sections/TableSelection.h"
-#include "sections/ViewPage.h"
+#include "sections/ViewAllPage.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,7 @@ class ViewTest : public testing::Test {
   protected:
     TestMachine machine;
     Desk desk{machine.Host};
-    ViewPage page{desk};
+    ViewAllPage page{desk};
 
     void SetUp() override {
         page.xProfileOption1.Select();

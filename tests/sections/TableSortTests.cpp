@@ -5,7 +5,7 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "sections/FindPage.h"
-#include "sections/ViewPage.h"
+#include "sections/ViewAllPage.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +19,7 @@ namespace {
 struct TableSortTest : testing::Test {
     TestMachine machine;
     Desk desk{machine.Host};
-    ViewPage page{desk};
+    ViewAllPage page{desk};
     FlexGrid& grid = page.xShapeFlex;
 
     void Show(int family) {

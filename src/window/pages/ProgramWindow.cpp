@@ -11,7 +11,7 @@
 #include "window/pages/FindForm.h"
 #include "window/pages/RemarkLegend.h"
 #include "window/pages/TravelKeys.h"
-#include "window/pages/ViewForm.h"
+#include "window/pages/ViewAllForm.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -93,7 +93,7 @@ ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form)
     }
     // One page a mode, in their order.
     for (QWidget* page : {Make_Browse_Form(form.Browse, this), Make_Find_Form(form.Find, this),
-                          Make_View_Form(form.ViewAll, this), Make_Beam_Form(form.Beam, this)})
+                          Make_View_All_Form(form.ViewAll, this), Make_Beam_Form(form.Beam, this)})
         ui.SelectionTab->addWidget(new FittingArea(page));
     ui.SelectionTab->addWidget(Make_Design_Form(form.Design, this));
     Bind(ui.SelectionTab, form.SelectionTab);

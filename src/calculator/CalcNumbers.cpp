@@ -1,4 +1,4 @@
-#include "calculator/CalcText.h"
+#include "calculator/CalcNumbers.h"
 
 #include "common/Arithmetic.h"
 #include "common/Failure.h"

@@ -1,10 +1,10 @@
-#include "speech/Normalisers.h"
+#include "speech/SpokenSymbols.h"
 
 #include <gtest/gtest.h>
 
 using namespace Tensarix;
 
-TEST(Normalisers, Symbols) {
+TEST(SpokenSymbols, Symbols) {
     const std::pair<const char*, const char*> cases[] = {
         // clang-format off
         {"[beta]", "BETA"}, {"aisc", "A I S C"}, {" A ", "AREA"}, {"Wt", "WEIGHT"},
@@ -26,7 +26,7 @@ TEST(Normalisers, Symbols) {
         EXPECT_EQ(Speak_Symbol(text), spoken) << text;
 }
 
-TEST(Normalisers, Units) {
+TEST(SpokenSymbols, Units) {
     const std::tuple<const char*, const char*, const char*> cases[] = {
         // clang-format off
         {"in^2", "1.00", "SQUARE INCH"}, {"in^2", "1.01", "SQUARE INCHES"},
@@ -48,7 +48,7 @@ TEST(Normalisers, Units) {
         EXPECT_EQ(Speak_Unit(unit, value), spoken) << unit << " " << value;
 }
 
-TEST(Normalisers, PhrasesWordByWord) {
+TEST(SpokenSymbols, PhrasesWordByWord) {
     const std::pair<const char*, const char*> cases[] = {
         // clang-format off
         {"", ""}, {"Ix", "I X"}, {"Depth of a section", "Depth of AREA section"},

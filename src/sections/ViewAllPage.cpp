@@ -1,11 +1,11 @@
-#include "sections/ViewPage.h"
+#include "sections/ViewAllPage.h"
 
 #include "common/Failure.h"
 #include "sections/TableSelection.h"
 
 namespace Tensarix {
 
-ViewPage::ViewPage(Desk& desk)
+ViewAllPage::ViewAllPage(Desk& desk)
     : desk_(desk), sort_(xShapeFlex, [this] {
           const Family& family = Family_At(xShapeType.ListIndex());
           return TableSort::Rows{family.Type,
@@ -33,15 +33,15 @@ ViewPage::ViewPage(Desk& desk)
     xShapeFlex.OnMouseDown = [this] { desk_.GridClicked = true; };
 }
 
-SectionView ViewPage::View() const {
+SectionView ViewAllPage::View() const {
     return {desk_.Host.Places.Program, profile_, style_};
 }
 
-std::string ViewPage::Count_Text() const {
+std::string ViewAllPage::Count_Text() const {
     return xShapeType.ListIndex() < 0 ? std::string{} : Sections_In_Words(count_);
 }
 
-void ViewPage::xShapeType_Change() {
+void ViewAllPage::xShapeType_Change() {
     if (desk_.ReadOut) {
         desk_.Say("");
         desk_.Say(Spoken_Family(xShapeType.Text()));
@@ -60,14 +60,14 @@ void ViewPage::xShapeType_Change() {
 }
 
 // The family is not spoken again, as it is with the style.
-void ViewPage::Choose_Profile(Profile profile) {
+void ViewAllPage::Choose_Profile(Profile profile) {
     profile_ = profile;
     xDimOption1.Enable(profile == Profile::US);
     xDimOption2.Enable(profile == Profile::US);
     desk_.Quietly([this] { xShapeType_Change(); });
 }
 
-void ViewPage::Choose_Style(DimensionStyle style) {
+void ViewAllPage::Choose_Style(DimensionStyle style) {
     style_ = style;
     xShapeType_Change();
 }

@@ -1,4 +1,4 @@
-#include "speech/Normalisers.h"
+#include "speech/SpokenSymbols.h"
 
 #include "common/Failure.h"
 #include "common/NumberText.h"

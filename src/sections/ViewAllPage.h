@@ -10,7 +10,7 @@
 
 namespace Tensarix {
 
-class ViewPage {
+class ViewAllPage {
   public:
     ComboBox xShapeType;
     OptionButton xProfileOption1, xProfileOption2;
@@ -20,8 +20,8 @@ class ViewPage {
 
     Handler OnCount; // Count_Text has changed
 
-    explicit ViewPage(Desk& desk);
-    ViewPage(const ViewPage&) = delete;
+    explicit ViewAllPage(Desk& desk);
+    ViewAllPage(const ViewAllPage&) = delete;
 
     // How many sections the grid shows, in words; empty without a family.
     std::string Count_Text() const;

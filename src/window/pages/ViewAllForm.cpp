@@ -1,14 +1,14 @@
-#include "window/pages/ViewForm.h"
+#include "window/pages/ViewAllForm.h"
 
-#include "ui_ViewForm.h"
+#include "ui_ViewAllForm.h"
 #include "window/Bind.h"
 #include "window/FittingArea.h"
 
 namespace Tensarix {
 
-QWidget* Make_View_Form(ViewPage& page, QWidget* parent) {
+QWidget* Make_View_All_Form(ViewAllPage& page, QWidget* parent) {
     auto* form = new FittingPage(parent);
-    Ui::ViewForm ui;
+    Ui::ViewAllForm ui;
     ui.setupUi(form);
     Bind(ui.xShapeType, page.xShapeType);
     Bind(ui.xProfileOption1, page.xProfileOption1);

@@ -1,4 +1,4 @@
-#include "controls/View.h"
+#include "controls/FocusPoint.h"
 
 namespace Tensarix {
 
