@@ -26,6 +26,8 @@ enum class RegisterUse { In, Recall, Swap, Add, Minus, Delete };
 struct Register {
     double Value = 0;
     std::string Description;
+
+    bool operator==(const Register&) const = default;
 };
 
 constexpr std::size_t registerCount = 100;

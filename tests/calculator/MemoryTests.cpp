@@ -56,8 +56,7 @@ TEST(CalcRegisters, EveryModeDoesItsWork) {
     EXPECT_TRUE(calc.Questions.empty());
     EXPECT_EQ(calc.RowSeen, "Reg-07=   12.5");
     EXPECT_EQ(calc.BoxSeen, "No specified description");
-    EXPECT_EQ(calc.At(6).Value, 12.5);
-    EXPECT_EQ(calc.At(6).Description, "roof load");
+    EXPECT_EQ(calc.At(6), (Register{12.5, "roof load"}));
     EXPECT_EQ(calc.Keys("5").Shown(), "12.55"); // the entry goes on
 
     calc.Description = nullptr;
@@ -80,8 +79,7 @@ TEST(CalcRegisters, EveryModeDoesItsWork) {
     calc.Keys("AC 8 xk");
     EXPECT_EQ(calc.RowSeen, "Reg-07=   8");
     EXPECT_EQ(calc.Shown(), "15.");
-    EXPECT_EQ(calc.At(6).Value, 8);
-    EXPECT_EQ(calc.At(6).Description, "roof load");
+    EXPECT_EQ(calc.At(6), (Register{8, "roof load"}));
 
     calc.At(99) = {0, "set to zero"};
     calc.Row = 99;
@@ -104,8 +102,7 @@ TEST(CalcRegisters, LeavingTheDialogLeavesEverything) {
             if (refused && (key == std::string_view{"ko"} || key == std::string_view{"cnst"}))
                 continue; // these ask nothing
             calc.Keys(std::string{"2 + 1 frc 2 "} + key);
-            EXPECT_EQ(calc.At(0).Value, 7) << key;
-            EXPECT_EQ(calc.At(0).Description, "kept") << key;
+            EXPECT_EQ(calc.At(0), (Register{7, "kept"})) << key;
             EXPECT_EQ(calc.Shown(), "1/2.") << key;
             EXPECT_EQ(calc.Keys("5 =").Shown(), "2.04") << key;
         }
@@ -169,8 +166,7 @@ TEST(CalcRegisters, TheDialogDeletesInside) {
     answer = true;
     dialog.OKButton();
     EXPECT_FALSE(dialog.OKEnabled || dialog.Closed);
-    EXPECT_EQ(vars.Memory.Registers[3].Value, 0);
-    EXPECT_EQ(vars.Memory.Registers[3].Description, "");
+    EXPECT_EQ(vars.Memory.Registers[3], Register{});
     EXPECT_EQ(vars.Memory.Registers[1].Value, 2);
     EXPECT_EQ(dialog.ItemBox[3].Value, "=   0");
     dialog.SelectAllButton();
@@ -324,8 +320,7 @@ TEST_F(CalcFiles, WhatIsClosedIsThereWhenOpened) {
     Open(form);
     EXPECT_EQ(vars.Memory.MemValue, 0.1);
     EXPECT_EQ(form.Panel.Mem_Indicator, "MEM");
-    EXPECT_EQ(vars.Memory.Registers[0].Value, -2.5);
-    EXPECT_EQ(vars.Memory.Registers[0].Description, "\xC3\x98 of bolt");
+    EXPECT_EQ(vars.Memory.Registers[0], (Register{-2.5, "\xC3\x98 of bolt"}));
     EXPECT_EQ(vars.Memory.Registers[99].Value, 1e-99);
     EXPECT_EQ(vars.Statistics.DataList, (std::vector<double>{3, 4}));
 }

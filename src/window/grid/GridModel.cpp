@@ -103,8 +103,8 @@ QVariant GridModel::Sorted_Head(int col, int role) const {
         return grid_.Sort_Descends();
     if (role != Qt::ToolTipRole && role != Qt::AccessibleDescriptionRole)
         return {};
-    const QString sorted = grid_.Sort_Descends() ? QStringLiteral("Sorted, the largest first")
-                                                 : QStringLiteral("Sorted, the smallest first");
+    QString sorted = grid_.Sort_Descends() ? QStringLiteral("Sorted, the largest first")
+                                           : QStringLiteral("Sorted, the smallest first");
     const QString remark = Cell(0, col, role).toString();
     return remark.isEmpty() ? sorted : sorted + QStringLiteral("\n") + remark;
 }
