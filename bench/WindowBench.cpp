@@ -125,6 +125,25 @@ void View_All_To_Painted_Grid(benchmark::State& state) {
 }
 BENCHMARK(View_All_To_Painted_Grid)->Unit(benchmark::kMillisecond)->UseManualTime();
 
+// The key that sorts the longest family, to the painted table: each of its three orders in turn.
+void Sort_Keystroke_To_Painted_Table(benchmark::State& state) {
+    QTemporaryDir home;
+    Program program({TENSARIX_PROGRAM_DIR, home.path().toStdString()});
+    program.Start();
+    program.Form().OptButton[static_cast<std::size_t>(Mode::ViewAll)].Select();
+    program.Form().ViewAll.xShapeType.Select(unEqualDoubleAngleFamily);
+    auto* table = program.Window().findChild<QWidget*>(QStringLiteral("xShapeFlex"));
+    program.Window().grab();
+    for (auto _ : state) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QCoreApplication::sendEvent(table, &press);
+        QCoreApplication::processEvents(); // takes over the order
+        QCoreApplication::processEvents(); // paints it
+    }
+    program.Window().close();
+}
+BENCHMARK(Sort_Keystroke_To_Painted_Table)->Unit(benchmark::kMillisecond);
+
 // A typed key of the calculator: computed, lit and painted.
 void Calculator_Key_To_Painted_Panel(benchmark::State& state) {
     QTemporaryDir home;

@@ -3,6 +3,7 @@
 #include "window/calculator/CalcResultsDialog.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/grid/GridView.h"
+#include "window/pages/CompareWindow.h"
 #include "window/pages/GuideWindow.h"
 #include "window/pages/ReportView.h"
 
@@ -43,6 +44,7 @@ class Walk {
         Browse();
         Any_Section();
         Guide();
+        Compare();
         Find();
         View_All();
         Beam();
@@ -181,6 +183,27 @@ class Walk {
         Leave(guide);
     }
 
+    void Compare() {
+        MainFrm& form = program_.Form();
+        const DesignationSearch search(form.Shared.Host.Places.Program);
+        const auto add = [&](Texts names) {
+            for (const char* name : names)
+                form.Compare_Section(search.Find(name, 1).at(0).Place);
+        };
+        form.mnuCompared.Click();
+        QWidget& window = *program_.Window().findChild<CompareWindow*>();
+        Show("compare, empty", window);
+        add({"w18x50", "hss8x8x1/2", "c15x50"});
+        form.Compare.CompareFlex.Move_To(5, 4);
+        Show("compare", window);
+        add({"w44x335", "2l8x6x1x3/8", "pipe8std", "w21x48"});
+        form.Compare.CompareProfile2.Select();
+        form.Compare.CompareFlex.Move_To(20, 5);
+        add({"w21x48"});
+        Show("compare, six", window);
+        Leave(window);
+    }
+
     void Find() {
         FindPage& page = program_.Form().Find;
         To(Mode::Find);
@@ -216,6 +239,16 @@ class Walk {
         page.xShapeFlex.Set_Top_Row(200);
         page.xShapeFlex.Set_Left_Col(5);
         Show("view all, SI");
+        In_Table("xShapeFlex", "74", [this] { Show("view all, in table"); });
+    }
+
+    // With the field under the table open.
+    void In_Table(const char* grid, const char* text, const std::function<void()>& act) {
+        Keys_To(program_.Window(), grid, "");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        act();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     }
 
     void Beam() {
@@ -262,6 +295,8 @@ class Walk {
         type(4, {"4", "2", "3", "3", "8", "30"});
         page.cFlex.Move_To(3, 7);
         Show("bolts, result");
+        In_Table("cFlex", "3.0", [this] { Show("bolts, in table"); });
+        page.cFlex.Move_To(3, 7);
         QTimer::singleShot(0, qApp, [&] { // in the search, which is as long as one can be
             Show("bolts, computing");
             page.cFlex.Move_To(5, 1);
@@ -343,6 +378,9 @@ class Walk {
                       Show("weights 1, editing", dialog);
                       Keys_To(dialog, "EdiTxt", "\t");
                       Show("weights 1", dialog);
+                      auto& sheet = *dialog.findChild<GridView*>(QStringLiteral("ImperialFlex"));
+                      QTest::mouseClick(sheet.viewport(), Qt::RightButton, {}, {40, 40});
+                      Menu("weights 1, menu", *sheet.findChild<QMenu*>());
                       dialog.findChild<QTabBar*>()->setCurrentIndex(1);
                       Keys_To(dialog, "MetricFlex", "12.5\t2\t");
                       Show("weights 1, metric", dialog);

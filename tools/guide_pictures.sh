@@ -10,6 +10,7 @@ browse       browse-W-Shape
 any-section  any-section-found
 find         find-found
 view         view-all-C-Shape
+compare      compare
 beam         beam-13th
 bolts        bolts-result
 weld         weld-result

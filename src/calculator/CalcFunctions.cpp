@@ -152,12 +152,21 @@ void Key_Random(CalcMainFrm& form) {
     Show_Result(form, Leading_Value(text.substr(text.size() - 3)) / 1000);
 }
 
+// The operands of a lone operator change places; of a longer chain nobody could say what it is.
+void Swap_In_Chain(PriorityChain& chain, double shown, bool converts) {
+    if (!converts && chain.Operators.size() == 1 && chain.Numbers.size() == 1)
+        chain.Numbers[0] = shown;
+    else if (converts || !chain.Operators.empty())
+        chain.Lost = true;
+}
+
 void Key_Swap(CalcMainFrm& form) {
     CalcVariables& vars = form.Vars;
     const double shown = Shown_Value(vars);
-    if (!Conversion_Pending(vars.Conversion))
+    const bool converts = Conversion_Pending(vars.Conversion);
+    if (!converts)
         vars.Pending.Running = shown;
-    vars.Pending.Chain.Lost = true;
+    Swap_In_Chain(vars.Pending.Chain, shown, converts);
     Show_Result(form, vars.Conversion.SecondResult.value_or(0));
     vars.Conversion.SecondResult = shown;
 }

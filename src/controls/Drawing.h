@@ -147,6 +147,9 @@ struct Drawing {
     std::vector<Drawn::Part> Parts = {}; // painted in this order, texts above all
     std::string ScaleUnit = {};          // of a scale bar with a round number; empty: no bar
     std::optional<Drawn::Axes> Frame = {};
+    // Two corners of what is fitted into the view besides the parts: drawings with the same room
+    // have the same scale and place in views of the same size, as long as they have no texts.
+    std::optional<std::pair<Drawn::Point, Drawn::Point>> Room = {};
 
     void Add(Drawn::Shape what, Drawn::Ink in = Drawn::Ink::Body, std::string name = {});
     bool Empty() const { return Parts.empty() && !Frame; }

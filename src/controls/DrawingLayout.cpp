@@ -67,6 +67,8 @@ Box Bounds_Of(const Drawing& drawing) {
     Reach reach;
     for (const Part& part : drawing.Parts)
         std::visit(reach, part.What);
+    if (drawing.Room)
+        reach.Take_In(drawing.Room->first), reach.Take_In(drawing.Room->second);
     return reach.Whole();
 }
 

@@ -61,6 +61,11 @@ void Sheet::Draw() {
         Draw_Frame(*drawing_.Frame);
     for (const Part& part : drawing_.Parts)
         Draw_Shape(part);
+    if (drawing_.Room)
+        for (const Point& corner : {drawing_.Room->first, drawing_.Room->second}) {
+            const Point at = layout_.In_View(corner);
+            extent_.Take_In({at.X, at.Y, at.X, at.Y});
+        }
     things_ = extent_;
     for (const Part& part : drawing_.Parts)
         if (const auto* line = std::get_if<CentreLine>(&part.What))

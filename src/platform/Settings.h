@@ -58,6 +58,8 @@ inline constexpr SettingKey CalcWtShapeSize{"CalcWtShapeSize", "0"}; // (family)
 // Where the windows were, in base 64.
 inline constexpr SettingKey MainWindowPlace{"Geometry", "", "Window"};
 inline constexpr SettingKey CalculatorPlace{"Calculator", "", "Window"};
+inline constexpr SettingKey ComparePlace{"Compare", "", "Window"};
+inline constexpr SettingKey CompareProfile{"CompareProfile", "0", "Window"};
 // Filed by the calculator under the program's folder.
 inline constexpr SettingKey MemoryIn{"MemoryIn", "0", "Setting"};
 // NOLINTEND(readability-identifier-naming)

@@ -11,12 +11,6 @@ namespace {
 
 constexpr double snapBackEdge = 885; // twips from the grid's left edge
 
-// One line, single blanks.
-std::string Flat_Meaning(std::string_view meaning) {
-    const std::string line = Replace_All(Trim(meaning), "\n", "");
-    return Replace_All(Replace_All(line, "  ", " "), "  ", " ");
-}
-
 // The part of the drawing that a row is about: its dimension, or the axis of a property.
 std::string Part_Of(const std::string& symbol, const std::string& meaning) {
     for (const char* axis : {"x-axis", "y-axis"})

@@ -302,6 +302,11 @@ Advice Lost_Digits_Remark(const SectionRecordset& record, const Property& proper
                 : Advice{"Stored value: " + value, RemarkWeight::Note};
 }
 
+std::string Flat_Meaning(std::string_view meaning) {
+    const std::string line = Replace_All(Trim(meaning), "\n", "");
+    return Replace_All(Replace_All(line, "  ", " "), "  ", " ");
+}
+
 std::string_view Unit_Text(const Property& property, Profile profile) {
     return profile == Profile::US ? property.USUnit : property.SIUnit;
 }

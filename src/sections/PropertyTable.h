@@ -79,6 +79,9 @@ double Value_Number(const SectionRecordset& record, const Property& property, Pr
 Advice Lost_Digits_Remark(const SectionRecordset& record, const Property& property, Profile profile,
                           std::string_view text);
 
+// A meaning in one line, with single blanks.
+std::string Flat_Meaning(std::string_view meaning);
+
 // The unit under the profile; empty for Pair and Ratio.
 std::string_view Unit_Text(const Property& property, Profile profile);
 

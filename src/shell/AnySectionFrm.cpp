@@ -17,10 +17,11 @@ struct FoundColumn {
     double Width; // twips
     Alignment Align;
 };
+// Wide enough for all sections, and together no wider than a screen of 800 pixels.
 constexpr FoundColumn columns[] = {
-    {"Section", 2500, Alignment::Left},        {"Also", 2500, Alignment::Left},
-    {"Shape Category", 2700, Alignment::Left}, {"Weight", 1500, Alignment::Right},
-    {"Depth", 1500, Alignment::Right},
+    {"Section", 2200, Alignment::Left},        {"Also", 2200, Alignment::Left},
+    {"Shape Category", 2600, Alignment::Left}, {"Weight", 1250, Alignment::Right},
+    {"Depth", 1100, Alignment::Right},
 };
 
 } // namespace

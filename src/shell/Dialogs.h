@@ -19,8 +19,10 @@ class Dialogs {
     // Type 1, with this section chosen.
     virtual void Show_WtCalcsFrm_Of(SectionPlace place) = 0;
     virtual void Show_AnySectionFrm(AnySectionFrm& form) = 0;
-    // Stays open beside the program, at the chapter with this head.
+    // These two stay open beside the program: the guide at the chapter with this head; the sections
+    // compared, which get the keyboard or leave it where it is.
     virtual void Show_Guide(std::string_view chapter) = 0;
+    virtual void Show_Compare(bool withKeyboard) = 0;
 };
 
 } // namespace Tensarix

@@ -34,14 +34,14 @@ std::string Window_Caption() {
 
 MainFrm::MainFrm(Machine& machine, Dialogs& dialogs)
     : Shared(machine), Browse(Shared), Find(Shared), ViewAll(Shared), Beam(Shared), Design(Shared),
-      mnuEdit1(Shared, SelectionTab,
-               {
-                   &Browse.ShapeFlex,
-                   &Find.fShapeFlex,
-                   &ViewAll.xShapeFlex,
-                   &Beam.zShapeFlex,
-                   &Design.Bolts.cFlex,
-               }),
+      Compare(Shared), mnuEdit1(Shared, SelectionTab,
+                                {
+                                    &Browse.ShapeFlex,
+                                    &Find.fShapeFlex,
+                                    &ViewAll.xShapeFlex,
+                                    &Beam.zShapeFlex,
+                                    &Design.Bolts.cFlex,
+                                }),
       Sections(*this), dialogs_(dialogs) {
     std::vector<OptionButton*> modes;
     for (int i = 0; i < modeCount; ++i) {
@@ -74,6 +74,8 @@ void MainFrm::Wire_Menu() {
     mnuReadOut.OnClick = [this] { mnuReadOut_Click(); };
     mnuGuide.Set_Caption("User Guide");
     mnuGuide.OnClick = [this] { dialogs_.Show_Guide(Guide_Chapter()); };
+    mnuCompared.Set_Caption("Sections Compared");
+    mnuCompared.OnClick = [this] { dialogs_.Show_Compare(true); };
     AnySectionButton.Set_Caption("Find Any Section  (Ctrl+K)");
     AnySectionButton.OnClick = [this] { Find_Any_Section(); };
     mnuEdit1.OnPrepare = [this] { Sections.Prepare(); };
@@ -200,6 +202,14 @@ void MainFrm::Find_Any_Section() {
 
 void MainFrm::Show_Weights_Of(SectionPlace place) {
     Open_Dialog([&] { dialogs_.Show_WtCalcsFrm_Of(place); });
+}
+
+void MainFrm::Compare_Section(SectionPlace place) {
+    Attempt([&] {
+        const ComparePage::Added added = Compare.Add(place);
+        dialogs_.Show_Compare(added != ComparePage::Added::New);
+        Shared.StatBar.Set_Remark(Compare.Told());
+    });
 }
 
 std::string_view MainFrm::Guide_Chapter() const {

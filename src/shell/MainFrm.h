@@ -6,6 +6,7 @@
 #include "controls/Controls.h"
 #include "desk/Desk.h"
 #include "sections/BrowsePage.h"
+#include "sections/ComparePage.h"
 #include "sections/FindPage.h"
 #include "sections/ViewAllPage.h"
 #include "shell/Dialogs.h"
@@ -32,6 +33,7 @@ class MainFrm {
     ViewAllPage ViewAll;
     BeamPage Beam;
     DesignPage Design;
+    ComparePage Compare; // in a window of its own
 
     GridPopup mnuEdit1; // of the pages' grids
     Travel Sections;    // from page to page
@@ -40,6 +42,7 @@ class MainFrm {
     MenuItem mnuOnTop, mnuReadOut;
     MenuItem mnuAbout;
     MenuItem mnuGuide; // at the chapter of the page in view
+    MenuItem mnuCompared;
     Button AnySectionButton;
 
     MainFrm(Machine& machine, Dialogs& dialogs);
@@ -61,6 +64,8 @@ class MainFrm {
     void Find_Any_Section();
     // Weight calculator type 1 with this section chosen.
     void Show_Weights_Of(SectionPlace place);
+    // Puts the section beside those that are compared already, or goes to its column there.
+    void Compare_Section(SectionPlace place);
     // The head of the guide's chapter on the page in view.
     std::string_view Guide_Chapter() const;
 

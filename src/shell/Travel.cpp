@@ -31,6 +31,7 @@ Travel::Travel(MainFrm& form) : form_(form) {
     mnuShowBrowse.Set_Caption("Show on Browse");
     mnuShowBeam.Set_Caption("Show on Beam Load");
     mnuShowWeights.Set_Caption("Show on Weights");
+    mnuCompare.Set_Caption("Compare");
     const auto withCurrent = [this](auto act) {
         return [this, act] {
             if (const std::optional<SectionPlace> place = Current())
@@ -41,6 +42,7 @@ Travel::Travel(MainFrm& form) : form_(form) {
     mnuShowBeam.OnClick = withCurrent([this](SectionPlace place) { Show(Mode::BeamLoad, place); });
     mnuShowWeights.OnClick =
         withCurrent([this](SectionPlace place) { form_.Show_Weights_Of(place); });
+    mnuCompare.OnClick = withCurrent([this](SectionPlace place) { form_.Compare_Section(place); });
     Wire(form.Find.fShapeFlex);
     Wire(form.ViewAll.xShapeFlex);
     for (const auto& [family, us, si] :
@@ -103,6 +105,7 @@ void Travel::Prepare() {
     mnuShowBrowse.Enable(place && Page() != Mode::Browse);
     mnuShowBeam.Enable(place && place->Family < beamFamilies && Page() != Mode::BeamLoad);
     mnuShowWeights.Enable(place.has_value());
+    mnuCompare.Enable(place.has_value());
 }
 
 void Travel::Note_Stop() {

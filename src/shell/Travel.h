@@ -17,7 +17,7 @@ class MainFrm;
 class Travel {
   public:
     // A second group of the popup, below its Exit.
-    MenuItem mnuShowBrowse, mnuShowBeam, mnuShowWeights;
+    MenuItem mnuShowBrowse, mnuShowBeam, mnuShowWeights, mnuCompare;
 
     // Takes over double click and Enter on the tables of Find and View All, which show the row's
     // section on Browse.

@@ -8,6 +8,7 @@
 #include "window/calculator/CalcWindow.h"
 #include "window/pages/AboutDialog.h"
 #include "window/pages/AnySectionDialog.h"
+#include "window/pages/CompareWindow.h"
 #include "window/pages/GuideWindow.h"
 #include "window/pages/ReportText.h"
 #include "window/pages/WtCalcsDialog.h"
@@ -86,6 +87,15 @@ void Program::Show_AnySectionFrm(AnySectionFrm& form) {
 
 void Program::Show_Guide(std::string_view chapter) {
     GuideWindow::Open(machine_.Places.Program, To_Qt(chapter), window_.get());
+}
+
+void Program::Show_Compare(bool withKeyboard) {
+    auto* compare = window_->findChild<CompareWindow*>(QString(), Qt::FindDirectChildrenOnly);
+    if (!compare) {
+        compare = new CompareWindow(form_.Compare, form_.Shared.Saved, window_.get());
+        Add_Guide_Key(*compare, "Compare: sections side by side");
+    }
+    compare->Come_Up(withKeyboard);
 }
 
 void Program::Add_Guide_Key(QDialog& dialog, const char* chapter) {

@@ -58,6 +58,7 @@ class Program final : public Dialogs {
     void Show_WtCalcsFrm_Of(SectionPlace place) override;
     void Show_AnySectionFrm(AnySectionFrm& form) override;
     void Show_Guide(std::string_view chapter) override;
+    void Show_Compare(bool withKeyboard) override;
 
   private:
     void Add_Guide_Key(QDialog& dialog, const char* chapter);

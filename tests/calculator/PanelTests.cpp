@@ -299,6 +299,8 @@ TEST(CalcPanel, ResultsAreKeptWithTheirChains) {
         1 + 3 xy 2 * 4 = -> 1 + 3 ^ 2 × 4 = 40  (By operator priority: 37)
         2 / / 3 = -> 3 ÷ 2 = 1.5            2 + 3 = * 4 = -> 5 × 4 = 20
         5 = ->      5 + 1 / 0 = ->
+        2 - 3 x-y = -> 3 − 2 = 1    2 - 3 x-y x-y = -> 2 − 3 = -1       2 + 3 * 4 x-y = ->
+        3 key_PtoR 0 = x-y + 1 = -> 0 + 1 = 1
     )",
                 [](const std::string& keys) {
                     CalcTest calc;

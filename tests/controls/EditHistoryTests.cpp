@@ -1,4 +1,5 @@
 #include "controls/CellEditing.h"
+#include "controls/CellSearch.h"
 #include "controls/TypedName.h"
 
 #include <gtest/gtest.h>
@@ -107,7 +108,7 @@ TEST_F(Edited, OnlyTheOldestOfManyStepsAreLost) {
     EXPECT_EQ(undone, static_cast<int>(EditHistory::mostSteps));
 }
 
-TEST(CellSearchTest, RowsByTyping) {
+TEST(TableSearchTest, RowsByNameAndByWhatTheyContain) {
     FlexGrid grid;
     grid.Set_Rows(6);
     grid.Set_Cols(3);
@@ -124,4 +125,20 @@ TEST(CellSearchTest, RowsByTyping) {
     EXPECT_EQ(Find_Row_By_Typing(grid, "W 18x3"), 1); // blanks are free
     EXPECT_EQ(Find_Row_By_Typing(grid, "w460x8"), 2); // by the other name
     EXPECT_EQ(Find_Row_By_Typing(grid, "hp"), -1);
+
+    grid.Set_Text(5, 2, "101.00 ");
+    grid.Move_To(2, 2);
+    using enum SearchWay;
+    using Found = std::optional<FoundCell>;
+    EXPECT_EQ(Find_Cell(grid, "w1 8", Here), Found({2, 0}));
+    EXPECT_EQ(Find_Cell(grid, "w18", Next), Found({3, 0}));
+    EXPECT_EQ(Find_Cell(grid, "0x4", Previous), Found({1, 1}));
+    EXPECT_EQ(Find_Cell(grid, "0x46", Next), Found({4, 1})); // of the two the next
+    EXPECT_EQ(Find_Cell(grid, "X55", Next), Found({2, 0}));  // round, to itself
+    EXPECT_EQ(Find_Cell(grid, " ", Here), Found());
+    EXPECT_EQ(Find_Cell(grid, "hp", Here), Found());
+    EXPECT_EQ(Count_Rows_With(grid, "w18"), 3);
+    grid.OnTab = [](bool) { return true; }; // is filled in: its names are not gone to
+    EXPECT_EQ(Find_Cell(grid, "w18", Here), Found());
+    EXPECT_EQ(Find_Cell(grid, "01", Previous), Found({5, 2}));
 }

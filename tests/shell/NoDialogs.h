@@ -13,6 +13,7 @@ struct NoDialogs : Dialogs {
     void Show_WtCalcsFrm_Of(SectionPlace) override {}
     void Show_AnySectionFrm(AnySectionFrm&) override {}
     void Show_Guide(std::string_view) override {}
+    void Show_Compare(bool) override {}
 };
 
 } // namespace Tensarix::Tests

@@ -15,8 +15,10 @@ namespace {
 struct DialogsAtWork final : NoDialogs {
     std::function<void(AnySectionFrm&)> InField;
     std::vector<SectionPlace> Weighed;
+    std::vector<bool> Compared; // whether the window has got the keyboard
     void Show_AnySectionFrm(AnySectionFrm& form) override { InField(form); }
     void Show_WtCalcsFrm_Of(SectionPlace place) override { Weighed.push_back(place); }
+    void Show_Compare(bool withKeyboard) override { Compared.push_back(withKeyboard); }
 };
 
 // A program with the read-out on, of which everything that a user could notice is noted.
@@ -106,6 +108,25 @@ TEST(TravelTest, TheMenuOffersWhatThereIs) {
     travel.Prepare();
     travel.mnuShowWeights.Click();
     EXPECT_EQ(program.Opened.Weighed, (std::vector<SectionPlace>{{3, 3}}));
+}
+
+TEST(TravelTest, ASectionIsComparedOnce) {
+    Running program;
+    Travel& travel = program.Form.Sections;
+    program.Page(Mode::ViewAll).Select();
+    program.Form.ViewAll.xShapeFlex.Press(4, 2);
+    const std::string before = program.Noticed();
+    travel.mnuCompare.OnClick();
+    EXPECT_EQ(program.Noticed(), before); // beside the status bar's remark, nothing
+    travel.mnuShowBeam.OnClick();
+    travel.mnuCompare.OnClick();
+    EXPECT_EQ(program.Opened.Compared, (std::vector<bool>{false, true}));
+    EXPECT_EQ(program.Form.Compare.Sections().size(), 1U);
+    EXPECT_EQ(program.Form.Shared.StatBar.Remark(),
+              program.Form.Compare.Sections()[0].Names[0] + " is compared already");
+    program.Page(Mode::Connection).Select(); // which is at no section
+    travel.mnuCompare.OnClick();
+    EXPECT_EQ(program.Opened.Compared.size(), 2U);
 }
 
 TEST(TravelTest, BackThroughSeveralPages) {

@@ -1,8 +1,13 @@
 // From section to section with real keys and clicks.
 #include "WindowTest.h"
+#include "common/NumberText.h"
+#include "window/grid/FindBar.h"
 #include "window/grid/GridView.h"
+#include "window/pages/CompareWindow.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -166,4 +171,146 @@ TEST_F(TravelWindowTest, ASizeOfAnotherFamilyIsTold) {
     Settle();
     EXPECT_EQ(Find<QLabel>("RemarkPanel").text(),
               "Pipe8STD is in the list of Pipe: Ctrl+K finds it");
+}
+
+TEST_F(TravelWindowTest, AHeadOrItsKeySortsAndAThirdTimeNot) {
+    Open(Mode::ViewAll);
+    const FlexGrid& grid = Form().ViewAll.xShapeFlex;
+    auto& all = Find<GridView>("xShapeFlex");
+    all.setFocus();
+    for (int i = 0; i < 4; ++i)
+        Key(Qt::Key_Right);
+    const int col = grid.Col();
+    EXPECT_EQ(grid.Text(0, col), "bf\n[in.]");
+    QWidget* const head = all.horizontalHeader()->viewport();
+    const QPoint place(all.columnViewportPosition(col) + all.columnWidth(col) / 2, 8);
+    const std::function<void()> ways[] = {
+        [] { Key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier); },
+        [&] { QTest::mouseClick(head, Qt::LeftButton, {}, place); }};
+    const std::string first = grid.Text(1, 0);
+    for (const auto& sort : ways) {
+        std::string leading;
+        for (int state = 0; state < 3; ++state) {
+            sort();
+            EXPECT_EQ(grid.Sort_Col(), state == 2 ? -1 : col);
+            EXPECT_EQ(grid.Sort_Descends() && state < 2, state == 1);
+            leading += grid.Text(1, 0) + "|";
+        }
+        EXPECT_EQ(leading, "W8x10|W36x800|W44x335|"); // of equal ones in the Manual's order
+    }
+    Key(Qt::Key_A, Qt::ControlModifier);
+    Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(grid.Row_Sel() - grid.Row() + 1, grid.Rows() - 1);
+    const QString copied = QApplication::clipboard()->text();
+    EXPECT_TRUE(copied.startsWith(QString::fromStdString(first)));
+    EXPECT_EQ(copied.count('\t'), (grid.Rows() - 1) * (grid.Cols() - 1));
+}
+
+TEST_F(TravelWindowTest, WeightsOfTheSectionAndUndo) {
+    Open(Mode::ViewAll);
+    Find<GridView>("xShapeFlex").setFocus();
+    Key(Qt::Key_Down);
+    const std::string name = Trim(Form().ViewAll.xShapeFlex.Text(2, 0));
+    std::string weighed;
+    When([] { return QApplication::activeModalWidget() != nullptr; },
+         [&] {
+             QWidget& dialog = *QApplication::activeModalWidget();
+             weighed = dialog.findChild<QComboBox*>("ShapeSizeUS")->currentText().toStdString();
+             dialog.close();
+         });
+    Key(Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(weighed, name);
+    program->Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program->Window()));
+
+    Open(Mode::Connection);
+    const FlexGrid& bolts = Form().Design.Bolts.cFlex;
+    Find<GridView>("cFlex").setFocus();
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    for (const Qt::Key key : {Qt::Key_6, Qt::Key_Tab, Qt::Key_2, Qt::Key_Tab})
+        Key(key);
+    const auto row = [&] { return Trim(bolts.Text(1, 1)) + "," + Trim(bolts.Text(1, 2)); };
+    EXPECT_EQ(row(), "6.000,2.000");
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(row(), "6.000,");
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(row(), ",");
+}
+
+TEST_F(TravelWindowTest, SectionsAreComparedInAWindowBeside) {
+    const auto compare = [] { Key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier); };
+    const auto active = [](const QWidget& window) { // not only one of its transient parents
+        return QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; });
+    };
+    ComparePage& page = Form().Compare;
+    Open(Mode::ViewAll);
+    auto& all = Find<GridView>("xShapeFlex");
+    all.setFocus();
+    for (int i = 0; i < 3; ++i) {
+        compare();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return all.hasFocus(); })); // the keyboard stays
+        Key(Qt::Key_Down);
+    }
+    auto& window = Find<CompareWindow>("CompareWindow");
+    EXPECT_TRUE(window.isVisible());
+    ASSERT_EQ(page.Sections().size(), 3U);
+    Key(Qt::Key_Up);
+    compare(); // once more: goes there
+    ASSERT_TRUE(active(window));
+    EXPECT_TRUE(window.findChild<GridView*>("CompareFlex")->hasFocus());
+    const std::string last = page.Sections().at(2).Names[0];
+    EXPECT_EQ(page.CompareFlex.Text(0, page.CompareFlex.Col()), last);
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(page.Sections().size(), 2U);
+    EXPECT_EQ(page.Sections().at(1).Names[0], last);
+    Key(Qt::Key_C, Qt::AltModifier); // the whole table
+    ASSERT_TRUE(QTest::qWaitFor([] {
+        return QApplication::clipboard()->text().startsWith(QStringLiteral("Property\tUnit\t"));
+    }));
+    compare(); // back
+    ASSERT_TRUE(active(program->Window()));
+    EXPECT_TRUE(all.hasFocus());
+    window.setGeometry(40, 50, 640, 480);
+    window.activateWindow();
+    ASSERT_TRUE(active(window));
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    Stop();
+    Start();
+    Form().mnuCompared.Click();
+    EXPECT_EQ(Find<CompareWindow>("CompareWindow").size(), QSize(640, 480));
+}
+
+TEST_F(TravelWindowTest, TheFieldUnderATable) {
+    Open(Mode::ViewAll);
+    const FlexGrid& grid = Form().ViewAll.xShapeFlex;
+    auto& all = Find<GridView>("xShapeFlex");
+    Find<QComboBox>("xShapeType").setFocus(); // from anywhere on the page
+    Key(Qt::Key_F, Qt::ControlModifier);
+    auto& bar = Find<FindBar>("xShapeFlexFind");
+    auto* const box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_TRUE(box && bar.isAncestorOf(box));
+    QTest::keyClicks(box, "w 18x5");
+    const auto at = [&] { return Trim(grid.Text(grid.Row(), 0)); };
+    EXPECT_EQ(at(), "W18x55");
+    EXPECT_EQ(bar.findChild<QLabel*>("FoundLabel")->text(), "2 rows");
+    EXPECT_EQ(box->accessibleDescription().section(';', 1), " Standard US Profile: W18x55");
+    EXPECT_TRUE(all.rect().contains(all.Cell_Rect(grid.Row(), 0)));
+    std::string path;
+    for (const auto& [key, with] : {std::pair{Qt::Key_Return, Qt::NoModifier},
+                                    {Qt::Key_F3, Qt::NoModifier},
+                                    {Qt::Key_F3, Qt::ShiftModifier},
+                                    {Qt::Key_Return, Qt::ShiftModifier}}) {
+        Key(key, with);
+        path += at() + " ";
+    }
+    EXPECT_EQ(path, "W18x50 W18x55 W18x50 W18x55 ");
+    EXPECT_TRUE(Find<QLabel>("Panel1").text().startsWith(" SELECTION:   W18x55"));
+    QTest::keyClicks(box, "?");
+    EXPECT_EQ(at(), "W18x55");
+    EXPECT_EQ(box->accessibleDescription(), "no row");
+    Key(Qt::Key_Escape);
+    EXPECT_TRUE(all.hasFocus());
+    EXPECT_FALSE(bar.isVisible());
 }

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
@@ -150,6 +151,43 @@ TEST_F(WtCalcsWindowTest, PasteCopyAndTheButtonsByTheirKeys) {
     });
     While_Open(program->Form().mnuWtCalc,
                [&] { EXPECT_EQ(Cell("ImperialFlex", 1, 1), QStringLiteral("4'-0\"     ")); });
+}
+
+TEST_F(WtCalcsWindowTest, UndoAndTheMenuOfTheRightButton) {
+    While_Open(program->Form().mnuWtCalc, [&] {
+        Click("ImperialFlex", 1, 1);
+        for (const char* length : {"4'", "5'"}) {
+            Type(length);
+            Key(Qt::Key_Return);
+        }
+        Key(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(Cell("ImperialFlex", 1, 1) + Cell("ImperialFlex", 2, 1).trimmed(),
+                  QStringLiteral("4'-0\"     "));
+        auto& view = In<GridView>("ImperialFlex");
+        QTest::mouseClick(view.viewport(), Qt::RightButton, {}, QPoint(9, 9));
+        auto& menu = In<QMenu>("ImperialFlexMenu");
+        ASSERT_TRUE(menu.isVisible());
+        const auto trigger = [&menu](const char* name) {
+            auto* const action = menu.findChild<QAction*>(QLatin1String(name));
+            EXPECT_TRUE(action->isEnabled()) << name;
+            action->trigger();
+        };
+        trigger("mnuUndo");
+        EXPECT_EQ(Cell("ImperialFlex", 1, 1).trimmed(), QString());
+        trigger("mnuCopyAll");
+        EXPECT_EQ(QApplication::clipboard()->text().count('\t'), 51 * 2);
+        menu.close();
+        dialog->activateWindow(); // without a desktop nobody else does
+        Click("ImperialFlex", 3, 1);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return view.hasFocus(); }));
+        Key(Qt::Key_A, Qt::ControlModifier);
+        Key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text().count('\t'), 50);
+        Key(Qt::Key_F, Qt::ControlModifier); // whose Escape leaves the dialog open
+        QTest::keyClicks(QApplication::focusWidget(), "7");
+        Key(Qt::Key_Escape);
+        EXPECT_TRUE(dialog->isVisible() && view.hasFocus());
+    });
 }
 
 TEST_F(WtCalcsWindowTest, ABillOfMaterialByKeysAlone) {

@@ -64,6 +64,7 @@ QWidget* Make_Bolt_Form(BoltPage& page, QWidget* parent) {
     Bind(ui.cFlex, page.cFlex);
     Lay_Over(ui.cFlex, page.cFlex, page.EdiTxt, QStringLiteral("EdiTxt"),
              QStringLiteral("Bolt group input"));
+    ui.cFlexFind->Find_In(page.cFlex, *ui.cFlex);
     Bind(ui.ccFlex, page.ccFlex);
     Bind(ui.xxFlex, page.xxFlex);
     ui.cFlex->Take_What_Is_Needed();

@@ -29,6 +29,7 @@ QWidget* Make_Find_Form(FindPage& page, QWidget* parent) {
     Bind(ui.fDimOption2, page.fDimOption2);
     Bind(ui.fSectionDrawing, page.SectionDrawing);
     Bind(ui.fShapeFlex, page.fShapeFlex);
+    ui.fShapeFlexFind->Find_In(page.fShapeFlex, *ui.fShapeFlex);
     Label_Of(ui.fCriterion, ui.fCriterion->accessibleName());
     Label_Of(ui.fValue, ui.fValue->accessibleName());
     for (QWidget* option : {ui.fProfileOption1, ui.fProfileOption2})

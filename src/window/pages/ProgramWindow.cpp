@@ -109,6 +109,7 @@ ProgramWindow::ProgramWindow(MainFrm& form, DesktopEvents& events) : form_(form)
     Bind(ui.mnuReadOut, form.mnuReadOut);
     Bind(ui.mnuAbout, form.mnuAbout);
     Bind(ui.mnuGuide, form.mnuGuide);
+    Bind(ui.mnuCompared, form.mnuCompared);
     connect(ui.mnuRemarks, &QAction::triggered, this, [this] { RemarkLegend(this).exec(); });
     new MenuKeys(*this);
     Restore_Place();

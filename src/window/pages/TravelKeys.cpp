@@ -11,11 +11,16 @@ constexpr auto withControl = Qt::CTRL | Qt::SHIFT;
 
 } // namespace
 
+QKeySequence Compare_Key() {
+    return QKeySequence(withControl | Qt::Key_C);
+}
+
 std::span<const TravelKey> Travel_Keys() {
     static const TravelKey keys[] = {
         {"mnuShowBrowse", &Travel::mnuShowBrowse, QKeySequence(withControl | Qt::Key_B)},
         {"mnuShowBeam", &Travel::mnuShowBeam, QKeySequence(withControl | Qt::Key_L)},
         {"mnuShowWeights", &Travel::mnuShowWeights, QKeySequence(withControl | Qt::Key_W)},
+        {"mnuCompare", &Travel::mnuCompare, Compare_Key()},
     };
     return keys;
 }

@@ -18,6 +18,9 @@ struct TravelKey {
     QKeySequence Key;
 };
 
+// Puts a section into the window of those that are compared, and leads back out of it.
+QKeySequence Compare_Key();
+
 // In the order of the popup's second group.
 std::span<const TravelKey> Travel_Keys();
 

@@ -18,6 +18,7 @@ QWidget* Make_View_All_Form(ViewAllPage& page, QWidget* parent) {
     Bind(ui.xSectionDrawing, page.SectionDrawing);
     Bind(ui.xShapeFlex, page.xShapeFlex);
     form->Let_Stack({{ui.optionsLayout}, {ui.choicesLayout}});
+    ui.xShapeFlexFind->Find_In(page.xShapeFlex, *ui.xShapeFlex);
     return form;
 }
 

@@ -36,6 +36,8 @@ void Bind_Sheets(const Ui& ui, WtCalcsSheets& form, WtCalcsDialog& dialog) {
     Bind(ui.SSTab1, ui.SSTab1Pages, form.SSTab1);
     Bind(ui.ImperialFlex, form.ImperialFlex);
     Bind(ui.MetricFlex, form.MetricFlex);
+    ui.ImperialFlexFind->Find_In(form.ImperialFlex, *ui.ImperialFlex);
+    ui.MetricFlexFind->Find_In(form.MetricFlex, *ui.MetricFlex);
     Make_Sheet_Popup(form.ImperialPopup, ui.ImperialFlex);
     Make_Sheet_Popup(form.MetricPopup, ui.MetricFlex);
     Lay_Over(ui.ImperialFlex, form.ImperialFlex, form.EdiTxt, QStringLiteral("EdiTxt"),
