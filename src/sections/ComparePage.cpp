@@ -3,7 +3,7 @@
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "sections/FamilyTable.h"
-#include "speech/Normalisers.h"
+#include "speech/SpokenSymbols.h"
 
 #include <algorithm>
 

@@ -77,8 +77,8 @@ use() { # PROGRAM NAME
     program=$!
     wait_for 20 window || fail "$1 shows no window: $(cat "$work/$2.log")"
     at_desk xdotool search --onlyvisible --name "^Tensarix v$version " windowfocus --sync
-    # From below: two ways to travel, "Exit", "Copy All".
-    at_desk xdotool key alt+d shift+F10 Up Up Up Up Return
+    # From below: what compares, two ways to travel, "Exit", "Copy All".
+    at_desk xdotool key alt+d shift+F10 Up Up Up Up Up Return
     wait_for 5 copied A "$first_area" || fail "$1 doesn't show the figures of the first section"
     at_desk xdotool key ctrl+x
     wait "$program" || fail "$1 ended with $?: $(cat "$work/$2.log")"

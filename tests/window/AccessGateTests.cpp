@@ -1,5 +1,6 @@
 // What has to hold on every screen for whoever works without a mouse or without seeing it.
 #include "EveryScreen.h"
+#include "Kept.h"
 #include "WindowTest.h"
 #include "window/To_Qt.h"
 #include "window/calculator/CalcWindow.h"
@@ -23,6 +24,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <set>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -119,10 +121,47 @@ void Add_In_Reading_Order(const QWidget& parent, Widgets& found) {
     }
 }
 
+// What a widget says: its texts, tips and names, and the items of menus, tabs and short lists.
+QString Words_Of(QWidget& widget) {
+    constexpr int shortList = 20;
+    QStringList words;
+    const char* const properties[] = {"windowTitle",     "title",          "text",
+                                      "placeholderText", "accessibleName", "accessibleDescription",
+                                      "toolTip"};
+    for (const char* property : properties)
+        words << widget.property(property).toString();
+    for (const QAction* action : widget.actions())
+        if (!action->isSeparator() &&
+            (qobject_cast<QMenu*>(&widget) || action->parent() == &widget))
+            words << (action->text() + QLatin1Char(' ') + action->shortcut().toString()).trimmed();
+    if (const auto* tabs = qobject_cast<QTabBar*>(&widget))
+        for (int i = 0; i < tabs->count(); ++i)
+            words << tabs->tabText(i);
+    if (const auto* list = qobject_cast<QComboBox*>(&widget); list && list->count() <= shortList)
+        for (int i = 0; i < list->count(); ++i)
+            words << list->itemText(i);
+    words.removeAll(QString());
+    return words.join(QStringLiteral(" | ")).replace(QLatin1Char('\n'), QStringLiteral("\\n"));
+}
+
 class AccessGate : public WindowTest {
   protected:
-    QString screen;
+    QString screen, written;
+    std::set<QString> said; // by an earlier screen
     QStringList offences;
+
+    // What of this screen no earlier one has said. While a search runs that depends on the time.
+    void Write_Down(QWidget& top) {
+        if (screen.endsWith(QStringLiteral("running")))
+            return;
+        written += QStringLiteral("== ") + screen + QLatin1Char('\n');
+        std::vector<QWidget*> all = Visible(top, [](const QWidget&) { return true; });
+        all.insert(all.begin(), &top);
+        for (QWidget* widget : all)
+            if (const QString line = Words_Of(*widget);
+                !line.isEmpty() && said.insert(Title(widget) + line).second)
+                written += Title(widget) + QStringLiteral(": ") + line + QLatin1Char('\n');
+    }
 
     void Offend(const QString& what) { offences.append(screen + QStringLiteral(": ") + what); }
     void Offend(const QWidget* widget, const QString& what) {
@@ -293,6 +332,7 @@ TEST_F(AccessGate, EveryScreen) {
     program->Window().resize(1240, 700);
     const auto faults = For_Each_Screen(*program, [this](const std::string& name, QWidget& top) {
         screen = To_Qt(name);
+        Write_Down(top);
         Check_Names(top);
         Check_Mnemonics(top);
         Check_Default(top);
@@ -306,6 +346,7 @@ TEST_F(AccessGate, EveryScreen) {
         ADD_FAILURE() << fault;
     offences.removeDuplicates();
     EXPECT_TRUE(offences.isEmpty()) << offences.join(QLatin1Char('\n')).toStdString();
+    Expect_As_Kept("screens.txt", written.toStdString());
 }
 
 // A screen reader tells of a cell its row, its column, its text and its remark.
