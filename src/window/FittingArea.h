@@ -22,7 +22,7 @@ class FittingPage final : public QWidget {
     // Parts that stand side by side, and go under each other where the page is narrower than that.
     // Inside one of them a column may turn the other way then.
     struct Row {
-        QBoxLayout* Parts;
+        QBoxLayout* Parts = nullptr;
         QBoxLayout* Column = nullptr;
     };
     // A row after the other, in this order, as far as it takes: so a narrow page scrolls down and

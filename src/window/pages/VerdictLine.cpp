@@ -48,6 +48,7 @@ void VerdictLine::keyPressEvent(QKeyEvent* event) {
 }
 
 bool VerdictLine::focusNextPrevChild(bool next) {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): a text browser's own goes from link to link
     return QWidget::focusNextPrevChild(next);
 }
 
