@@ -4,9 +4,9 @@
 
 #ifdef _WIN32
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <new>
 #include <string>
 #include <thread>
 #include <vector>
@@ -37,10 +37,11 @@ constexpr std::chrono::milliseconds betweenTries{10};
 std::vector<char> Renaming(const std::wstring& name) {
     const std::size_t bytes = name.size() * sizeof(wchar_t);
     std::vector<char> room(sizeof(FILE_RENAME_INFO) + bytes); // its end has a zero
-    auto* renaming = new (room.data()) FILE_RENAME_INFO{};
-    renaming->ReplaceIfExists = TRUE;
-    renaming->FileNameLength = static_cast<DWORD>(bytes);
-    std::memcpy(renaming->FileName, name.data(), bytes);
+    FILE_RENAME_INFO renaming{};
+    renaming.ReplaceIfExists = TRUE;
+    renaming.FileNameLength = static_cast<DWORD>(bytes);
+    std::memcpy(room.data(), &renaming, sizeof renaming);
+    std::memcpy(room.data() + offsetof(FILE_RENAME_INFO, FileName), name.data(), bytes);
     return room;
 }
 

@@ -11,9 +11,9 @@ namespace Tensarix {
 void Answer_Refused_Key(QWidget& widget, int character) {
     if (character <= Keys::Blank || character > '~')
         return;
-    const std::string answer =
-        character == ',' ? "Type the decimal point as ."
-                         : std::string{"No place here for "} + static_cast<char>(character);
+    std::string answer = "Type the decimal point as .";
+    if (character != ',')
+        answer = std::string{"No place here for "} + static_cast<char>(character);
     for (QWidget* around = &widget; around; around = around->parentWidget())
         if (auto* const window = dynamic_cast<RefusedKeyWindow*>(around)) {
             window->Tell_Refused_Key(answer);
