@@ -13,8 +13,8 @@ int Columns_Of(CalcPage page);
 struct CalcKeyLook {
     std::string_view Name; // of the key in the key table
     CalcKeyRole Role = CalcKeyRole::Function;
-    std::string_view Rich; // the caption as rich text; empty: as the key table has it
-    int Span = 1;          // columns
+    std::string_view Rich = {}; // the caption as rich text; empty: as the key table has it
+    int Span = 1;               // columns
 };
 
 CalcKeyLook Look_Of(const CalcKey& key);
