@@ -48,7 +48,8 @@ QPixmap Cells(RemarkWeight weight, const QWidget& widget) {
     painter.drawRect(number.adjusted(0, 0, 0, -1));
     painter.drawRect(value.adjusted(0, 0, 0, -1));
     const bool sign = weight == RemarkWeight::Unsafe;
-    const int side = sign ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter;
+    const Qt::Alignment beside = sign ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter;
+    const auto side = static_cast<int>(beside.toInt());
     painter.drawText(number.adjusted(0, 0, -cellMargin, 0), side, QStringLiteral("3"));
     painter.drawText(value, Qt::AlignCenter, QStringLiteral("3.000"));
     Paint_Remark_Mark(painter, value, weight, palette);
