@@ -1,6 +1,7 @@
 // What has to hold on every screen for whoever works without a mouse or without seeing it.
 #include "EveryScreen.h"
 #include "Kept.h"
+#include "Looks.h"
 #include "WindowTest.h"
 #include "window/To_Qt.h"
 #include "window/calculator/CalcWindow.h"
@@ -146,8 +147,8 @@ QString Words_Of(QWidget& widget) {
 
 class AccessGate : public WindowTest {
   protected:
-    QString screen, written;
-    std::set<QString> said; // by an earlier screen
+    QString screen, written, looks;
+    std::set<QString> said, seen; // by an earlier screen
     QStringList offences;
 
     // What of this screen no earlier one has said. While a search runs that depends on the time.
@@ -155,12 +156,20 @@ class AccessGate : public WindowTest {
         if (screen.endsWith(QStringLiteral("running")))
             return;
         written += QStringLiteral("== ") + screen + QLatin1Char('\n');
+        looks += QStringLiteral("== ") + screen + QLatin1Char('\n');
+        const QImage image = top.grab().toImage();
         std::vector<QWidget*> all = Visible(top, [](const QWidget&) { return true; });
         all.insert(all.begin(), &top);
-        for (QWidget* widget : all)
-            if (const QString line = Words_Of(*widget);
-                !line.isEmpty() && said.insert(Title(widget) + line).second)
-                written += Title(widget) + QStringLiteral(": ") + line + QLatin1Char('\n');
+        const auto add = [](QString& text, std::set<QString>& known, const QString& line) {
+            if (known.insert(line).second)
+                text += line + QLatin1Char('\n');
+        };
+        for (QWidget* widget : all) {
+            const QString title = Title(widget) + QStringLiteral(": "), words = Words_Of(*widget);
+            if (!words.isEmpty() && title != QLatin1String("ElapsedIndicator: ")) // a clock
+                add(written, said, title + words);
+            add(looks, seen, title + Look_Of(*widget, image));
+        }
     }
 
     void Offend(const QString& what) { offences.append(screen + QStringLiteral(": ") + what); }
@@ -348,6 +357,7 @@ TEST_F(AccessGate, EveryScreen) {
     EXPECT_TRUE(offences.isEmpty()) << offences.join(QLatin1Char('\n')).toStdString();
 #ifndef _WIN32 // where a few tips tell what that system has
     Expect_As_Kept("screens.txt", written.toStdString());
+    Expect_As_Kept("looks.txt", looks.toStdString());
 #endif
 }
 

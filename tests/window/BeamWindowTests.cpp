@@ -102,18 +102,6 @@ TEST_F(BeamWindowTest, ASpanIsTypedAndTheNextCodeChosenByKeys) {
     EXPECT_FALSE(Find<QRadioButton>("CodeOpt1").isEnabled());
 }
 
-TEST_F(BeamWindowTest, TabGoesInReadingOrder) {
-    Page().AppliedCode.Select(code13thEdition);
-    Settle();
-    Find<QComboBox>("zShapeType").setFocus();
-    for (const char* name : {"zShapeSizeUS", "zShapeSizeSI", "zShapeFlex", "AppliedCode",
-                             "CodeOpt0", "FyBox", "BeamSpanBox", "CFactor"}) {
-        QTest::keyClick(&Focused(), Qt::Key_Tab);
-        EXPECT_EQ(Focused().objectName(), name);
-    }
-    EXPECT_EQ(messages, 0);
-}
-
 TEST_F(BeamWindowTest, AnInvalidSpanIsToldOnce) {
     Type_Span("5'6\"");
     QTest::keyClick(&Focused(), Qt::Key_Tab);

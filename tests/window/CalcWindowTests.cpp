@@ -148,38 +148,6 @@ TEST_F(CalcWindowTest, TheNumberPadsSeparatorIsAPoint) {
     });
 }
 
-// Page by page in the order of the key table, row by row.
-TEST_F(CalcWindowTest, EveryKeyStandsOnItsPageWithItsTexts) {
-    Calculate([](QWidget& calculator) {
-        auto& pages = Of<QTabWidget>(calculator, "MultiPage1");
-        ASSERT_EQ(pages.count(), 4);
-        EXPECT_EQ(pages.tabText(3).remove('&'), "  Mode     ");
-        struct {
-            CalcPage Page;
-            QPoint Place;
-        } before{CalcPage::Mode, {}};
-        for (const CalcKey& key : Calc_Keys()) {
-            auto& button = Of<QAbstractButton>(calculator, std::string{key.Name}.c_str());
-            if (key.Page != CalcPage::Pad)
-                pages.setCurrentIndex(static_cast<int>(key.Page) - 1);
-            Settle();
-            EXPECT_TRUE(button.isVisible()) << key.Name;
-            EXPECT_EQ(button.text().remove('&').toStdString(), key.Caption);
-            EXPECT_EQ(button.toolTip().toStdString(), key.ToolTip);
-            const QWidget* const under =
-                calculator.childAt(button.mapTo(&calculator, button.rect().center()));
-            EXPECT_EQ(under, &button) << "another key lies over " << key.Name;
-            if (button.inherits("QRadioButton"))
-                continue;
-            const int down = button.y() - before.Place.y();
-            if (key.Page == before.Page) {
-                EXPECT_TRUE(down == 0 ? button.x() > before.Place.x() : down > 0) << key.Name;
-            }
-            before = {key.Page, button.pos()};
-        }
-    });
-}
-
 TEST_F(CalcWindowTest, TabAndSpacePressKeysAndEnterStaysEquals) {
     Calculate([](QWidget& calculator) {
         auto& seven = Of<CalcKeyButton>(calculator, "key_7");

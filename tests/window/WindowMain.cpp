@@ -12,6 +12,7 @@ int main(int argc, char** argv) {
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("FONTCONFIG_FILE", TENSARIX_SOURCE_DIR "/tests/window/Fonts.conf");
     qputenv("LC_ALL", "de_DE.UTF-8"); // numbers have a point all the same
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
