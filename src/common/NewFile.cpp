@@ -16,6 +16,8 @@
 #include <fcntl.h>
 #include <io.h>
 #else
+#include <cerrno>
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -85,11 +87,11 @@ void Remove_If_Left(const fs::path& path) {
 
 namespace {
 
-// Whoever takes away what was left holds it for that moment: then the file has no name any more.
+// Whoever takes away what was left may hold it just then, or has taken its name already.
 bool Hold(int file) {
     struct stat found {};
-    flock(file, LOCK_EX | LOCK_NB); // some disks know no locks
-    return fstat(file, &found) == 0 && found.st_nlink > 0;
+    const bool taken = flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    return !taken && fstat(file, &found) == 0 && found.st_nlink > 0; // some disks know no locks
 }
 
 } // namespace
