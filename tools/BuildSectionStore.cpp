@@ -2,7 +2,7 @@
 // same tables give the same bytes. The store takes its name only when it is whole; a fault in the
 // tables is told in one line, and the old store stays.
 #include "BuildSectionStoreSi.h"
-#include "BuildSectionStoreTables.h"
+#include "ReadSectionTables.h"
 #include "common/NumberText.h"
 #include "sections/StoreFormat.h"
 

@@ -1,7 +1,7 @@
 // From US figures to SI figures, exactly: a tie at the third digit is a tie, and goes up.
 #pragma once
 
-#include "BuildSectionStoreTables.h"
+#include "ReadSectionTables.h"
 
 #include <string>
 #include <string_view>

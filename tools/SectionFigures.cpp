@@ -1,6 +1,6 @@
 #include "SectionFigures.h"
 
-#include "BuildSectionStoreTables.h"
+#include "ReadSectionTables.h"
 #include "sections/SectionStore.h"
 
 namespace Tensarix {

@@ -75,9 +75,9 @@ bool Is_Inch_Piece(std::string_view text) {
     case InchForm::Fraction:
         return Is_Fraction(pieces);
     case InchForm::Mixed:
-        return Is_Fraction(pieces) && Is_Numeric(pieces.Whole);
+        break;
     }
-    return false;
+    return Is_Fraction(pieces) && Is_Numeric(pieces.Whole);
 }
 
 double Fraction_Value(const InchPieces& pieces) {
@@ -96,9 +96,9 @@ double Inches_Value(std::string_view text) {
     case InchForm::Fraction:
         return Fraction_Value(pieces);
     case InchForm::Mixed:
-        return Leading_Value(pieces.Whole) + Fraction_Value(pieces);
+        break;
     }
-    return 0;
+    return Leading_Value(pieces.Whole) + Fraction_Value(pieces);
 }
 
 // Forms 3 and 7, whose marks have to stand in the order foot, dash, inch.

@@ -10,7 +10,7 @@
 #include "window/pages/AnySectionDialog.h"
 #include "window/pages/CompareWindow.h"
 #include "window/pages/GuideWindow.h"
-#include "window/pages/ReportText.h"
+#include "window/pages/ReportForScreenReader.h"
 #include "window/pages/WtCalcsDialog.h"
 
 #include <QApplication>

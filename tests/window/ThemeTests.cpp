@@ -38,6 +38,8 @@ TEST(Theme, TextsCanBeReadOnTheirGrounds) {
                 EXPECT_GE(Contrast(Ink_Colour(ink, palette), ground), 4.5)
                     << static_cast<int>(ink) << " on " << ground.name().toStdString();
         EXPECT_GE(Contrast(Ink_Colour(Ink::Quiet, palette), base), 3);
+        const double lines = Contrast(Grid_Line_Colour(palette), base);
+        EXPECT_TRUE(lines > 1.2 && lines < 2) << lines; // between cells, not through them
         EXPECT_LT(Contrast(Ink_Colour(Ink::Grid, palette), base),
                   Contrast(Ink_Colour(Ink::Quiet, palette), base));
         EXPECT_GE(Contrast(Shown_Colour(Colours::HeadText, palette),

@@ -1,6 +1,6 @@
 // A report as a text for a screen reader. Nothing of it is copied but what is asked for: a report
 // may have a million lines.
-#include "window/pages/ReportText.h"
+#include "window/pages/ReportForScreenReader.h"
 
 #include "window/pages/ReportView.h"
 
@@ -13,9 +13,9 @@ namespace Tensarix {
 
 namespace {
 
-class ReportText final : public QAccessibleWidget, public QAccessibleTextInterface {
+class ReportForScreenReader final : public QAccessibleWidget, public QAccessibleTextInterface {
   public:
-    explicit ReportText(ReportView* view)
+    explicit ReportForScreenReader(ReportView* view)
         : QAccessibleWidget(view, QAccessible::EditableText), view_(*view) {}
 
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -116,7 +116,7 @@ class ReportText final : public QAccessibleWidget, public QAccessibleTextInterfa
 
 QAccessibleInterface* Make_Report_Text(const QString&, QObject* object) {
     auto* view = qobject_cast<ReportView*>(object);
-    return view ? new ReportText(view) : nullptr;
+    return view ? new ReportForScreenReader(view) : nullptr;
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "BuildSectionStoreTables.h"
+#include "ReadSectionTables.h"
 
 #include "common/ReplaceFile.h"
 
