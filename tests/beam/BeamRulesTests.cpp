@@ -2,8 +2,6 @@
 #include "SectionFigures.h"
 #include "beam/BeamRules.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <fstream>

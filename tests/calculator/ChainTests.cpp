@@ -5,8 +5,6 @@
 #include "calculator/CalcTestSupport.h"
 #include "common/NumberText.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <random>
 #include <regex>
@@ -197,18 +195,6 @@ TEST(CalcFunctions, AgreeWithTheLibraryToThirteenDigits) {
         }
         deviation.Record(function.Token);
     }
-}
-
-// All their digits are right, where a processor's own cosine has six or seven.
-TEST(CalcFunctions, CosinesNearZero) {
-    const struct {
-        const char *Keys, *Shown;
-    } cases[] = {
-        {"RadButton 10.9955742875643 cos", "2.44403693719019-14"},
-        {"RadButton 1.5707963267949 pm cos", "-3.2694367339181-15"},
-    };
-    for (const auto& each : cases)
-        EXPECT_EQ(CalcTest().Keys(each.Keys).Shown(), each.Shown) << each.Keys;
 }
 
 // A number, with or without an exponent; or alone a fraction, an angle, or a message. The user

@@ -7,8 +7,6 @@
 #include "common/NumberText.h"
 #include "common/ReplaceFile.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <fstream>
 #include <map>

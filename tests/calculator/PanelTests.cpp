@@ -5,8 +5,6 @@
 #include "calculator/CalcTestSupport.h"
 #include "calculator/CalcWaiting.h"
 
-#include <gtest/gtest.h>
-
 using namespace Tensarix;
 
 namespace {
@@ -180,6 +178,9 @@ TEST(CalcPanel, Angles) {
         RadButton PI cos -> -1.             RadButton 1.5707963267949 tan -> *Out of Range*
         RadButton 1 pm iCos -> 3.14159265358979         GradButton 100 sin -> 1.
         GradButton 100 cos -> 0.            GradButton 50 tan -> 1.
+        # all digits are right, where a processor's own cosine has six or seven
+        RadButton 10.9955742875643 cos -> 2.44403693719019-14
+        RadButton 1.5707963267949 pm cos -> -3.2694367339181-15
     )");
 }
 

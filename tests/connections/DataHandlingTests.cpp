@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <random>
 
 #ifndef _WIN32
@@ -24,11 +23,6 @@ class BoltFileTest : public testing::Test {
     std::filesystem::path aside = folder.Path / "BoltInputData.dat.unreadable";
     std::vector<BoltRow> entries;
 
-    void Put(const Bytes& bytes) {
-        std::ofstream file(path, std::ios::binary | std::ios::trunc);
-        file.write(reinterpret_cast<const char*>(bytes.data()),
-                   static_cast<std::streamsize>(bytes.size()));
-    }
     bool Failed() {
         bool failed = true;
         ReadBoltFile(entries, path, failed, boxes);
@@ -64,7 +58,7 @@ TEST_F(BoltFileTest, CutShortAnywhereItsTextsAreEmptyFromThere) {
     WriteBoltFile(Two_Rows(), path, boxes);
     const Bytes whole = *Read_Whole_File(path);
     for (std::size_t length = 0; length <= whole.size(); ++length) {
-        Put(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)));
+        Replace_File(path, Bytes(whole.begin(), whole.begin() + std::ptrdiff_t(length)));
         EXPECT_FALSE(Failed()) << length;
         ASSERT_LE(entries.size(), 2u);
         EXPECT_TRUE(length < whole.size() || entries == Two_Rows());
@@ -90,7 +84,7 @@ TEST_F(BoltFileTest, FlippedBits) {
         Bytes bytes = *Read_Whole_File(path);
         for (unsigned flips = 1 + random() % 4; flips > 0; --flips)
             bytes[random() % bytes.size()] ^= static_cast<unsigned char>(1u << random() % 8);
-        Put(bytes);
+        Replace_File(path, bytes);
         if (Failed()) {
             EXPECT_EQ(Read_Whole_File(aside), bytes) << round;
             std::filesystem::remove(aside);
@@ -117,7 +111,7 @@ TEST_F(BoltFileTest, ImpossibleCounts) {
     };
     int number = 0;
     for (const Bytes& head : heads) {
-        Put(head);
+        Replace_File(path, head);
         EXPECT_TRUE(Failed());
         EXPECT_FALSE(std::filesystem::exists(path));
         std::filesystem::path kept = aside;

@@ -1,6 +1,4 @@
 // The coefficients against print: published/README.md tells of the figures.
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <fstream>

@@ -136,7 +136,6 @@ TEST_F(WeldPageTest, ConcentricAndByStrip) {
     p.StartIterationButton.Click();
     EXPECT_EQ(p.CBox.Text(), "3.71231  ");
     EXPECT_EQ(p.CRemark.Caption(), "");
-    EXPECT_NE(Report().find("    Fy[m] = N.A."), std::string::npos);
     Type(WeldRow::aL, "3");
     std::map<int, double> elements; // yields to the pass
     for (int strip = 0; strip < 4; ++strip) {

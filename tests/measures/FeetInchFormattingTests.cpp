@@ -5,8 +5,6 @@
 #include "common/Failure.h"
 #include "measures/FeetInchParsing.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 #include <random>

@@ -1,8 +1,7 @@
+#include "Grids.h"
 #include "PlainStore.h"
 #include "StandIns.h"
 #include "sections/BrowsePage.h"
-
-#include <gtest/gtest.h>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -26,12 +25,7 @@ class BrowseTest : public testing::Test {
         Select_Item(page.ShapeType, family);
         Select_Item(page.ShapeSizeUS, section);
     }
-    int Row_Of(const std::string& symbol) {
-        for (int row = 1; row < page.ShapeFlex.Rows(); ++row)
-            if (page.ShapeFlex.Text(row, 0) == symbol)
-                return row;
-        return -1;
-    }
+    int Row_Of(const std::string& symbol) { return Row_With(page.ShapeFlex, symbol); }
     std::string Value(const std::string& symbol) { return page.ShapeFlex.Text(Row_Of(symbol), 1); }
     std::string Unit(const std::string& symbol) { return page.ShapeFlex.Text(Row_Of(symbol), 2); }
 };

@@ -211,10 +211,9 @@ TEST(Catalogue, EveryRowOfBrowse) {
                     const Row& expected = Of_Catalogue(key);
                     SCOPED_TRACE(type + " " + key);
                     ++row;
-                    EXPECT_EQ(grid.Text(row, 0), expected.Symbol);
-                    EXPECT_EQ(grid.Text(row, 1), Value(store, expected, view));
-                    EXPECT_EQ(grid.Text(row, 2), Unit(expected, view));
-                    EXPECT_EQ(grid.Text(row, 3), "    " + expected.Meaning);
+                    EXPECT_EQ(grid.Clip_Of(row, 0, row, 3),
+                              expected.Symbol + "\t" + Value(store, expected, view) + "\t" +
+                                  Unit(expected, view) + "\t    " + expected.Meaning);
                     EXPECT_EQ(grid.Row_Height(row), key == "Tan" ? 690 : 350);
                     EXPECT_EQ(grid.Style(row, 0), symbol);
                     EXPECT_EQ(grid.Style(row, 1).Align, Alignment::Right);
@@ -263,8 +262,8 @@ TEST(Catalogue, EveryColumnOfViewAllAndFind) {
                     EXPECT_EQ(grid.FixedCols(), 2);
                     EXPECT_EQ(grid.Row_Height(0), 600);
                     EXPECT_EQ(grid.Row_Height(1), 350);
-                    EXPECT_EQ(grid.Text(0, 0), "Standard US\nProfile");
-                    EXPECT_EQ(grid.Text(0, 1), "SI Equivalent\nProfile");
+                    EXPECT_EQ(grid.Clip_Of(0, 0, 0, 1),
+                              "Standard US\nProfile\tSI Equivalent\nProfile");
                     EXPECT_EQ(grid.Col_Width(0) + grid.Col_Width(1), 3000);
                     EXPECT_EQ(grid.Style(1, 0), name);
                     EXPECT_EQ(grid.Style(1, 1), name);

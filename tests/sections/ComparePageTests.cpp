@@ -1,10 +1,9 @@
+#include "Grids.h"
 #include "LaidOut.h"
 #include "StandIns.h"
 #include "common/NumberText.h"
 #include "sections/BrowsePage.h"
 #include "sections/ComparePage.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -28,10 +27,7 @@ struct Compared {
         return texts;
     }
     int Row_Of(const std::string& symbol) const {
-        for (int row = 1; row < Page.CompareFlex.Rows(); ++row)
-            if (Page.CompareFlex.Text(row, comparedSymbolCol) == symbol)
-                return row;
-        return 0;
+        return Row_With(Page.CompareFlex, symbol, comparedSymbolCol);
     }
 };
 
@@ -126,7 +122,7 @@ TEST(ComparePageTest, UpToSixUntilTheyAreTakenOut) {
 
     page.CompareFlex.OnKeyDown(Keys::Delete);
     EXPECT_EQ(page.CompareFlex.Text(0, 4), "L8x6x1");
-    EXPECT_EQ(compared.Row_Of("ID"), 0);
+    EXPECT_EQ(compared.Row_Of("ID"), -1);
     EXPECT_EQ(page.CompareFlex.Text(page.CompareFlex.Row(), 0), "J");
     EXPECT_EQ(page.CountLabel.Caption(), "5 of 6 sections");
     EXPECT_EQ(compared.Add("w21x48"), New);

@@ -5,8 +5,6 @@
 #include "common/NumberText.h"
 #include "sections/FamilyTable.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <regex>
 #include <set>

@@ -5,9 +5,6 @@
 #include "common/Failure.h"
 #include "common/ReplaceFile.h"
 
-#include <gtest/gtest.h>
-
-#include <fstream>
 #include <random>
 
 #ifndef _WIN32
@@ -39,11 +36,6 @@ class SectionStoreTest : public testing::Test {
             "; CREATE TABLE StoreProperty (Name, Value); INSERT INTO StoreProperty VALUES ('" +
             std::string{passwordProperty} + "', '" + std::string{sectionStorePassword} + "'); " +
             sql);
-    }
-
-    void Put(const Bytes& bytes) const {
-        std::ofstream{store, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()),
-                                                     static_cast<std::streamsize>(bytes.size()));
     }
 
     SectionRead Read(const std::string& sql) const { return {folder, sql}; }
@@ -185,7 +177,7 @@ TEST_F(SectionStoreTest, WhatIsNoStoreDoesNotOpen) {
     fails();
     for (const std::string& content :
          {std::string{}, std::string{"TYPE,SEQ\n"}, std::string(5000, '\0')}) {
-        Put(Bytes(content.begin(), content.end()));
+        Replace_File(store, Bytes(content.begin(), content.end()));
         fails();
     }
     fs::remove(store);
@@ -238,11 +230,11 @@ TEST_F(SectionStoreTest, DamagedFilesNeverCrash) {
             for (std::size_t i = 0; i < (round % 3 == 1 ? 400u : 40u) && !bytes.empty(); ++i)
                 bytes[100 + any(round % 3 == 1 ? bytes.size() - 100 : 12000)] =
                     static_cast<std::uint8_t>(random());
-        Put(bytes);
+        Replace_File(store, bytes);
         readable += Read_Everything(folder) ? 1 : 0;
     }
     EXPECT_LT(readable, 150);
-    Put(good); // replaced while the program runs
+    Replace_File(store, good); // replaced while the program runs
     EXPECT_TRUE(Read_Everything(folder));
     fs::remove(store); // and deleted
     EXPECT_FALSE(Read_Everything(folder));

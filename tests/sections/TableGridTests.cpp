@@ -1,10 +1,9 @@
 // The grids of View All and Find, cell by cell against the store.
+#include "Grids.h"
 #include "PlainStore.h"
 #include "common/NumberText.h"
 #include "sections/FamilyTable.h"
 #include "sections/TableSelection.h"
-
-#include <gtest/gtest.h>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -12,13 +11,6 @@ using namespace Tensarix::Tests;
 namespace {
 
 const std::filesystem::path program = TENSARIX_PROGRAM_DIR;
-
-int Column_Of(const FlexGrid& grid, std::string_view head) {
-    for (int col = 2; col < grid.Cols(); ++col)
-        if (grid.Text(0, col).substr(0, grid.Text(0, col).find('\n')) == head)
-            return col;
-    return -1;
-}
 
 } // namespace
 
@@ -71,7 +63,7 @@ TEST(TableGrid, WhatACellTellsAndSpeaks) {
         {angles, "Tan Alpha", "Tan Alpha = 1.00", "TANGENT ALPHA = 1"},
     };
     for (const auto& c : cases) {
-        const int col = std::max(Column_Of(c.Grid, c.Head), 0);
+        const int col = std::max(Col_With(c.Grid, c.Head), 0);
         const std::string text = Table_Selection_Text(c.Grid, 1, col);
         EXPECT_EQ(text.substr(text.find("-->") + 6), c.Shown);
         EXPECT_EQ(Spoken_Table_Selection(c.Grid, 1, col), c.Spoken);

@@ -1,13 +1,12 @@
 #include "sections/TableSort.h"
 
+#include "Grids.h"
 #include "PlainStore.h"
 #include "StandIns.h"
 #include "common/Failure.h"
 #include "common/NumberText.h"
 #include "sections/FindPage.h"
 #include "sections/ViewAllPage.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -44,12 +43,6 @@ struct TableSortTest : testing::Test {
             rows.push_back(text);
         }
         return rows;
-    }
-    int Col_Of(const std::string& head) {
-        for (int col = 0; col < grid.Cols(); ++col)
-            if (grid.Text(0, col).starts_with(head + "\n"))
-                return col;
-        throw std::runtime_error("no head " + head);
     }
 };
 
@@ -105,7 +98,7 @@ TEST_F(TableSortTest, EveryColumnOfEveryFamily) {
 TEST_F(TableSortTest, NumbersNotTexts) {
     Show(0);
     page.xDimOption2.Select();
-    grid.OnHeadClick(Col_Of("d"));
+    grid.OnHeadClick(Col_With(grid, "d"));
     EXPECT_EQ(Names()[0], "W4x13");
     grid.OnHeadClick(0); // by the numbers of the designation
     EXPECT_EQ(Names()[0] + " " + Names()[1] + " " + Names().back(), "W4x13 W5x16 W44x335");
@@ -157,7 +150,7 @@ TEST_F(TableSortTest, MissingNumbersComeLast) {
     machine.Host.Places.Program = store.Folder;
     Show(3);
     for (int click = 0; click < 2; ++click) {
-        grid.OnHeadClick(Col_Of("Zx"));
+        grid.OnHeadClick(Col_With(grid, "Zx"));
         std::vector<std::string> names = Names();
         std::erase(names, "");
         EXPECT_EQ(names.back(), "S24x121");

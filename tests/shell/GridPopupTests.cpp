@@ -103,7 +103,6 @@ TEST_F(GridPopupTest, ClipboardTexts) {
     }
     EXPECT_EQ(machine.Clip.Clears, 2 * modeCount);
     EXPECT_EQ(popup.mnuCopySelection1a.Caption(), "Copy Selection       ");
-    EXPECT_EQ(popup.mnuCopySelection1d.Caption(), "Copy All  (including Row && Column headers)");
 }
 
 // The copy key does what the popup would allow, and the arrow keys choose as the mouse does.

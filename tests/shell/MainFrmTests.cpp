@@ -1,7 +1,6 @@
 #include "NoDialogs.h"
 #include "StandIns.h"
 #include "shell/MainFrm.h"
-#include "shell/Version.h"
 
 #include <gtest/gtest.h>
 
@@ -37,19 +36,6 @@ class MainFrmTest : public testing::Test {
 };
 
 } // namespace
-
-TEST_F(MainFrmTest, AFirstStartHasAllDefaults) {
-    MainFrm& f = Start();
-    EXPECT_EQ(f.Caption, "Tensarix v1.0  [Beta]  -  " + std::string{legalLine});
-    EXPECT_TRUE(f.OptButton[0].Value());
-    EXPECT_EQ(f.SelectionTab.Tab(), 0);
-    EXPECT_TRUE(f.Browse.ProfileOption1.Value() && f.Browse.DimOption1.Value());
-    EXPECT_EQ(f.Browse.ShapeType.Text(), "W-Shape");
-    EXPECT_EQ(f.Browse.ShapeSizeUS.Text(), "W44x335");
-    EXPECT_EQ(f.Browse.ShapeFlex.Text(1, 1), "335.00  ");
-    EXPECT_EQ(f.Shared.StatBar.Panel1(), " SELECTION:   None");
-    EXPECT_FALSE(f.mnuReadOut.Checked() || f.mnuOnTop.Checked());
-}
 
 TEST_F(MainFrmTest, ASecondInstanceRaisesTheFirstAndDoesNothingElse) {
     machine.Guard.Other = true;

@@ -38,15 +38,14 @@ TEST_F(PageSettingsTest, TheSavedSearchComesBack) {
     machine.Store.Set("xShapeType", "12");
     machine.Store.Set("xDimOption", "1");
     ASSERT_TRUE(form.Load());
-    EXPECT_EQ(form.Find.fShapeType.Text(), "MT-Shape");
-    EXPECT_EQ(form.Find.fPoperty.Text(), "d");
-    EXPECT_EQ(form.Find.fCriterion.Text(), "<"); // though the criteria came after the family
-    EXPECT_EQ(form.Find.fValue.Text(), "5.5");
-    EXPECT_EQ(form.Find.UnitLabel.Caption(), "mm");
-    EXPECT_FALSE(form.Find.fDimOption1.Enabled());
-    EXPECT_EQ(form.Find.fShapeFlex.Text(1, 0), "");
-    EXPECT_EQ(form.ViewAll.xShapeFlex.Text(1, 0), "Pipe12STD");
-    EXPECT_EQ(form.ViewAll.xShapeFlex.Text(1, 4), "1'-3/4\"  ");
+    const FindPage& find = form.Find; // the criteria came after the family
+    EXPECT_EQ(find.fShapeType.Text() + "|" + find.fPoperty.Text() + "|" + find.fCriterion.Text() +
+                  "|" + find.fValue.Text() + "|" + find.UnitLabel.Caption(),
+              "MT-Shape|d|<|5.5|mm");
+    EXPECT_FALSE(find.fDimOption1.Enabled());
+    EXPECT_EQ(find.fShapeFlex.Text(1, 0), "");
+    const FlexGrid& all = form.ViewAll.xShapeFlex;
+    EXPECT_EQ(all.Text(1, 0) + "|" + all.Text(1, 4), "Pipe12STD|1'-3/4\"  ");
     EXPECT_EQ(form.Shared.StatBar.Panel1(), " SELECTION:   None");
 }
 

@@ -178,10 +178,8 @@ TEST(TravelTest, TheFieldChoosesOrLeavesAllAsItWas) {
         EXPECT_FALSE(field.BeamButton.Enabled());
         field.SearchBox.Set_Text("w18x5");
         EXPECT_TRUE(field.BeamButton.Enabled());
-        EXPECT_EQ(field.FoundFlex.Text(2, 0) + field.FoundFlex.Text(2, 1) +
-                      field.FoundFlex.Text(2, 2) + field.FoundFlex.Text(2, 3) +
-                      field.FoundFlex.Text(2, 4),
-                  "W18x50W460x74W-Shape50.00 lb/ft18.00 in.");
+        EXPECT_EQ(field.FoundFlex.Clip_Of(2, 0, 2, 4),
+                  "W18x50\tW460x74\tW-Shape\t50.00 lb/ft\t18.00 in.");
         field.SearchBox.Set_Text("w");
         EXPECT_EQ(field.FoundLabel.Caption(), "The first 50 sections");
         field.CancelButton.Click();
