@@ -86,6 +86,7 @@ TEST_F(MainFrmTest, RemarksOfTheDesktop) {
 
 TEST_F(MainFrmTest, ChoicesComeBackAtTheNextStart) {
     MainFrm& first = Start();
+    EXPECT_FALSE(first.mnuReadOut.Checked() || first.mnuOnTop.Checked());
     first.Browse.ShapeType.Select(4);
     first.Browse.ShapeSizeSI.Select(3);
     first.Browse.DimOption2.Select();
