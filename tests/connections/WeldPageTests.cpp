@@ -84,13 +84,11 @@ const std::string aborted = "\r\r ** Iteration ABORTED !\r\r"
 TEST_F(WeldPageTest, FirstStart) {
     WeldPage& p = Start();
     EXPECT_EQ(p.WeldView.Count(), 9);
-    EXPECT_EQ(p.WeldView.Item(9).Key + p.WeldView.Item(9).Text, "weld9Weld Configuration 9");
     EXPECT_EQ(p.WeldView.Selected_Item(), 1);
-    EXPECT_EQ(p.WeldImage.Name(), "wImage1");
-    EXPECT_EQ(p.WeldStripBox.Text(), "  1/8\"");
-    EXPECT_EQ(Value(WeldRow::xL), "             N.A.");
-    EXPECT_EQ(Buttons(), idle);
-    EXPECT_EQ(desk.StatBar.Panel1(), " SELECTION:   None");
+    EXPECT_EQ(p.WeldView.Item(9).Key + ", " + p.WeldView.Item(9).Text + ", " + p.WeldImage.Name() +
+                  ", " + p.WeldStripBox.Text() + ", " + Value(WeldRow::xL),
+              "weld9, Weld Configuration 9, wImage1,   1/8\",              N.A.");
+    EXPECT_EQ(Buttons() + desk.StatBar.Panel1(), idle + " SELECTION:   None");
 }
 
 TEST_F(WeldPageTest, SettingsComeBackAndGarbageIsSurvived) {

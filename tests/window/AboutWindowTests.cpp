@@ -4,9 +4,6 @@
 #include "window/pages/AboutDialog.h"
 
 #include <QAction>
-#include <QLabel>
-#include <QPushButton>
-#include <QTimer>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -20,20 +17,15 @@ TEST_F(WindowTest, TheMenuOpensTheAboutBoxAndOKEnterAndEscapeCloseIt) {
         [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); },
     };
     for (const auto& close : ways) {
-        QString title, disclaimer;
         bool closed = false;
         QTimer::singleShot(0, &program->Window(), [&] {
             QWidget* const box = QApplication::activeModalWidget();
             ASSERT_TRUE(box);
-            title = box->findChild<QLabel*>("lblTitle")->text();
-            disclaimer = box->findChild<QLabel*>("lblDisclaimer")->text();
             close(*box);
             closed = !box->isVisible();
             box->close(); // whatever happened, the test goes on
         });
         Find<QAction>("mnuAbout").trigger();
-        EXPECT_EQ(title, "Tensarix");
-        EXPECT_TRUE(disclaimer.contains("engineer"));
         EXPECT_TRUE(closed);
     }
 }

@@ -1,14 +1,9 @@
 // Browse Sections, the menu and the settings, through real keys and clicks.
 #include "WindowTest.h"
 #include "window/drawing/DrawingView.h"
-#include "window/grid/GridView.h"
 
 #include <QAction>
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QScrollBar>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
@@ -21,10 +16,6 @@ class BrowseWindowTest : public WindowTest {
     QString Cell(int row, int col) {
         const auto& grid = Find<GridView>("ShapeFlex");
         return grid.model()->index(row - 1, col).data().toString();
-    }
-    QString Panel() {
-        Settle();
-        return Find<QLabel>("Panel1").text();
     }
 };
 
@@ -56,59 +47,6 @@ TEST_F(BrowseWindowTest, TheWheelDoesNotChangeAClosedList) {
     EXPECT_EQ(Page().ShapeSizeUS.ListIndex(), 0);
 }
 
-TEST_F(BrowseWindowTest, ProfileAndStyleButtons) {
-    QTest::mouseClick(&Find<QRadioButton>("DimOption2"), Qt::LeftButton, {}, {8, 8});
-    Settle();
-    EXPECT_EQ(Cell(3, 1), "3'-8\"  ");
-    QTest::mouseClick(&Find<QRadioButton>("ProfileOption2"), Qt::LeftButton, {}, {8, 8});
-    Settle();
-    EXPECT_EQ(Cell(3, 1), "1120.00  ");
-    EXPECT_FALSE(Find<QRadioButton>("DimOption1").isEnabled());
-    QTest::keyClick(&Find<QRadioButton>("ProfileOption2"), Qt::Key_Left);
-    Settle();
-    EXPECT_TRUE(Find<QRadioButton>("ProfileOption1").isChecked());
-    EXPECT_TRUE(Find<QRadioButton>("DimOption1").isEnabled());
-    EXPECT_EQ(Cell(3, 1), "3'-8\"  ");
-}
-
-TEST_F(BrowseWindowTest, KeysAndMouseSelectTheSame) {
-    auto& grid = Find<GridView>("ShapeFlex");
-    grid.setFocus();
-    QTest::keyClick(&grid, Qt::Key_Home, Qt::ControlModifier);
-    QTest::keyClick(&grid, Qt::Key_Down);
-    QTest::keyClick(&grid, Qt::Key_Down);
-    const QString byKeys = Panel();
-    EXPECT_EQ(byKeys, " SELECTION:   d = 44.00 in.     [Overall Depth of Member]");
-    QTest::keyClick(&grid, Qt::Key_End, Qt::ControlModifier);
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
-                      grid.viewport()->mapFrom(&grid, grid.Cell_Rect(21, 1).center()));
-    EXPECT_TRUE(program->Form().Shared.GridClicked);
-    grid.verticalScrollBar()->setValue(0);
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
-                      grid.viewport()->mapFrom(&grid, grid.Cell_Rect(3, 1).center()));
-    EXPECT_EQ(Panel(), byKeys);
-}
-
-// The fixed column is clicked like any other, and stays while the rest scrolls sideways.
-TEST_F(BrowseWindowTest, TheFixedColumn) {
-    program->Window().resize(700, 500);
-    Settle();
-    auto& grid = Find<GridView>("ShapeFlex");
-    const QRect cell = grid.Cell_Rect(2, 0);
-    QTest::mouseClick(grid.childAt(cell.center()), Qt::LeftButton, {},
-                      grid.childAt(cell.center())->mapFrom(&grid, cell.center()));
-    EXPECT_EQ(Panel(), " SELECTION:   A = 98.50 in^2     [Cross-Sectional Area]");
-    EXPECT_EQ(Page().ShapeFlex.Col(), 0);
-    grid.setFocus();
-    QTest::keyClick(&grid, Qt::Key_End);
-    Settle();
-    EXPECT_GT(Page().ShapeFlex.Left_Col(), 1);
-    EXPECT_EQ(grid.Cell_Rect(2, 0), cell);
-    Page().Snap_Back();
-    Settle();
-    EXPECT_EQ(grid.horizontalScrollBar()->value(), 0);
-}
-
 TEST_F(BrowseWindowTest, MenuTogglesShowTheirMarks) {
     auto& onTop = Find<QAction>("mnuOnTop");
     auto& readOut = Find<QAction>("mnuReadOut");
@@ -126,7 +64,8 @@ TEST_F(BrowseWindowTest, MenuTogglesShowTheirMarks) {
 TEST_F(BrowseWindowTest, ChoicesAndTheWindowsPlaceComeBack) {
     QTest::keyClicks(&Find<QComboBox>("ShapeType"), "pipe");
     Page().ShapeSizeUS.Select(3);
-    QTest::mouseClick(&Find<QRadioButton>("ProfileOption2"), Qt::LeftButton, {}, {8, 8});
+    for (const char* option : {"DimOption2", "ProfileOption2"})
+        QTest::mouseClick(&Find<QRadioButton>(option), Qt::LeftButton, {}, {8, 8});
     program->Window().resize(900, 555);
     Settle();
     Stop();
@@ -134,16 +73,16 @@ TEST_F(BrowseWindowTest, ChoicesAndTheWindowsPlaceComeBack) {
     EXPECT_EQ(Find<QComboBox>("ShapeType").currentText(), "Pipe");
     EXPECT_EQ(Find<QComboBox>("ShapeSizeUS").currentIndex(), 3);
     EXPECT_TRUE(Find<QRadioButton>("ProfileOption2").isChecked());
+    EXPECT_TRUE(Find<QRadioButton>("DimOption2").isChecked());
+    EXPECT_FALSE(Find<QRadioButton>("DimOption1").isEnabled());
     EXPECT_EQ(program->Window().size(), QSize(900, 555));
 }
 
 TEST_F(BrowseWindowTest, ASettingsFileOfGarbageIsSurvived) {
     Stop();
-    QFile file(home.path() + "/Tensarix/Tensarix.ini");
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[TensarixSetting]\nShapeType=@ByteArray(x)\nShapeSize0=1, 2, 3\n[Window]\n"
+    Write_File(home.path() + "/Tensarix/Tensarix.ini",
+               "[TensarixSetting]\nShapeType=@ByteArray(x)\nShapeSize0=1, 2, 3\n[Window]\n"
                "Geometry=nonsense\n\0\xFF[[[=\n");
-    file.close();
     Start();
     EXPECT_EQ(Find<QComboBox>("ShapeType").count(), 17);
 }

@@ -3,11 +3,7 @@
 #include "controls/CellEditing.h"
 #include "window/Bind.h"
 #include "window/grid/CellOverlay.h"
-#include "window/grid/GridView.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -182,7 +178,7 @@ TEST_F(EditedGrid, TheMouse) {
     QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, Middle(1, 2));
     EXPECT_TRUE(line->hasFocus());
     Type("5");
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Middle(4, 2));
+    Click_Cell(*view, 4, 2);
     EXPECT_EQ(grid.Text(1, 2), "5");
     EXPECT_EQ(Where(), "4,2");
     QCoreApplication::processEvents();
@@ -220,7 +216,7 @@ TEST_F(EditedGrid, TheRowThatEnterGoesToIsBroughtIntoView) {
 }
 
 TEST_F(EditedGrid, TheListOpensOnAClickAndByTyping) {
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Middle(2, 1));
+    Click_Cell(*view, 2, 1);
     EXPECT_TRUE(combo->hasFocus());
     EXPECT_EQ(combo->currentIndex(), -1);
     Key(Qt::Key_Down);
@@ -237,7 +233,7 @@ TEST_F(EditedGrid, TheListOpensOnAClickAndByTyping) {
 }
 
 TEST_F(EditedGrid, TheWheelClosesTheListAndCommitsNothing) {
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, Middle(2, 1));
+    Click_Cell(*view, 2, 1);
     Key(Qt::Key_Down);
     QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -1,21 +1,13 @@
 // Connection Design through real keys, clicks and searches.
 #include "ScreenReader.h"
 #include "WindowTest.h"
-#include "window/grid/GridView.h"
 #include "window/pages/IconList.h"
 #include "window/pages/ReportView.h"
 
 #include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTimer>
-
-#include <functional>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;

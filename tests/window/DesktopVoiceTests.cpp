@@ -17,13 +17,6 @@ namespace {
 constexpr int patienceMs = 60000;   // for what takes well under a second on a free machine
 constexpr int moreThanEver = 50000; // words that nobody has spoken before that is over
 
-void Write_File(const QString& path, const char* text) {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
-
 // Takes many seconds to speak, even to nowhere.
 std::string Long_Text(int words = 3000) {
     std::string text;
@@ -44,6 +37,7 @@ class DesktopVoiceTest : public testing::Test {
     static void SetUpTestSuite() {
         home = std::make_unique<QTemporaryDir>();
         Write_File(home->filePath(".libao"), "default_driver=null\n");
+        QDir().mkpath(home->filePath("speech-dispatcher"));
         Write_File(home->filePath("speech-dispatcher/speechd.conf"),
                    "AudioOutputMethod \"libao\"\n"
                    "AddModule \"espeak-ng\" \"sd_espeak-ng\" \"espeak-ng.conf\"\n"
@@ -93,6 +87,10 @@ class DesktopVoiceTest : public testing::Test {
     bool Wait_For_End() {
         return QTest::qWaitFor([&] { return ends > 0; }, patienceMs);
     }
+    void Expect_Spoken(const std::vector<std::string>& expected) {
+        ASSERT_TRUE(Wait_For_End());
+        EXPECT_EQ(words, expected);
+    }
     // The service that the voice has started.
     static pid_t Service() {
         QFile file(home->filePath("speech-dispatcher/pid/speech-dispatcher.pid"));
@@ -100,29 +98,24 @@ class DesktopVoiceTest : public testing::Test {
     }
 };
 
-using Words = std::vector<std::string>;
-
 } // namespace
 
 TEST_F(DesktopVoiceTest, WordsArriveInOrderAndTheLastTurnWins) {
     Speak("AREA = 98.5 SQUARE INCHES :: <area> & more\nof \"it\"");
     EXPECT_TRUE(words.empty()); // no callback runs inside Speak
-    ASSERT_TRUE(Wait_For_End());
-    EXPECT_EQ(words, (Words{"AREA", "98.5", "SQUARE", "INCHES", "area", "more", "of", "it"}));
+    Expect_Spoken({"AREA", "98.5", "SQUARE", "INCHES", "area", "more", "of", "it"});
 
     // Texts of one turn follow each other.
     Speak("one two");
     voice->Speak("six ten");
-    ASSERT_TRUE(Wait_For_End());
-    EXPECT_EQ(words, (Words{"one", "two", "one", "two"})); // places in the text, which is another
+    Expect_Spoken({"one", "two", "one", "two"}); // places in the text, which is another
     EXPECT_EQ(ends, 1);
 
     // A text of a later turn cuts the running one short.
     Speak(Long_Text());
     ASSERT_TRUE(Wait_For_Words(3));
     Speak("short end");
-    ASSERT_TRUE(Wait_For_End());
-    EXPECT_EQ(words, (Words{"short", "end"}));
+    Expect_Spoken({"short", "end"});
 }
 
 TEST_F(DesktopVoiceTest, AnEmptyTextSilencesTheServiceAtOnce) {
@@ -134,15 +127,13 @@ TEST_F(DesktopVoiceTest, AnEmptyTextSilencesTheServiceAtOnce) {
     EXPECT_EQ(ends, 0);
     // If the service went on with the long text, this one would wait for its end.
     voice->Speak(text = "after silence");
-    ASSERT_TRUE(Wait_For_End());
-    EXPECT_EQ(words, (Words{"after", "silence"})); // and no word of the long one came before
+    Expect_Spoken({"after", "silence"}); // and no word of the long one came before
 
     // Silenced before the service has heard of it: nothing of it comes, and what follows does.
     Speak("never said");
     voice->Speak("");
     voice->Speak(text = "but this");
-    ASSERT_TRUE(Wait_For_End());
-    EXPECT_EQ(words, (Words{"but", "this"}));
+    Expect_Spoken({"but", "this"});
 }
 
 TEST_F(DesktopVoiceTest, TheServiceDiesAndTheNextTextFindsANewOne) {
@@ -155,8 +146,7 @@ TEST_F(DesktopVoiceTest, TheServiceDiesAndTheNextTextFindsANewOne) {
     EXPECT_LT(words.size(), 3000u);
 
     Speak("here again");
-    ASSERT_TRUE(Wait_For_End());
-    EXPECT_EQ(words, (Words{"here", "again"}));
+    Expect_Spoken({"here", "again"});
     EXPECT_NE(Service(), first);
 }
 
@@ -173,8 +163,7 @@ TEST_F(DesktopVoiceTest, AServiceThatHangsHoldsUpNothing) {
     ::kill(service, SIGCONT);
     Make_Voice();
     Speak("hello again");
-    ASSERT_TRUE(Wait_For_End());
-    EXPECT_EQ(words, (Words{"hello", "again"}));
+    Expect_Spoken({"hello", "again"});
 }
 
 // Neither a service nor a way to start one: nothing is heard, and that is told.

@@ -1,12 +1,7 @@
 // Find Sections and View All through real keys and clicks.
 #include "WindowTest.h"
 #include "window/To_Qt.h"
-#include "window/grid/GridView.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 
@@ -99,9 +94,11 @@ TEST_F(FindWindowTest, ViewAllOfTheLongestFamily) {
     EXPECT_EQ(grid.Cell_Rect(1, 1), names);
     const QString byKeys = Text("Panel1");
     EXPECT_TRUE(byKeys.contains("-->   Qs = ")) << byKeys.toStdString();
-    QTest::keyClick(&grid, Qt::Key_Home);
-    const QRect cell = grid.Cell_Rect(1, 16);
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
-                      grid.viewport()->mapFrom(&grid, cell.center()));
+    QTest::keyClick(&grid, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_TRUE(grid.rect().contains(grid.Cell_Rect(444, 16)));
+    QTest::keyClick(&grid, Qt::Key_Home, Qt::ControlModifier);
+    Click_Cell(grid, 1, 16);
     EXPECT_EQ(Text("Panel1"), byKeys);
+    Click_Cell(grid, 1, 0); // a fixed column
+    EXPECT_TRUE(Text("Panel1").contains("-->   Standard US = ")) << byKeys.toStdString();
 }

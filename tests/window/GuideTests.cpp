@@ -2,11 +2,6 @@
 #include "WindowTest.h"
 #include "window/pages/GuideWindow.h"
 
-#include <QComboBox>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 
@@ -88,13 +83,13 @@ TEST_F(GuideTest, SearchGoesRoundAndLinksLead) {
 // Every link leads somewhere, every picture is there and no wider than the window.
 TEST_F(GuideTest, LinksAndPicturesHold) {
     program->Form().mnuGuide.Click();
-    int links = 0, pictures = 0;
-    std::vector<QUrl> all;
+    int pictures = 0;
+    std::vector<QUrl> links;
     for (QTextBlock block = Text().document()->begin(); block.isValid(); block = block.next())
         for (auto part = block.begin(); !part.atEnd(); ++part) {
             const QTextCharFormat format = part.fragment().charFormat();
             if (format.isAnchor())
-                all.emplace_back(format.anchorHref());
+                links.emplace_back(format.anchorHref());
             if (format.isImageFormat()) {
                 ++pictures;
                 const QTextImageFormat image = format.toImageFormat();
@@ -104,8 +99,7 @@ TEST_F(GuideTest, LinksAndPicturesHold) {
                 EXPECT_LT(image.width(), Text().viewport()->width());
             }
         }
-    for (const QUrl& link : all) {
-        ++links;
+    for (const QUrl& link : links) {
         emit Text().anchorClicked(link);
         EXPECT_TRUE(link.fragment().isEmpty() ||
                     Text().textCursor().block().blockFormat().headingLevel() > 0)
@@ -114,6 +108,6 @@ TEST_F(GuideTest, LinksAndPicturesHold) {
             << link.toString().toStdString();
         Text().moveCursor(QTextCursor::End);
     }
-    EXPECT_GT(links, 15);
+    EXPECT_GT(links.size(), 15u);
     EXPECT_GT(pictures, 9);
 }

@@ -28,9 +28,7 @@ class IniSettingsTest : public testing::Test {
     }
     void Set_Text(const QByteArray& text) const {
         QDir().mkpath(home.filePath("Tensarix"));
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        Write_File(path, text);
     }
 };
 

@@ -78,9 +78,7 @@ TEST_F(InstanceTest, OfSeveralStartedAtOnceOneStays) {
 // As a run leaves it that is killed at the wrong moment, or a full disk.
 TEST_F(InstanceTest, WhatStandsInTheLockFileDoesNotCount) {
     for (const QByteArray& text : {QByteArray(), QByteArray("1\ntensarix\n")}) {
-        QFile lock(home.path() + "/tensarix.lock");
-        ASSERT_TRUE(lock.open(QIODevice::WriteOnly) && lock.write(text) == text.size());
-        lock.close();
+        Write_File(home.filePath("tensarix.lock"), text);
         const Process program = Launch_Tensarix();
         EXPECT_TRUE(Comes_Up());
         EXPECT_TRUE(Runs(program));

@@ -1,12 +1,9 @@
 // The main window itself: the menu's keys, and what the mouse does beside the cells.
 #include "WindowTest.h"
-#include "window/grid/GridView.h"
 
 #include <QClipboard>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMenu>
-#include <QTimer>
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;

@@ -2,8 +2,14 @@
 #pragma once
 
 #include "window/Program.h"
+#include "window/grid/GridView.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -29,6 +35,18 @@ Widget& Of(const QWidget& parent, const char* name) {
     if (!widget)
         throw std::runtime_error(std::string{"no widget "} + name);
     return *widget;
+}
+
+inline void Click_Cell(const GridView& grid, int row, int col) {
+    const QPoint at = grid.Cell_Rect(row, col).center();
+    QWidget* const pane = grid.childAt(at);
+    QTest::mouseClick(pane, Qt::LeftButton, {}, pane->mapFrom(&grid, at));
+    QCoreApplication::processEvents();
+}
+
+inline void Write_File(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
 // Keys go to whatever has the focus, as they do on a desktop.
