@@ -40,6 +40,7 @@ Widget& Of(const QWidget& parent, const char* name) {
 inline void Click_Cell(const GridView& grid, int row, int col) {
     const QPoint at = grid.Cell_Rect(row, col).center();
     QWidget* const pane = grid.childAt(at);
+    ASSERT_TRUE(pane) << "scrolled away";
     QTest::mouseClick(pane, Qt::LeftButton, {}, pane->mapFrom(&grid, at));
     QCoreApplication::processEvents();
 }
