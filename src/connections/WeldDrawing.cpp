@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <string>
 
 namespace Tensarix {
@@ -174,20 +175,40 @@ std::vector<Line> Weld_Icon(int item) {
 
 void WeldPasses::Add(const WeldPassLoads& pass) {
     constexpr std::size_t most = 512;
-    // Behind the kept ones the latest stands until it is known whether it is kept.
-    if (!kept_.empty() && (count_ - 1) % every_ != 0)
-        kept_.pop_back();
     kept_.push_back(pass);
-    ++count_;
-    if (kept_.size() < most)
-        return;
-    every_ *= 2;
+    if (kept_.size() >= most)
+        Thin_Out();
+}
+
+double WeldPasses::Worth_Of(std::size_t place, double height) const {
+    constexpr double leastSeen = 0.004; // less is the grain of the strips
+    const WeldPassLoads &before = kept_[place - 1], &at = kept_[place], &behind = kept_[place + 1];
+    const double gap = behind.Ro - before.Ro, part = gap > 0 ? (at.Ro - before.Ro) / gap : 0;
+    const double bend = std::max(std::abs(at.Fv - before.Fv - part * (behind.Fv - before.Fv)),
+                                 std::abs(at.Fm - before.Fm - part * (behind.Fm - before.Fm)));
+    const double worth = gap / kept_.back().Ro + (bend > leastSeen * height ? bend / height : 0);
+    return std::isfinite(worth) ? worth : 1;
+}
+
+// The half that is worth less, but of two passes beside each other one stays.
+void WeldPasses::Thin_Out() {
+    double height = 0;
+    for (const WeldPassLoads& pass : kept_)
+        height = std::max({height, pass.Fv, pass.Fm});
+    std::vector<double> worths(kept_.size(), std::numeric_limits<double>::infinity());
+    for (std::size_t i = 1; i + 1 < kept_.size(); ++i)
+        worths[i] = Worth_Of(i, height);
+    std::vector<double> sorted = worths;
+    const auto middle = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
+    std::nth_element(sorted.begin(), middle, sorted.end());
     std::size_t to = 0;
-    for (std::size_t from = 0; from < kept_.size(); from += 2)
-        kept_[to++] = kept_[from];
+    bool dropped = false;
+    for (std::size_t i = 0; i < kept_.size(); ++i) {
+        dropped = !dropped && worths[i] <= *middle;
+        if (!dropped)
+            kept_[to++] = kept_[i];
+    }
     kept_.resize(to);
-    if ((count_ - 1) % every_ != 0)
-        kept_.push_back(pass);
 }
 
 bool WeldPasses::Is_Plot_Due(double now) {

@@ -30,10 +30,11 @@ struct WeldPassLoads {
     double Ro = 0, Fv = 0, Fm = 0;
 };
 
-// The passes of a run, thinned out where there are many: the last one always stays.
+// The passes of a run. Where there are many they are thinned out, those first that their curves
+// miss least; the first and the last one always stay.
 class WeldPasses {
   public:
-    void Clear() { kept_.clear(), every_ = 1, count_ = 0; }
+    void Clear() { kept_.clear(); }
     void Add(const WeldPassLoads& pass);
     const std::vector<WeldPassLoads>& Kept() const { return kept_; }
     // Whether at that time, in seconds, they are to be drawn anew: a few times a second, because a
@@ -41,8 +42,12 @@ class WeldPasses {
     bool Is_Plot_Due(double now);
 
   private:
+    void Thin_Out();
+    // How much the curves would miss a pass: by its distance from the next ones and by the bend
+    // that they have there, in parts of their length and height.
+    double Worth_Of(std::size_t place, double height) const;
+
     std::vector<WeldPassLoads> kept_;
-    std::size_t every_ = 1, count_ = 0;
     double plotted_ = 0; // seconds
 };
 

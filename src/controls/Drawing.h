@@ -76,7 +76,8 @@ struct Weld {
     Point From, To;
 };
 
-// A line that stands out a little at both ends, its label behind To; in a plot, along it.
+// A line that stands out a little at both ends, its label behind To; in a plot, where it is
+// upright, below the numbers of the axis.
 struct CentreLine {
     Point From, To;
     std::string Label = {};

@@ -75,7 +75,7 @@ void Sheet::Place_Dimension(const Part& part, const Dimension& dimension) {
     run.Out = dimension.At == Side::Left || dimension.At == Side::Above ? -1 : 1;
     run.Pinched = run.To - run.From < leastBetweenHeads * em_;
     const bool inside = dimension.At == Side::Inside;
-    for (const Care care : Cares())
+    for (const Care care : Cares(!inside))
         if (inside ? Place_Inside(run, care) : Place_Beside(run, care))
             return;
     Leave_Out(part, run.Words);
@@ -130,7 +130,19 @@ std::vector<Point> Sheet::Label_Centres(const Run& run, double across, double ta
         return {beside, behind, before};
     if (inside && !run.Pinched)
         return {beside, behind, before};
-    return inside ? std::vector{behind, before} : std::vector{before, behind, beside};
+    if (!inside)
+        return {before, behind, beside};
+    if (!run.Upright)
+        return {behind, before};
+    // At the foot of the tail, on either side of it.
+    const double aside = run.Label.Height / 2;
+    const auto moved = [](Point point, double by) { return Point{point.X + by, point.Y}; };
+    return {behind,
+            before,
+            moved(behind, -aside),
+            moved(behind, aside),
+            moved(before, -aside),
+            moved(before, aside)};
 }
 
 Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,

@@ -32,11 +32,23 @@ void Sheet::Draw_Frame(const Axes& axes) {
     const Size x = measure_(axes.XTitle), y = measure_(axes.YTitle);
     const double below = extent_.Bottom + tickGap * em_, above = high.Y - tickGap * em_;
     const double left = std::min(extent_.Left, low.X);
-    Add_Text(frame, {high.X - x.Width, below, high.X, below + x.Height}, axes.XTitle);
+    xTitle_ = {high.X - x.Width, below, high.X, below + x.Height};
+    Add_Text(frame, xTitle_, axes.XTitle);
     Add_Text(frame, {left, above - y.Height - em_ / 2, left + y.Width, above - em_ / 2},
              axes.YTitle);
     layout_.Plot = Box{low.X, high.Y, high.X, low.Y};
     Draw_Legend(axes);
+}
+
+// In the line of the axis' title, where no curve comes.
+void Sheet::Place_Below_Axis(const Part& part, const std::string& words, double x) {
+    const double width = measure_(words).Width, last = xTitle_.Left - betweenTexts * em_ - width;
+    const double left = std::max(std::min(x - width / 2, last), extent_.Left);
+    const Box place{left, xTitle_.Top, left + width, xTitle_.Bottom};
+    if (left > last)
+        Leave_Out(part, words);
+    else
+        Add_Text(part, place, words);
 }
 
 void Sheet::Draw_Legend(const Axes& axes) {

@@ -15,7 +15,7 @@ namespace {
 constexpr double edgeRoom = 3; // pixels between the drawing and the edge of the view
 constexpr int mostTries = 12;  // to find the scale at which all fits
 constexpr double scaleStep = 0.92, largePart = 0.6, muchLarger = 1.25;
-constexpr double leastPart = 0.25;    // of the scale without texts; below it, the values go
+constexpr double leastPart = 0.2;     // of the scale without texts; below it, the values go
 constexpr double leastPartBare = 0.2; // below it, dimensions go
 constexpr double barRoom = 2.1, barPart = 0.25, barTick = 0.25, barGap = 0.4; // lines; of the view
 
@@ -181,7 +181,8 @@ Layout Fit_What_Fits(const Drawing& drawing, Size room, const TextMeasure& measu
         Fit(drawing, room, measure, {true, 0, Care::Everything}, leastPart, closer);
     if (plain > muchLarger * careful)
         return closer;
-    if (careful > 0)
+    if (careful > 0 ||
+        Fit(drawing, room, measure, {true, 0, Care::AllLines}, leastPart, layout) > 0)
         return layout;
     const std::size_t all = Dimensions_Of(drawing);
     for (std::size_t without = 0; without < all; ++without)

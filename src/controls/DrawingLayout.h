@@ -8,6 +8,7 @@
 
 #include "controls/Drawing.h"
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>
@@ -30,6 +31,10 @@ struct Box {
     bool Contains(const Box& other) const {
         return Left <= other.Left && other.Right <= Right && Top <= other.Top &&
                other.Bottom <= Bottom;
+    }
+    // Its point that is nearest to another one.
+    Point Nearest(Point to) const {
+        return {std::clamp(to.X, Left, Right), std::clamp(to.Y, Top, Bottom)};
     }
     // Whether the line between two points comes into it.
     bool Meets(Point from, Point to) const;

@@ -14,7 +14,8 @@ constexpr double headLength = 0.55, headHalfWidth = 0.17;
 constexpr double markSize = 0.38, dotSize = 0.22;
 constexpr double overhang = 0.7;
 constexpr double labelDistances[] = {0.35, 0.8, 1.4, 2.2, 3.2};
-constexpr double textMargin = 0.2, betweenTexts = 0.45; // the latter side by side
+constexpr double besideMark = 1;                      // a label is taken for that of a mark so near
+constexpr double textMargin = 0.2, beforeText = 0.35; // the latter side by side
 constexpr double pointerLength = 2, pointerStep = 0.5, farthestPointer = 16, pointerBeside = 1.1;
 constexpr int pointersBeside = 3;
 constexpr double beadHalfWidth = 0.26, rippleStep = 0.42, rippleDepth = 0.22;
@@ -67,9 +68,6 @@ void Sheet::Draw() {
             extent_.Take_In({at.X, at.Y, at.X, at.Y});
         }
     things_ = extent_;
-    for (const Part& part : drawing_.Parts)
-        if (const auto* line = std::get_if<CentreLine>(&part.What))
-            Draw_CentreLine(part, *line);
     std::vector<const Part*> dimensions;
     for (const Part& part : drawing_.Parts)
         if (std::holds_alternative<Dimension>(part.What))
@@ -77,6 +75,17 @@ void Sheet::Draw() {
     dimensions.resize(dimensions.size() - std::min(detail_.Dimensions, dimensions.size()));
     for (const Part* part : dimensions)
         Expect_Dimension(*part, std::get<Dimension>(part->What));
+    for (const Part& part : drawing_.Parts) {
+        const auto* mark = std::get_if<Mark>(&part.What);
+        const auto* line = std::get_if<CentreLine>(&part.What);
+        if (mark && !mark->Label.empty())
+            named_.emplace_back(&part, layout_.In_View(mark->At));
+        if (line && !line->Label.empty() && !drawing_.Frame)
+            named_.emplace_back(&part, layout_.In_View(line->To));
+    }
+    for (const Part& part : drawing_.Parts)
+        if (const auto* line = std::get_if<CentreLine>(&part.What))
+            Draw_CentreLine(part, *line);
     // Those inside have the least choice of places, those beside the drawing the most.
     for (const Part* part : dimensions)
         if (const auto& dimension = std::get<Dimension>(part->What); dimension.At == Side::Inside)
@@ -183,14 +192,16 @@ void Sheet::Draw_CentreLine(const Part& part, const CentreLine& line) {
     const Point from = layout_.In_View(line.From), to = layout_.In_View(line.To);
     const Point end = Along(to, from, -overhang * em_);
     Add_Stroke(part, {Along(from, to, -overhang * em_), end}, Weight::Thin, line.Dash);
-    if (line.Label.empty() || drawing_.Frame)
+    if (line.Label.empty())
         return;
+    if (drawing_.Frame)
+        return Place_Below_Axis(part, line.Label, to.X);
     const Size size = measure_(line.Label);
     const Point onward = Along({0, 0}, {end.X - from.X, end.Y - from.Y}, 1);
     const Point centre{end.X + onward.X * (size.Width / 2 + 2 * textMargin * em_),
                        end.Y + onward.Y * (size.Height / 2 + 1.5 * textMargin * em_)};
     const Box place = Text_Box(centre, line.Label);
-    if (Is_Free(place, detail_.First))
+    if (Is_Free(place, Cares(false).front()))
         Add_Text(part, place, line.Label);
     else if (!Place_Near(part, {end}, line.Label))
         Leave_Out(part, line.Label);
@@ -253,6 +264,8 @@ void Sheet::Add_Text(const Part& part, const Box& place, const std::string& word
 
 bool Sheet::Is_Free(const Box& place, Care care) const {
     Box room = place.Grown(textMargin * em_);
+    room.Left = place.Left - beforeText * em_;
+    room.Right = place.Right + beforeText * em_;
     const auto& lines = care == Care::DimensionLines ? dimensionLines_ : segments_;
     if (std::any_of(lines.begin(), lines.end(),
                     [&](const Segment& line) { return room.Meets(line.From, line.To); }))
@@ -291,26 +304,57 @@ void Sheet::Place_Label(const Part& part) {
         for (const Point& point : Spread(curve->Points))
             anchors.push_back(layout_.In_View(point));
         words = curve->Label;
-    } else if (const auto* line = std::get_if<CentreLine>(&part.What); line && drawing_.Frame) {
-        anchors = Spread({layout_.In_View(line->To), layout_.In_View(line->From)});
-        words = line->Label;
     }
-    if (!words.empty() && !Place_Near(part, anchors, words, label != nullptr))
+    if (words.empty())
+        return;
+    if (!Place_Near(part, anchors, words, label != nullptr))
         Leave_Out(part, words);
+    else if (std::holds_alternative<Mark>(part.What))
+        Draw_Leader(part, anchors.front());
+}
+
+// From a mark to its label, the last one, where that found no place beside it.
+void Sheet::Draw_Leader(const Part& part, Point mark) {
+    const Box label = layout_.Texts.back().Place.Grown(textMargin * em_);
+    const Point end = label.Nearest(mark);
+    const Segment line{Along(mark, end, (markSize + textMargin) * em_), end};
+    const double length = std::hypot(end.X - mark.X, end.Y - mark.Y);
+    const bool unclear = length > besideMark * em_ || Is_Taken_For_Another(part, label);
+    if (unclear && Misses_Texts({line.From, Along(end, mark, 1)}))
+        Add_Stroke(part, {line.From, line.To}, Weight::Thin, Pattern::Solid);
+}
+
+// Where a label would be taken for that of another one of its kind: too near to that, or behind it.
+bool Sheet::Is_Taken_For_Another(const Part& part, const Box& place) const {
+    const auto own = std::find_if(named_.begin(), named_.end(),
+                                  [&part](const auto& named) { return named.first == &part; });
+    if (own == named_.end())
+        return false;
+    const Point from = own->second, to = place.Nearest(from);
+    const double near = std::min(std::hypot(to.X - from.X, to.Y - from.Y), besideMark * em_);
+    return std::any_of(named_.begin(), named_.end(), [&](const auto& named) {
+        const Point at = named.second, end = place.Nearest(at);
+        if (named.first->What.index() != part.What.index() || at == from)
+            return false;
+        const Box mark = Box{at.X, at.Y, at.X, at.Y}.Grown(markSize * em_);
+        return std::hypot(end.X - at.X, end.Y - at.Y) < near ||
+               (mark.Meets(from, to) && !mark.Contains({from.X, from.Y, from.X, from.Y}));
+    });
 }
 
 // The nearest free place around the anchors: first one that crosses no line.
 bool Sheet::Place_Near(const Part& part, const std::vector<Point>& anchors,
                        const std::string& words, bool above) {
     const Size size = measure_(words);
-    for (const Care care : Cares())
+    for (const Care care : Cares(false))
         for (const double distance : labelDistances)
             for (const Point& anchor : anchors)
                 for (const Point& towards : above ? directionsFromAbove : directions) {
                     const Point centre{anchor.X + towards.X * (size.Width / 2 + distance * em_),
                                        anchor.Y + towards.Y * (size.Height / 2 + distance * em_)};
                     const Box place = Text_Box(centre, words);
-                    if ((layout_.Plot && !layout_.Plot->Contains(place)) || !Is_Free(place, care))
+                    if ((layout_.Plot && !layout_.Plot->Contains(place)) || !Is_Free(place, care) ||
+                        (care < Care::AllLines && Is_Taken_For_Another(part, place)))
                         continue;
                     Add_Text(part, place, words);
                     return true;
@@ -322,7 +366,7 @@ bool Sheet::Place_Near(const Part& part, const std::vector<Point>& anchors,
 void Sheet::Place_Pointer(const Part& part, const Pointer& pointer) {
     const Point from = layout_.In_View(pointer.From);
     const Point way = Along({0, 0}, {pointer.Towards.X, -pointer.Towards.Y}, em_);
-    for (const Care care : Cares())
+    for (const Care care : Cares(false))
         for (double away = 0; away < farthestPointer; away += pointerStep)
             for (int k = 0; k <= 2 * pointersBeside; ++k) {
                 const double aside = pointerBeside * (k % 2 == 0 ? k / 2 : -(k + 1) / 2);

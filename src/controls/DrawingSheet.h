@@ -22,12 +22,15 @@ enum class Care {
 inline constexpr Care cares[] = {Care::LinesToCome, Care::Everything, Care::AllLines,
                                  Care::DimensionLines};
 
+// Side by side, in heights of a line of text.
+inline constexpr double betweenTexts = 0.9;
+
 // What may be left away for want of room.
 struct Detail {
     bool Values = true;
     std::size_t Dimensions = 0; // so many from the last one on are left away
-    // Of the labels. Less takes less room, also because one may then stand off the middle of its
-    // dimension.
+    // Of the labels. Less takes less room: with Everything, those of dimensions beside the drawing
+    // don't look ahead, and may stand off their middle; with AllLines, no label looks ahead.
     Care First = Care::LinesToCome;
 };
 
@@ -65,8 +68,9 @@ class Sheet {
 
     // Labels.
     // In which care a place is looked for, the most careful first.
-    std::span<const Care> Cares() const {
-        return std::span(cares).subspan(static_cast<std::size_t>(detail_.First));
+    std::span<const Care> Cares(bool besideDrawing) const {
+        const Care last = besideDrawing ? Care::LinesToCome : Care::Everything;
+        return std::span(cares).subspan(detail_.First <= last ? 0 : 1);
     }
     Box Text_Box(Point centre, const std::string& words) const;
     void Add_Text(const Part& part, const Box& place, const std::string& words);
@@ -75,6 +79,8 @@ class Sheet {
     void Place_Label(const Part& part);
     bool Place_Near(const Part& part, const std::vector<Point>& anchors, const std::string& words,
                     bool above = false);
+    bool Is_Taken_For_Another(const Part& part, const Box& place) const;
+    void Draw_Leader(const Part& part, Point mark);
     void Place_Pointer(const Part& part, const Pointer& pointer);
     bool Try_Pointer(const Part& part, const std::string& words, Point tail, Point way, Care care);
     void Mark_Crossed_Texts();
@@ -95,17 +101,20 @@ class Sheet {
     void Draw_Frame(const Axes& axes);
     void Draw_Ticks(const Axes& axes, bool upright);
     void Draw_Legend(const Axes& axes);
+    void Place_Below_Axis(const Part& part, const std::string& words, double x);
 
     const Drawing& drawing_;
     const TextMeasure& measure_;
     Detail detail_;
     Layout layout_;
     double em_;           // the height of a line of text
+    Box xTitle_;          // of a plot
     Box extent_, things_; // everything; without texts, dimensions and the ends of centre lines
     bool started_ = false;
     std::vector<Segment> segments_;                       // all lines
     std::vector<Segment> dimensionLines_;                 // those of dimensions, with their tails
     std::vector<std::pair<const Part*, Segment>> toCome_; // extension lines, far enough out
+    std::vector<std::pair<const Part*, Point>> named_;    // marks and ends that have a label
 };
 
 } // namespace Tensarix::Drawn

@@ -317,7 +317,7 @@ void SectionPen::Draw_Angle() {
     Measure("xp", Side::Above, {0, d}, {xp, d});
     Measure("x", Side::Above, {0, d}, {x, d});
     Attempt([&] { Measure("kdes", Side::Right, {b, 0}, {t, Row_Value("kdes")}); });
-    Measure("y", Side::Right, {b, 0}, {x, y});
+    Measure("y", Side::Right, {b, 0}, {b, y});
     Attempt([&] { Measure("eo", Side::Below, {0, 0}, {Row_Value("eo"), t / 2}); });
     Attempt([&] { Measure("kdet", Side::Below, {0, 0}, {Row_Value("kdet"), t}); });
     Measure("b", Side::Below, {0, 0}, {b, 0});
