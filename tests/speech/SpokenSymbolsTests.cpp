@@ -28,24 +28,38 @@ TEST(SpokenSymbols, Symbols) {
 
 TEST(SpokenSymbols, Units) {
     const std::tuple<const char*, const char*, const char*> cases[] = {
-        // clang-format off
-        {"in^2", "1.00", "SQUARE INCH"}, {"in^2", "1.01", "SQUARE INCHES"},
-        {"in^2", "0.5", "SQUARE INCH"}, {" lb/ft ", "50", "POUNDS PER FOOT"},
-        {"kg/m", "x", "KILOGRAM PER METER"}, {"in.", "2 1/2", "INCHES"},
-        {"in^3", "2", "INCHES TO THE POWER 3"}, {"in^4", "1", "INCH TO THE POWER 4"},
-        {"in^5", "2", "INCHES TO THE POWER 5"}, {"in^6", "12", "INCHES TO THE POWER 6"},
-        {"mm", "2", "MM"}, {"mm^2", "1", "SQUARE MM"}, {"mm^3", "2", "MM TO THE POWER 3"},
-        {"mm^4", "0", "MM TO THE POWER 4"}, {"mm^6", "3", "MM TO THE POWER 6"},
-        {"mm^3/10^3", "7", "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 3"},
-        {"mm^4/10^3", "7", "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 4"},
-        {"mm^6/10^9", "7", "DIVIDED BY 10 TO THE POWER 9 MM TO THE POWER 6"},
-        {"mm^4/10^6", "7", "DIVIDED BY 10 TO THE POWER 6 MM TO THE POWER 4"},
-        {"in", "1e999", "INCH"}, // the value can't be read, so it stays 0
-        {"ksi", "50", ""}, {"", "2", ""},
-        // clang-format on
+        // of one, of more than one
+        {"lb/ft", "POUND PER FOOT", "POUNDS PER FOOT"},
+        {"kg/m", "KILOGRAM PER METER", "KILOGRAMS PER METER"},
+        {"in", "INCH", "INCHES"},
+        {" in. ", "INCH", "INCHES"},
+        {"in^2", "SQUARE INCH", "SQUARE INCHES"},
+        {"in^3", "INCH TO THE POWER 3", "INCHES TO THE POWER 3"},
+        {"in^4", "INCH TO THE POWER 4", "INCHES TO THE POWER 4"},
+        {"in^5", "INCH TO THE POWER 5", "INCHES TO THE POWER 5"},
+        {"in^6", "INCH TO THE POWER 6", "INCHES TO THE POWER 6"},
     };
-    for (const auto& [unit, value, spoken] : cases)
-        EXPECT_EQ(Speak_Unit(unit, value), spoken) << unit << " " << value;
+    for (const auto& [unit, one, more] : cases) {
+        for (const char* value : {"0.5", "1.00", "x", "1e999"}) // which can't be read
+            EXPECT_EQ(Speak_Unit(unit, value), one) << value;
+        for (const char* value : {"1.01", "2 1/2", "50"})
+            EXPECT_EQ(Speak_Unit(unit, value), more) << value;
+    }
+    const std::pair<const char*, const char*> alike[] = {
+        {"mm", "MM"},
+        {"mm^2", "SQUARE MM"},
+        {"mm^3", "MM TO THE POWER 3"},
+        {"mm^4", "MM TO THE POWER 4"},
+        {"mm^6", "MM TO THE POWER 6"},
+        {"mm^3/10^3", "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 3"},
+        {"mm^4/10^3", "DIVIDED BY 10 TO THE POWER 3 MM TO THE POWER 4"},
+        {"mm^4/10^6", "DIVIDED BY 10 TO THE POWER 6 MM TO THE POWER 4"},
+        {"mm^6/10^9", "DIVIDED BY 10 TO THE POWER 9 MM TO THE POWER 6"},
+        {"ksi", ""},
+        {"", ""},
+    };
+    for (const auto& [unit, spoken] : alike)
+        EXPECT_EQ(Speak_Unit(unit, "1") + Speak_Unit(unit, "2"), std::string(spoken) + spoken);
 }
 
 TEST(SpokenSymbols, PhrasesWordByWord) {

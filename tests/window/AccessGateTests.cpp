@@ -4,6 +4,7 @@
 #include "Looks.h"
 #include "WindowTest.h"
 #include "window/To_Qt.h"
+#include "window/calculator/CalcKeyLayout.h"
 #include "window/calculator/CalcWindow.h"
 #include "window/grid/GridView.h"
 #include "window/pages/IconList.h"
@@ -141,6 +142,8 @@ QString Words_Of(QWidget& widget) {
     if (const auto* list = qobject_cast<QComboBox*>(&widget); list && list->count() <= shortList)
         for (int i = 0; i < list->count(); ++i)
             words << list->itemText(i);
+    if (const CalcKey* key = Find_Key(widget.objectName().toStdString()))
+        words << To_Qt(Look_Of(*key).Rich);
     words.removeAll(QString());
     return words.join(QStringLiteral(" | ")).replace(QLatin1Char('\n'), QStringLiteral("\\n"));
 }
