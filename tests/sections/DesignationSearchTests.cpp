@@ -42,12 +42,6 @@ const DesignationSearch& The_Search() {
     return search;
 }
 
-std::string In_Small(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
-
 // Each number in the text as it is computed: 1-1/8 gives 1.125, .500 gives 0.5.
 std::string With_Decimals(const std::string& text) {
     static const std::regex number(R"((?:(\d+)-)?(\d+)/(\d+)|\d*\.\d+|\d+)");
@@ -75,7 +69,7 @@ bool Stands_In(const std::string& name, const std::string& text, bool ends) {
         const bool inside =
             at > 0 &&
             (std::string_view{"-/"}.find(name[at - 1]) != std::string_view::npos ||
-             digit(at) == digit(at - 1) || name[at] == 'x' || (!digit(at) && !digit(at - 1)));
+             digit(at) == digit(at - 1) || name[at] == 'X' || (!digit(at) && !digit(at - 1)));
         if (!inside && !(ends && digit(at + text.size())))
             return true;
     }
@@ -88,7 +82,7 @@ Places Scan(const std::string& typed) {
     static const std::vector<std::pair<std::string, std::string>> names = [] {
         std::vector<std::pair<std::string, std::string>> forms;
         for (const PlainName& name : All_Names())
-            forms.emplace_back(In_Small(name.Text), With_Decimals(In_Small(name.Text)));
+            forms.emplace_back(Upper(name.Text), With_Decimals(Upper(name.Text)));
         return forms;
     }();
     const bool zeros = std::regex_search(typed, std::regex(R"(\.\d*0$)"));
@@ -112,12 +106,12 @@ Places Found_Places(const std::string& typed) {
 // However it is written, the first that is found for a name in full is the section of that name.
 TEST(DesignationSearchTest, EveryNameInFull) {
     ASSERT_EQ(All_Names().size(), 3946u);
-    const std::regex letter("([a-z])");
+    const std::regex letter("([A-Z])");
     for (std::size_t i = 0; i < All_Names().size(); i += Tests::walkStep) {
         const PlainName& name = All_Names()[i];
-        const std::string spaced = std::regex_replace(In_Small(name.Text), letter, " $1 ");
+        const std::string spaced = std::regex_replace(Upper(name.Text), letter, " $1 ");
         for (const std::string& typed :
-             {name.Text, Upper(name.Text), spaced, With_Decimals(In_Small(name.Text))}) {
+             {name.Text, Upper(name.Text), spaced, With_Decimals(Upper(name.Text))}) {
             const auto found = The_Search().Find(typed, 3);
             ASSERT_FALSE(found.empty()) << typed;
             ASSERT_EQ(found[0].Place, name.Place) << typed << " finds " << found[0].Name;
@@ -133,7 +127,7 @@ TEST(DesignationSearchTest, ShortenedNamesAgainstAScan) {
     const auto& names = All_Names();
     int compared = 0;
     for (std::size_t i = 0; compared < 1000; i += 7) {
-        const std::string name = In_Small(names[i % names.size()].Text);
+        const std::string name = Upper(names[i % names.size()].Text);
         const std::string typed = name.substr(0, 2 + i % (name.size() - 1));
         if (typed.ends_with('.') || typed.ends_with("-")) // between two numbers
             continue;

