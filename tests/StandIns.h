@@ -16,6 +16,8 @@
 
 namespace Tensarix::Tests {
 
+using Texts = std::vector<std::string>;
+
 class MapSettings final : public SettingsStore {
   public:
     std::map<std::pair<std::string, std::string>, std::string> Kept;
@@ -93,14 +95,10 @@ class HandClock final : public Clock {
 
 class CountedEvents final : public EventLoop {
   public:
-    long Yields = 0;
     long Turns = 0;
     std::function<bool()> OnYield; // false: closing
 
-    bool Yield() override {
-        ++Yields;
-        return OnYield ? OnYield() : true;
-    }
+    bool Yield() override { return OnYield ? OnYield() : true; }
     void Turn() override { ++Turns; }
     void When_Idle(std::function<void()> work) override { Waiting.push_back(std::move(work)); }
 

@@ -12,8 +12,6 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-using Texts = std::vector<std::string>;
-
 class BeamPageTest : public testing::Test {
   protected:
     TestMachine machine;
@@ -188,15 +186,11 @@ TEST_F(BeamPageTest, AnInvalidSpan) {
 // Blanks around a length, which reading it as it stands would take for no inches, do no harm.
 TEST_F(BeamPageTest, EveryFormOfALengthIsTaken) {
     BeamPage& p = Start();
-    for (const auto& [typed, shown] : {std::pair{"240", "20'-0\""},
-                                       {" 240", "20'-0\""},
-                                       {"20'", "20'-0\""},
-                                       {"20.5'", "20'-6\""},
-                                       {"20'-6 1/2", "20'-6 1/2\""},
-                                       {" 20' -6\" ", "20'-6\""},
-                                       {"240 1/2\"", "20'-1/2\""},
-                                       {"1/2 ", "1/2\""},
-                                       {"-5'", "-5'-0\""}}) {
+    using Case = std::pair<const char*, const char*>;
+    for (const auto& [typed, shown] :
+         {Case{"240", "20'-0\""}, Case{" 240", "20'-0\""}, Case{"20'", "20'-0\""},
+          Case{"20.5'", "20'-6\""}, Case{"20'-6 1/2", "20'-6 1/2\""}, Case{" 20' -6\" ", "20'-6\""},
+          Case{"240 1/2\"", "20'-1/2\""}, Case{"1/2 ", "1/2\""}, Case{"-5'", "-5'-0\""}}) {
         p.BeamSpanBox.Focus.Set();
         p.BeamSpanBox.Set_Text(typed);
         p.BeamSpanBox.OnKeyDown(Keys::Enter);
@@ -336,17 +330,14 @@ TEST_F(BeamPageTest, RemarksOnTheRules) {
     const std::string web =
         "Web shear buckling is left out: h/tw of this web is above the limit to "
         "which the edition takes its full shear strength";
-    struct {
-        int Family;
-        const char* Size;
-        std::string Ninth, ASD, LRFD; // at 50 ksi
-    } const cases[] = {{0, "W21x44", "", "", ""},
-                       {0, "W6x15", compactness, "", ""},
-                       {0, "W44x230", web, "", ""},
-                       {1, "M12x10", web, web, web},
-                       {4, "C15x50", "", channel15, channel10},
-                       {5, "MC12x10.6", web, "", ""}, // its factors are 1.67 and 0.9
-                       {5, "MC10x6.5", web, web, web}};
+    using Case = std::tuple<int, const char*, std::string, std::string, std::string>; // at 50 ksi
+    const Case cases[] = {{0, "W21x44", "", "", ""},
+                          {0, "W6x15", compactness, "", ""},
+                          {0, "W44x230", web, "", ""},
+                          {1, "M12x10", web, web, web},
+                          {4, "C15x50", "", channel15, channel10},
+                          {5, "MC12x10.6", web, "", ""}, // its factors are 1.67 and 0.9
+                          {5, "MC10x6.5", web, web, web}};
     // At the boundary each of them makes the results too high; far above it only compactness does.
     const auto expect = [&](const std::string& size, const std::string& told) {
         for (const auto& [span, weighs] :
@@ -363,15 +354,15 @@ TEST_F(BeamPageTest, RemarksOnTheRules) {
         }
     };
     Start();
-    for (const auto& c : cases) {
-        Choose(c.Family, c.Size);
+    for (const auto& [family, size, ninth, asd, lrfd] : cases) {
+        Choose(family, size);
         page->AppliedCode.Select(code9thEdition);
-        expect(c.Size, c.Ninth);
+        expect(size, ninth);
         page->AppliedCode.Select(code13thEdition);
         page->CodeOpt[0].Select();
-        expect(c.Size, c.ASD);
+        expect(size, asd);
         page->CodeOpt[1].Select();
-        expect(c.Size, c.LRFD);
+        expect(size, lrfd);
     }
 }
 

@@ -149,11 +149,7 @@ TEST(CalcChains, ATotalAgainstThePriorityHasARemark) {
 TEST(CalcFunctions, AgreeWithTheLibraryToThirteenDigits) {
     using Real = long double;
     static const Real degree = std::acos(Real{-1}) / 180;
-    const struct {
-        const char* Token;
-        double Low, High;
-        Real (*Exact)(Real);
-    } functions[] = {
+    const std::tuple<const char*, double, double, Real (*)(Real)> functions[] = {
         {"sqr", -1e6, 1e6, [](Real x) { return x * x; }},
         {"cube", -1e4, 1e4, [](Real x) { return x * x * x; }},
         {"sqrt", 0.01, 1e9, [](Real x) { return std::sqrt(x); }},
@@ -177,23 +173,22 @@ TEST(CalcFunctions, AgreeWithTheLibraryToThirteenDigits) {
         {"itanh", -0.99, 0.99, [](Real x) { return std::atanh(x); }},
     };
     Random random(23);
-    for (const auto& function : functions) {
+    for (const auto& [token, low, high, exactly] : functions) {
         Tests::Largest deviation;
         for (int i = 0; i < 300; ++i) {
             const double part = double(random()) / 4294967296.0;
-            const std::string text =
-                Format_Number(function.Low + part * (function.High - function.Low), "0.0########");
+            const std::string text = Format_Number(low + part * (high - low), "0.0########");
             CalcTest calc;
             ASSERT_TRUE(Key_In_Number(calc.Form, text));
-            calc.Keys(function.Token);
-            ASSERT_FALSE(calc.Vars.Display.ErrorLatched) << text << function.Token;
-            const Real exact = function.Exact(Text_Number(text));
+            calc.Keys(token);
+            ASSERT_FALSE(calc.Vars.Display.ErrorLatched) << text << token;
+            const Real exact = exactly(Text_Number(text));
             const double off = static_cast<double>(std::abs(calc.Vars.Display.LastResult - exact) /
                                                    std::max(Real{1}, std::abs(exact)));
-            EXPECT_LT(off, 1e-13) << text << function.Token;
+            EXPECT_LT(off, 1e-13) << text << token;
             deviation.Take(off, text);
         }
-        deviation.Record(function.Token);
+        deviation.Record(token);
     }
 }
 

@@ -5,6 +5,8 @@
 #include "calculator/CalcTestSupport.h"
 #include "calculator/CalcWaiting.h"
 
+#include <array>
+
 using namespace Tensarix;
 
 namespace {
@@ -318,11 +320,8 @@ TEST(CalcPanel, ResultsAreKeptWithTheirChains) {
 
 TEST(CalcPanel, IndicatorsAndPrecisionFollowTheButtons) {
     constexpr int same = -1;
-    const struct {
-        const char* Keys;
-        int Precision; // chosen behind them
-        const char* Panel;
-    } steps[] = {
+    const std::tuple<const char*, int, const char*> steps[] = {
+        // the precision behind the keys
         {"", same, "0. NORM DEGREE"},
         {"12.7 FxnButton", same, "12.70 FIX DEGREE 2"},
         {"", 0, "13. FIX DEGREE 0"},
@@ -338,24 +337,21 @@ TEST(CalcPanel, IndicatorsAndPrecisionFollowTheButtons) {
     };
     CalcTest calc;
     const CalcPanel& panel = calc.Form.Panel;
-    for (const auto& step : steps) {
-        calc.Keys(step.Keys);
-        if (step.Precision != same)
-            PrecBox_Change(calc.Form, step.Precision);
-        EXPECT_EQ(panel.PrecEnabled, panel.PrecIndex != -1) << step.Panel;
+    for (const auto& [keys, precision, expected] : steps) {
+        calc.Keys(keys);
+        if (precision != same)
+            PrecBox_Change(calc.Form, precision);
+        EXPECT_EQ(panel.PrecEnabled, panel.PrecIndex != -1) << expected;
         std::string text = calc.Shown() + " ";
         text.append(Indicator_Text(panel.DispMode_Indicator)).append(" ");
         text.append(Indicator_Text(panel.Mode_Indicator));
         text += panel.PrecEnabled ? " " + std::to_string(panel.PrecIndex) : "";
-        EXPECT_EQ(text + (panel.Mem_Indicator.empty() ? "" : " ") + panel.Mem_Indicator,
-                  step.Panel);
+        EXPECT_EQ(text + (panel.Mem_Indicator.empty() ? "" : " ") + panel.Mem_Indicator, expected);
     }
 }
 
 TEST(CalcPanel, ReopeningKeepsWhatWasThere) {
-    const struct {
-        const char *Before, *Reopened, *After, *Shown;
-    } cases[] = {
+    const std::array<const char*, 4> cases[] = {
         {"2 + 12.50", "12.5", "=", "14.5"},
         {"12", "12.", "3", "123."},
         {"1.5 exp 7", "1.5 07", "1 =", "1.5 71"},
@@ -365,18 +361,18 @@ TEST(CalcPanel, ReopeningKeepsWhatWasThere) {
         {"1 / 0 =", "0.", "5 =", "5."},
         {"ScnButton 1500 RadButton", "1.50 03", "PI cos", "-1.00 00"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [before, reopened, after, shown] : cases) {
         CalcTest calc;
-        calc.Keys(c.Before);
+        calc.Keys(before);
         Close(calc.Form);
         CalcMainFrm again{calc.Vars, {}, {}};
         Open(again);
-        EXPECT_EQ(again.Panel.DisplayBox + again.Panel.ExpoBox, c.Reopened) << c.Before;
+        EXPECT_EQ(again.Panel.DisplayBox + again.Panel.ExpoBox, reopened) << before;
         EXPECT_EQ(again.Panel.CCalc_Indicator, "");
         EXPECT_EQ(again.Panel.DispMode_Indicator, calc.Form.Panel.DispMode_Indicator);
         EXPECT_EQ(again.Panel.Mode_Indicator, calc.Form.Panel.Mode_Indicator);
         EXPECT_EQ(again.Panel.PrecIndex, calc.Form.Panel.PrecIndex);
         calc.Form.Panel = again.Panel;
-        EXPECT_EQ(calc.Keys(c.After).Shown(), c.Shown) << c.Before;
+        EXPECT_EQ(calc.Keys(after).Shown(), shown) << before;
     }
 }

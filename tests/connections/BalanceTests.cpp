@@ -21,28 +21,25 @@ const double farthestBolt = std::pow(1 - std::exp(-3.4), 0.55);
 // In the frame of the group: forces square to the radius from the centre, against the load that
 // points down, turned clockwise by the angle, through a point at ex beside the centroid.
 TEST(BalancedBolts, TheForcesAboutTheCentreBalanceTheLoad) {
-    struct Case {
-        BoltGroup group;
-        double ex, angle;
-    };
+    using Case = std::tuple<BoltGroup, double, double>;
     Tests::Largest deviation;
-    for (const Case& c :
+    for (const auto& [group, ex, angle] :
          {Case{{2, 1, 3, 3}, 120, 0}, Case{{3, 1, 3, 3}, 8, 0}, Case{{6, 2, 3, 5.5}, 16, 30},
           Case{{4, 3, 3, 2}, -5, 40}, Case{{12, 2, 3, 5.5}, 16, 45}, Case{{6, 2, 3, 3}, 6, 75},
           Case{{1, 4, 3, 3}, 5, 20}, Case{{2, 4, 3, 3}, 7, -60}, Case{{5, 2, 76.2, 76.2}, 150, 140},
           Case{{5, 2, 3, 3}, -6, 200}}) {
-        const Balance balance = Balanced_Bolts(c.group, c.ex, c.angle).value_or(Balance{});
+        const Balance balance = Balanced_Bolts(group, ex, angle).value_or(Balance{});
         ASSERT_TRUE(balance.Turns);
-        const double theta = c.angle * pi / 180;
+        const double theta = angle * pi / 180;
         double across = -balance.C * std::sin(theta), up = -balance.C * std::cos(theta);
-        double moment = c.ex * up;
+        double moment = ex * up;
         const double turn = moment > 0 ? -1 : 1; // the forces turn the other way
         std::vector<std::array<double, 4>> bolts;
-        double farthest = 0, size = std::abs(c.ex);
-        for (int i = 0; i < c.group.m; ++i) {
-            for (int j = 0; j < c.group.n; ++j) {
-                const double x = (j - (c.group.n - 1) / 2.0) * c.group.sh;
-                const double y = (i - (c.group.m - 1) / 2.0) * c.group.sv;
+        double farthest = 0, size = std::abs(ex);
+        for (int i = 0; i < group.m; ++i) {
+            for (int j = 0; j < group.n; ++j) {
+                const double x = (j - (group.n - 1) / 2.0) * group.sh;
+                const double y = (i - (group.m - 1) / 2.0) * group.sv;
                 bolts.push_back({x, y, x - balance.X, y - balance.Y});
                 farthest = std::max(farthest, std::hypot(x - balance.X, y - balance.Y));
             }
@@ -55,8 +52,8 @@ TEST(BalancedBolts, TheForcesAboutTheCentreBalanceTheLoad) {
             moment += share * (x * dx + y * dy);
         }
         const double missed = std::hypot(across, up, moment / size) / balance.C;
-        EXPECT_LT(missed, 1e-9) << c.group.m << " x " << c.group.n << " at " << c.angle;
-        deviation.Take(missed, std::to_string(c.group.m) + " x " + std::to_string(c.group.n));
+        EXPECT_LT(missed, 1e-9) << group.m << " x " << group.n << " at " << angle;
+        deviation.Take(missed, std::to_string(group.m) + " x " + std::to_string(group.n));
     }
     deviation.Record("missed of C");
 }

@@ -94,14 +94,13 @@ TEST_F(BoltPageTest, TheDrawingHasTheCentreOfTheSearchForC) {
 
 TEST_F(BoltPageTest, TextsThatAreNoNumbersOrOutOfRange) {
     Start();
-    struct Case {
-        const char *typed, *kept;
-    };
-    for (const Case& c : {Case{"abc", "0.000  "}, Case{"1.2.3", "1.200  "}, Case{".5", "0.500  "},
-                          Case{"3.1234567", "3.12346  "}, Case{"   ", "   "},
-                          Case{"1E999", "0.000  "}}) { // beyond the range: no number
-        Type(1, 3, c.typed);
-        EXPECT_EQ(Cell(1, 3), c.kept) << c.typed;
+    using Case = std::pair<const char*, const char*>;
+    for (const auto& [typed, kept] :
+         {Case{"abc", "0.000  "}, Case{"1.2.3", "1.200  "}, Case{".5", "0.500  "},
+          Case{"3.1234567", "3.12346  "}, Case{"   ", "   "},
+          Case{"1E999", "0.000  "}}) { // beyond the range: no number
+        Type(1, 3, typed);
+        EXPECT_EQ(Cell(1, 3), kept) << typed;
     }
     Type_Row(2, {"40000", "1", "3", "3", "4", "0"}); // beyond 16 bits: counts as 0
     EXPECT_EQ(Cell(2, 7), "0.000  ");
@@ -218,14 +217,12 @@ TEST_F(BoltPageTest, AddAndRemoveRows) {
 }
 
 TEST_F(BoltPageTest, TheSavedCountOfRows) {
-    struct Case {
-        const char* saved;
-        int rows;
-    };
-    for (const Case& c : {Case{"20", 20}, Case{"20.5", 20}, Case{"3", 16}, Case{"-5", 16},
-                          Case{"abc", 16}, Case{"1E9", 16}, Case{"32768", 32768}}) {
-        machine.Store.Set("cFlexRows", c.saved);
-        EXPECT_EQ(Start().cFlex.Rows(), c.rows) << c.saved;
+    using Case = std::pair<const char*, int>;
+    for (const auto& [saved, rows] :
+         {Case{"20", 20}, Case{"20.5", 20}, Case{"3", 16}, Case{"-5", 16}, Case{"abc", 16},
+          Case{"1E9", 16}, Case{"32768", 32768}}) {
+        machine.Store.Set("cFlexRows", saved);
+        EXPECT_EQ(Start().cFlex.Rows(), rows) << saved;
     }
     page->AddRowButton.Click(); // a row that could not be saved
     EXPECT_EQ(page->cFlex.Rows(), 32768);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 
 #include "common/Failure.h"
@@ -18,25 +19,21 @@ double Coefficient(WeldBench& bench, int item, double L, double kL, double aL, d
 // L = 2, kL = 1.2, as the search goes with every step on its own; stopped behind 120 passes.
 TEST(SolveWeldGroup, SearchesTakeTheirPasses) {
     constexpr long most = 120;
-    struct Row {
-        int item;
-        double angle, aL, C;
-        long passes;
-    };
-    const Row rows[] = {{1, 0, 0.8, 2.091574694, 111},   {1, 120, 3, 1.033284685, 64},
-                        {2, 75, 3, 2.580590719, 118},    {3, 15, 3, 0.810804841, 79},
-                        {4, 0, 3, 1.169392404, most},    {5, 45, 0.8, 5.160071699, most},
-                        {6, 15, 3, 1.877373396, 111},    {6, 0, 3, 0.833305480, 77},
-                        {7, 75, 0.8, 3.621988144, most}, {8, 45, 3, 1.476060737, 68},
-                        {8, 120, 3, 1.885504554, 86},    {9, 0, 0.8, 1.755666654, 97},
-                        {9, 75, 3, 1.726641088, 74}};
-    for (const Row& row : rows) {
+    const std::tuple<int, double, double, double, long> rows[] = {
+        {1, 0, 0.8, 2.091574694, 111},   {1, 120, 3, 1.033284685, 64},
+        {2, 75, 3, 2.580590719, 118},    {3, 15, 3, 0.810804841, 79},
+        {4, 0, 3, 1.169392404, most},    {5, 45, 0.8, 5.160071699, most},
+        {6, 15, 3, 1.877373396, 111},    {6, 0, 3, 0.833305480, 77},
+        {7, 75, 0.8, 3.621988144, most}, {8, 45, 3, 1.476060737, 68},
+        {8, 120, 3, 1.885504554, 86},    {9, 0, 0.8, 1.755666654, 97},
+        {9, 75, 3, 1.726641088, 74}};
+    for (const auto& [item, angle, aL, expected, passes] : rows) {
         WeldBench bench;
         // The last pass stands twice on the display.
         bench.display.onStep = [&] { bench.state.StopRequested |= bench.display.steps == most; };
-        const double C = Coefficient(bench, row.item, 2, 1.2, row.aL, row.angle);
-        EXPECT_NEAR(C, row.C, 1e-9) << row.item << " at " << row.angle;
-        EXPECT_EQ(bench.display.steps, row.passes + 1) << row.item << " at " << row.angle;
+        const double C = Coefficient(bench, item, 2, 1.2, aL, angle);
+        EXPECT_NEAR(C, expected, 1e-9) << item << " at " << angle;
+        EXPECT_EQ(bench.display.steps, passes + 1) << item << " at " << angle;
     }
 }
 
@@ -76,11 +73,7 @@ TEST(SolveWeldGroup, ConcentricGroupsInClosedForm) {
     const auto turned = [](double degrees) {
         return 1 + 0.5 * std::pow(std::sin(degrees * pi / 180), 1.5);
     };
-    struct Row {
-        int item;
-        double L, kL, angle, lines;
-    };
-    const Row rows[] = {
+    const std::tuple<int, double, double, double, double> rows[] = {
         {1, 8, 0, 0, 2},
         {2, 250, 70, 0, 2},
         {2, 10, 5, 30, 2 * turned(30)},
@@ -91,11 +84,9 @@ TEST(SolveWeldGroup, ConcentricGroupsInClosedForm) {
         {6, 10, 0, 0, 1},
         {9, 10, 10, 30, turned(30) + turned(60)},
     };
-    for (const Row& row : rows) {
+    for (const auto& [item, L, kL, angle, lines] : rows) {
         WeldBench bench;
-        EXPECT_NEAR(Coefficient(bench, row.item, row.L, row.kL, 0, row.angle), row.lines * unit,
-                    1e-9)
-            << row.item;
+        EXPECT_NEAR(Coefficient(bench, item, L, kL, 0, angle), lines * unit, 1e-9) << item;
     }
     WeldBench bench;
     EXPECT_NEAR(Coefficient(bench, 2, 8, 3, 0, 0), 3.7123, 5e-5);
@@ -148,17 +139,15 @@ TEST(SolveWeldGroup, AbsurdNumbersFailOrEndOrCanBeGivenUp) {
     EXPECT_THROW(Coefficient(none, 2, 1e-308, 5, 4, 0), Failure);
     EXPECT_THROW(Coefficient(none, 2, 1e-10, 1e300, 4, 0), Failure);
     EXPECT_EQ(none.turn.asked, 0);
-    struct Row {
-        double L, kL, aL, angle;
-    };
-    for (const Row& row : {Row{1e300, 5, 4, 0}, Row{10, 1e300, 4, 0}, Row{10, 5, 1e300, 0},
-                           Row{10, 5, 4, 1e308}, Row{1e300, 1e300, 1e300, 45}, Row{1e9, 5, 4, 0}}) {
+    using Row = std::array<double, 4>;
+    for (const auto& [L, kL, aL, angle] :
+         {Row{1e300, 5, 4, 0}, Row{10, 1e300, 4, 0}, Row{10, 5, 1e300, 0}, Row{10, 5, 4, 1e308},
+          Row{1e300, 1e300, 1e300, 45}, Row{1e9, 5, 4, 0}}) {
         for (const int item : {2, 4, 8}) {
             WeldBench bench;
             bench.turn.most = 20'000;
             try {
-                EXPECT_TRUE(
-                    std::isfinite(Coefficient(bench, item, row.L, row.kL, row.aL, row.angle)));
+                EXPECT_TRUE(std::isfinite(Coefficient(bench, item, L, kL, aL, angle)));
             } catch (const SearchAbandoned&) {
                 EXPECT_EQ(bench.turn.asked, bench.turn.most);
             }

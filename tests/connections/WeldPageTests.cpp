@@ -315,19 +315,16 @@ TEST_F(WeldPageTest, NothingCanBeEditedDuringARun) {
 TEST_F(WeldPageTest, CentroidsByConfiguration) {
     WeldPage& p = Start();
     const std::string none = "             N.A.";
-    struct Case {
-        int item;
-        std::string empty, kL, full; // xL and yL, one behind the other
-    };
-    for (const Case& c :
+    using Case = std::tuple<int, std::string, std::string, std::string>; // xL behind yL
+    for (const auto& [item, empty, kL, full] :
          {Case{3, none + none, "8", none + none}, Case{6, none, "7.5", "2.446     " + none},
           Case{7, none, "7.5", "2.446     " + none}, Case{8, "", "8", "2.000     2.000     "},
           Case{9, "", "8", "2.000     2.000     "}}) {
-        p.WeldView.Click(c.item);
-        EXPECT_EQ(Value(4) + Value(5), c.empty) << c.item;
+        p.WeldView.Click(item);
+        EXPECT_EQ(Value(4) + Value(5), empty) << item;
         Type(WeldRow::L, "8");
-        Type(WeldRow::kL, c.kL);
-        EXPECT_EQ(Value(4) + Value(5), c.full) << c.item; // 7.5^2 / (8 + 2 x 7.5) = 2.446
+        Type(WeldRow::kL, kL);
+        EXPECT_EQ(Value(4) + Value(5), full) << item; // 7.5^2 / (8 + 2 x 7.5) = 2.446
     }
     Type(WeldRow::L, "0"); // fails: the defaults stand
     EXPECT_EQ(Value(4) + Value(5), "");

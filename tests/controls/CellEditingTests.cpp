@@ -77,13 +77,7 @@ class Sheet {
 using Lines = std::vector<std::string>;
 
 TEST(CellEditing, WhatOpensTheEditorAndWithWhichText) {
-    struct Case {
-        const char* Name;
-        std::function<void(Sheet&)> Act;
-        const char* Text;
-        int Caret;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, void (*)(Sheet&), const char*, int> cases[] = {
         {"a digit replaces", [](Sheet& s) { s.Grid.OnKeyPress('7'); }, "7", 1},
         {"a blank keeps", [](Sheet& s) { s.Grid.OnKeyPress(' '); }, "5'-6\"", 5},
         {"Enter keeps", [](Sheet& s) { s.Grid.OnKeyPress(13); }, "5'-6\"", 5},
@@ -91,14 +85,14 @@ TEST(CellEditing, WhatOpensTheEditorAndWithWhichText) {
         {"a double click keeps", [](Sheet& s) { s.Grid.OnDblClick(); }, "5'-6\"", 5},
         {"another script", [](Sheet& s) { s.Grid.OnKeyPress(0x0665); }, "\xD9\xA5", 1},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.Name);
+    for (const auto& [name, act, text, caret] : cases) {
+        SCOPED_TRACE(name);
         Sheet sheet;
         sheet.Grid.Set_Text(2, 2, "5'-6\"     ");
-        c.Act(sheet);
+        act(sheet);
         EXPECT_TRUE(sheet.Box.Visible() && sheet.Box.Focus.Has());
-        EXPECT_EQ(sheet.Box.Text(), c.Text);
-        EXPECT_EQ(sheet.Box.SelStart(), c.Caret);
+        EXPECT_EQ(sheet.Box.Text(), text);
+        EXPECT_EQ(sheet.Box.SelStart(), caret);
         EXPECT_EQ(sheet.Log, Lines{}) << "opening computes nothing";
     }
 }
@@ -137,12 +131,7 @@ TEST(CellEditing, TheEditorLiesInsideItsCell) {
 }
 
 TEST(CellEditing, KeysCommitFirstAndMoveSecond) {
-    struct Case {
-        int Key, Row, Col;
-        const char* Where;
-        Lines Log;
-    };
-    const Case cases[] = {
+    const std::tuple<int, int, int, const char*, Lines> cases[] = {
         {enterKey, 2, 2, "3,2", {"validate 12", "validate 12", "commit >12 at 2", "turn"}},
         {enterKey, 3, 2, "3,2", {"validate 12", "validate 12", "commit >12 at 3", "turn"}},
         {Keys::Down, 2, 2, "3,2", {"validate 12", "commit >12 at 2", "turn"}},
@@ -153,15 +142,15 @@ TEST(CellEditing, KeysCommitFirstAndMoveSecond) {
         {Keys::Tab, 3, 2, "3,2", {"validate 12", "validate 12", "commit >12 at 3", "turn"}},
         {Keys::BackTab, 2, 2, "2,1", {"validate 12", "validate 12", "commit >12 at 2", "turn"}},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE("key " + std::to_string(c.Key) + " in row " + std::to_string(c.Row));
+    for (const auto& [key, row, col, where, log] : cases) {
+        SCOPED_TRACE("key " + std::to_string(key) + " in row " + std::to_string(row));
         Sheet sheet;
-        sheet.Grid.Move_To(c.Row, c.Col);
+        sheet.Grid.Move_To(row, col);
         sheet.Type("12");
-        sheet.Box.OnKeyDown(c.Key);
-        EXPECT_EQ(sheet.Where(), c.Where);
-        EXPECT_EQ(sheet.Log, c.Log);
-        EXPECT_EQ(sheet.Grid.Text(c.Row, 2), "12");
+        sheet.Box.OnKeyDown(key);
+        EXPECT_EQ(sheet.Where(), where);
+        EXPECT_EQ(sheet.Log, log);
+        EXPECT_EQ(sheet.Grid.Text(row, 2), "12");
         EXPECT_FALSE(sheet.Box.Visible());
         EXPECT_TRUE(sheet.Grid.Focus.Has());
     }

@@ -29,10 +29,8 @@ constexpr double notFinite[] = {std::numeric_limits<double>::infinity(),
 } // namespace
 
 TEST(FeetInchFormatting, BothFormsOfALength) {
-    const struct {
-        double Inches;
-        const char *Text, *Folded, *Spoken, *SpokenFolded;
-    } cases[] = {
+    using Case = std::tuple<double, const char*, const char*, const char*, const char*>;
+    const Case cases[] = {
         {0, "0\"", "0\"", "0 Inch", "0 Inch"},
         {.375, "3/8\"", "3/8\"", "Three-Eights Inch", "Three-Eights Inch"},
         {1, "1\"", "1\"", "One Inch", "One Inch"},
@@ -59,11 +57,11 @@ TEST(FeetInchFormatting, BothFormsOfALength) {
         {-.0012, "-0\"", "-0\"", "(0 Inch)", "(0 Inch)"},
         {-0.0, "0\"", "0\"", "0 Inch", "0 Inch"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Digits(c.Inches / 12), c.Text) << c.Inches;
-        EXPECT_EQ(Digits(c.Inches / 12, 1), c.Folded) << c.Inches;
-        EXPECT_EQ(Words(c.Inches / 12), c.Spoken) << c.Inches;
-        EXPECT_EQ(Words(c.Inches / 12, 1), c.SpokenFolded) << c.Inches;
+    for (const auto& [inches, text, folded, spoken, spokenFolded] : cases) {
+        EXPECT_EQ(Digits(inches / 12), text) << inches;
+        EXPECT_EQ(Digits(inches / 12, 1), folded) << inches;
+        EXPECT_EQ(Words(inches / 12), spoken) << inches;
+        EXPECT_EQ(Words(inches / 12, 1), spokenFolded) << inches;
     }
 }
 

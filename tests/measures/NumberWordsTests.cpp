@@ -32,10 +32,7 @@ TEST(NumberWords, NumbersWithTheirBlanks) {
 }
 
 TEST(NumberWords, UnitNames) {
-    const struct {
-        double Value;
-        const char *Unit1, *Unit2, *Words;
-    } cases[] = {
+    const std::tuple<double, const char*, const char*, const char*> cases[] = {
         // clang-format off
         {1.25, "Dollar", "Cent", "One Dollar And Twenty Five Cents"},
         {2, " Dollar ", "Cent", "Two Dollars "},
@@ -46,8 +43,8 @@ TEST(NumberWords, UnitNames) {
         {0.01, "", "Cent", "One Cent "},
         // clang-format on
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Number_To_Words(c.Value, c.Unit1, c.Unit2), c.Words) << c.Value << c.Unit1;
+    for (const auto& [value, unit1, unit2, words] : cases)
+        EXPECT_EQ(Number_To_Words(value, unit1, unit2), words) << value << unit1;
 }
 
 TEST(NumberWords, Ordinals) {

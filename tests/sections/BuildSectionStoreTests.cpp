@@ -54,9 +54,7 @@ TEST_F(BuildSectionStoreTest, TheSameTablesGiveTheSameBytes) {
 }
 
 TEST_F(BuildSectionStoreTest, AFaultInATableIsTold) {
-    const struct {
-        const char *File, *Piece, *By, *Said;
-    } faults[] = {
+    const std::array<std::string, 4> faults[] = {
         {"W.csv", "W,A,D", "W,A,DEPTH", "W.csv:1: unknown column DEPTH"},
         {"W.csv", "W,A,D", "W,A,A", "W.csv:1: column A stands twice"},
         {"W.csv", "US_DESIGNATION", "NAME", "W.csv:1: the head"},
@@ -82,17 +80,15 @@ TEST_F(BuildSectionStoreTest, AFaultInATableIsTold) {
         {"si-exceptions.csv", "xD,951", "xD,?", "si-exceptions.csv:2: VALUE is no figure"},
         {"si-exceptions.csv", "W36x232", "W36x256", "si-exceptions.csv:3: xD of W36x256 stands"},
     };
-    for (const auto& fault : faults) {
-        const std::string good = Text_Of(fault.File);
+    for (const auto& [file, piece, by, expected] : faults) {
+        const std::string good = Text_Of(file);
         std::string bad = good;
-        ASSERT_NE(bad.find(fault.Piece), std::string::npos) << fault.Piece;
-        Set_Text(fault.File,
-                 bad.replace(bad.find(fault.Piece), std::string{fault.Piece}.size(), fault.By));
+        ASSERT_NE(bad.find(piece), std::string::npos) << piece;
+        Set_Text(file, bad.replace(bad.find(piece), piece.size(), by));
         const std::string said = Build();
-        EXPECT_NE(said.find(std::string{": "} + fault.Said), std::string::npos)
-            << fault.By << ": " << said;
+        EXPECT_NE(said.find(": " + expected), std::string::npos) << by << ": " << said;
         EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
-        Set_Text(fault.File, good);
+        Set_Text(file, good);
     }
     EXPECT_FALSE(fs::exists(folder / "s"));
 }

@@ -7,7 +7,6 @@
 
 using namespace Tensarix;
 using namespace Tensarix::Tests;
-using Texts = std::vector<std::string>;
 
 namespace {
 

@@ -282,11 +282,9 @@ TEST(FindSearch, NullsAndTextsLeaveTheNumberBefore) {
 }
 
 TEST(FindSearch, NotesTellWhatASearchCanNotSee) {
-    const struct {
-        const char *Type, *Property;
-        Profile Units;
-        const char* Part; // of the note; empty: no note at all
-    } cases[] = {         // clang-format off
+    // The last is a part of the note; empty: no note at all.
+    const std::tuple<const char*, const char*, Profile, std::string> cases[] = {
+        // clang-format off
         {"L-Eq", "Tan Alpha", Profile::US, "no column"}, {"ST", "d / tw", Profile::US, "no column"},
         {"ST", "d / tw", Profile::SI, "no column"},      {"C", "k1", Profile::US, "not tabulated"},
         {"HSS-Rec", "Cw", Profile::SI, "not tabulated"}, {"WT", "k", Profile::US, "another figure"},
@@ -295,14 +293,14 @@ TEST(FindSearch, NotesTellWhatASearchCanNotSee) {
         {"W", "Ix", Profile::SI, "full mm^4"}, {"W", "Ix", Profile::US, ""},
         {"W", "Wno", Profile::SI, ""}, {"W", "Wt", Profile::SI, ""}};
     // clang-format on
-    for (const auto& c : cases) {
-        const Advice advice = Find_Property_Note(c.Type, c.Property, c.Units, program);
-        const std::string &note = advice.Text, part = c.Part;
+    for (const auto& [type, property, units, part] : cases) {
+        const Advice advice = Find_Property_Note(type, property, units, program);
+        const std::string& note = advice.Text;
         const bool harmless = part.empty() || part == "full mm^4";
         EXPECT_EQ(advice.Weight, harmless ? RemarkWeight::Note : RemarkWeight::Caution) << note;
         if (part.empty())
-            EXPECT_EQ(note, "") << c.Type << c.Property;
+            EXPECT_EQ(note, "") << type << property;
         else
-            EXPECT_NE(note.find(part), std::string::npos) << c.Type << c.Property << note;
+            EXPECT_NE(note.find(part), std::string::npos) << type << property << note;
     }
 }

@@ -1,7 +1,6 @@
 // The grids of View All and Find, cell by cell against the store.
 #include "Grids.h"
 #include "PlainStore.h"
-#include "common/NumberText.h"
 #include "sections/FamilyTable.h"
 #include "sections/TableSelection.h"
 
@@ -49,11 +48,8 @@ TEST(TableGrid, WhatACellTellsAndSpeaks) {
     FlexGrid w, angles;
     Family_Of_Type("W").ViewAll(w, "W", {program, Profile::US, DimensionStyle::Imperial});
     Family_Of_Type("L-Eq").ViewAll(angles, "L-Eq", {program, Profile::SI});
-    const struct {
-        const FlexGrid& Grid;
-        const char* Head; // empty: the first column
-        const char *Shown, *Spoken;
-    } cases[] = {
+    // Without a head: the first column.
+    const std::tuple<const FlexGrid&, const char*, const char*, const char*> cases[] = {
         {w, "", "Standard US = W44x335 Profile", "Standard US = W44x335 "},
         {w, "Wt", "Wt = 335.00 lb/ft", "WEIGHT = 335 POUNDS PER FOOT"},
         {w, "d", "d = 3'-8\" in.", "d = Three Feet and Eight Inches "},
@@ -62,10 +58,10 @@ TEST(TableGrid, WhatACellTellsAndSpeaks) {
         {angles, "rz", "rz = 39.60 mm", "rz = 39.6 MM"},
         {angles, "Tan Alpha", "Tan Alpha = 1.00", "TANGENT ALPHA = 1"},
     };
-    for (const auto& c : cases) {
-        const int col = std::max(Col_With(c.Grid, c.Head), 0);
-        const std::string text = Table_Selection_Text(c.Grid, 1, col);
-        EXPECT_EQ(text.substr(text.find("-->") + 6), c.Shown);
-        EXPECT_EQ(Spoken_Table_Selection(c.Grid, 1, col), c.Spoken);
+    for (const auto& [grid, head, shown, spoken] : cases) {
+        const int col = std::max(Col_With(grid, head), 0);
+        const std::string text = Table_Selection_Text(grid, 1, col);
+        EXPECT_EQ(text.substr(text.find("-->") + 6), shown);
+        EXPECT_EQ(Spoken_Table_Selection(grid, 1, col), spoken);
     }
 }

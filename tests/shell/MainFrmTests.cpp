@@ -47,8 +47,8 @@ TEST_F(MainFrmTest, ASecondInstanceRaisesTheFirstAndDoesNothingElse) {
     machine.Guard.Answers = false;
     EXPECT_FALSE(second.Load());
     EXPECT_EQ(machine.Boxes.Shown,
-              (std::vector<std::string>{"Warning|Tensarix is running already but does not answer. "
-                                        "End it, then start it again.|exclamation"}));
+              (Texts{"Warning|Tensarix is running already but does not answer. "
+                     "End it, then start it again.|exclamation"}));
 }
 
 // What the user has to know of the desktop stands beside the selection, once.
@@ -95,8 +95,8 @@ TEST_F(MainFrmTest, ChoicesComeBackAtTheNextStart) {
     first.mnuOnTop.Click();
     for (int i = 0; i < 3; ++i)
         first.mnuReadOut.Click();
-    EXPECT_EQ(machine.Store.Written, (std::vector<std::string>{"AlwaysOnTop=1", "ReadOutLoud=1",
-                                                               "ReadOutLoud=0", "ReadOutLoud=1"}));
+    EXPECT_EQ(machine.Store.Written,
+              (Texts{"AlwaysOnTop=1", "ReadOutLoud=1", "ReadOutLoud=0", "ReadOutLoud=1"}));
     first.Query_Unload();
 
     MainFrm& second = Start();
@@ -137,8 +137,7 @@ TEST_F(MainFrmTest, ADialogStandsAboveATopMostWindow) {
     f.mnuCalc.Click();
     f.mnuWtCalc.Click();
     f.mnuAbout.Click();
-    EXPECT_EQ(dialogs.Shown,
-              (std::vector<std::string>{"WtCalcsFrmA", "CalcMainFrm", "WtCalcsFrm", "AboutFrm"}));
+    EXPECT_EQ(dialogs.Shown, (Texts{"WtCalcsFrmA", "CalcMainFrm", "WtCalcsFrm", "AboutFrm"}));
     f.mnuTerminate.Click();
     EXPECT_EQ(machine.Window.Closes, 1);
 }
@@ -181,8 +180,8 @@ TEST_F(MainFrmTest, ConnectionDesignIsSavedLastAtExit) {
     const std::vector<std::string>& written = machine.Store.Written;
     ASSERT_GE(written.size(), 4u);
     EXPECT_TRUE(written[written.size() - 4].starts_with("BeamSpan="));
-    EXPECT_EQ(std::vector<std::string>(written.end() - 3, written.end()),
-              (std::vector<std::string>{"cFlexRows=17", "WeldStrip=1", "WeldView=9"}));
+    EXPECT_EQ(Texts(written.end() - 3, written.end()),
+              (Texts{"cFlexRows=17", "WeldStrip=1", "WeldView=9"}));
     MainFrm& next = Start();
     EXPECT_EQ(next.Design.Bolts.cFlex.Rows(), 17);
     EXPECT_EQ(next.Design.Welds.WeldView.Selected_Item(), 9);

@@ -16,11 +16,8 @@ std::vector<std::string> Words(std::string_view text) {
 } // namespace
 
 TEST(WordMarks, WordsAndMarkup) {
-    const struct {
-        std::string Text;
-        std::vector<std::string> Words;
-        std::string Marked; // between <speak> and </speak>
-    } cases[] = {
+    // The text, its words, and what is marked between <speak> and </speak>.
+    const std::tuple<std::string, std::vector<std::string>, std::string> cases[] = {
         {"", {}, ""},
         {" :: ", {}, " :: "},
         {"AREA = 98.50 SQUARE INCHES :: area",
@@ -37,8 +34,8 @@ TEST(WordMarks, WordsAndMarkup) {
          {"caf\xC3\xA9", "\xC2\xA9"},
          "<mark name=\"0\"/>caf\xC3\xA9 <mark name=\"1\"/>\xC2\xA9"},
     };
-    for (const auto& one : cases) {
-        EXPECT_EQ(Words(one.Text), one.Words);
-        EXPECT_EQ(Marked_Text(one.Text, Words_Of(one.Text)), "<speak>" + one.Marked + "</speak>");
+    for (const auto& [text, words, marked] : cases) {
+        EXPECT_EQ(Words(text), words);
+        EXPECT_EQ(Marked_Text(text, Words_Of(text)), "<speak>" + marked + "</speak>");
     }
 }

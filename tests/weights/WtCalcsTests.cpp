@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 
 using namespace Tensarix;
@@ -101,23 +102,20 @@ TEST_F(WtCalcs, TheSheetsAsTheyAreLaidOut) {
     WtCalcsFrmA two(desk, rows);
     one.Load();
     two.Load();
-    const struct {
-        const FlexGrid& Grid;
-        std::vector<std::pair<const char*, double>> Columns; // head and width
-    } sheets[] = {
+    using Columns = std::vector<std::pair<const char*, double>>; // head and width
+    const std::pair<const FlexGrid&, Columns> sheets[] = {
         {one.ImperialFlex, {{"No.", 700}, {feet, 2100}, {pounds, 2500}}},
         {one.MetricFlex, {{"No.", 700}, {metres, 2100}, {kilograms, 2500}}},
         {two.ImperialFlex, {{"No.", 700}, {size, 2350}, {feet, 1700}, {pounds, 2000}}},
         {two.MetricFlex, {{"No.", 700}, {size, 2350}, {metres, 1700}, {kilograms, 2000}}}};
     const CellStyle head{Alignment::Centre, true, true, 0x0000FF, 0xFFFFC0};
-    for (const auto& sheet : sheets) {
-        const FlexGrid& grid = sheet.Grid;
+    for (const auto& [grid, columns] : sheets) {
         EXPECT_EQ(grid.Rows(), 51);
         EXPECT_EQ(grid.FixedRows() + grid.FixedCols(), 2);
-        ASSERT_EQ(grid.Cols(), static_cast<int>(sheet.Columns.size()));
+        ASSERT_EQ(grid.Cols(), static_cast<int>(columns.size()));
         for (int col = 0; col < grid.Cols(); ++col) {
-            EXPECT_EQ(grid.Text(0, col), sheet.Columns[static_cast<std::size_t>(col)].first);
-            EXPECT_EQ(grid.Col_Width(col), sheet.Columns[static_cast<std::size_t>(col)].second);
+            EXPECT_EQ(grid.Text(0, col), columns[static_cast<std::size_t>(col)].first);
+            EXPECT_EQ(grid.Col_Width(col), columns[static_cast<std::size_t>(col)].second);
             EXPECT_EQ(grid.Style(0, col), head);
         }
         EXPECT_EQ(grid.Row_Height(50), 350);
@@ -129,9 +127,7 @@ TEST_F(WtCalcs, TheSheetsAsTheyAreLaidOut) {
 }
 
 TEST_F(Type1, LengthsComeBackInNormalFormWithTheirWeight) {
-    const struct {
-        const char *Size, *Typed, *Shown, *Weight;
-    } cases[] = {
+    const std::array<const char*, 4> cases[] = {
         {"W18x50", "10'-6\"", "10'-6\"     ", "525.00     "},
         {"W18x50", "20000'", "20000'-0\"     ", "1,000,000.00     "},
         {"W8x10", "12'-6\"", "12'-6\"     ", "125.00     "},
@@ -141,12 +137,12 @@ TEST_F(Type1, LengthsComeBackInNormalFormWithTheirWeight) {
         {"W8x10", "  12'-6 3/8\" ", "12'-6 3/8\"     ", "125.31     "},
     };
     int row = 1;
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Typed);
-        Choose(c.Size);
-        Length(row, c.Typed);
-        EXPECT_EQ(Feet(row, 1), c.Shown);
-        EXPECT_EQ(Feet(row, 2), c.Weight);
+    for (const auto& [size, typed, shown, weight] : cases) {
+        SCOPED_TRACE(typed);
+        Choose(size);
+        Length(row, typed);
+        EXPECT_EQ(Feet(row, 1), shown);
+        EXPECT_EQ(Feet(row, 2), weight);
         EXPECT_EQ(form.ImperialFlex.Row(), ++row);
     }
     EXPECT_EQ(machine.Boxes.Shown.size(), 0u);
@@ -160,7 +156,7 @@ TEST_F(Type1, AnInvalidLengthIsReportedOnceAndTheLastValidOneReturns) {
     EXPECT_EQ(Feet(5, 1), "0\"     ");
     EXPECT_EQ(std::exchange(machine.Boxes.Shown, {}).size(), 1u);
     Length(1, "5'6\""); // valid up to 5'6
-    EXPECT_EQ(machine.Boxes.Shown, std::vector<std::string>{warning});
+    EXPECT_EQ(machine.Boxes.Shown, Texts{warning});
     EXPECT_EQ(Feet(1), "5'-0\"|50.00");
     EXPECT_EQ(form.LastLength, 5);
 
@@ -263,9 +259,8 @@ TEST_F(Type1, APasteThatIsRefusedWritesNothing) {
     machine.Clip.Held = "1'\n2'\n5'6\"\nLength\n3'";
     form.ImperialFlex.Move_To(2, 1);
     form.ImperialFlex.OnPaste();
-    EXPECT_EQ(
-        machine.Boxes.Shown,
-        std::vector<std::string>{"Warning|Invalid input for row 4, 5. Nothing was pasted.|stop"});
+    EXPECT_EQ(machine.Boxes.Shown,
+              Texts{"Warning|Invalid input for row 4, 5. Nothing was pasted.|stop"});
     EXPECT_EQ(Feet(2) + Feet(3), "|9'-0\"|90.00");
     machine.Clip.Held = "1,5\n2";
     form.MetricFlex.Move_To(1, 1);
@@ -274,9 +269,8 @@ TEST_F(Type1, APasteThatIsRefusedWritesNothing) {
 }
 
 TEST_F(Type2, TheLeadingNumberIsChargedAndARemarkTellsSo) {
-    const struct {
-        const char *Typed, *Shown, *Weight, *Charged; // empty: no remark
-    } cases[] = {
+    const std::array<const char*, 4> cases[] = {
+        // the last one empty: no remark
         {"12'-6\"", "12'-6\"     ", "120.00     ", "12"},
         {"6\"", "6\"     ", "60.00     ", "6"},
         {"12'", "12'-0\"     ", "120.00     ", ""},
@@ -284,14 +278,14 @@ TEST_F(Type2, TheLeadingNumberIsChargedAndARemarkTellsSo) {
         {"1/2\"", "1/2\"     ", "10.00     ", "1"},
     };
     int row = 1;
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Typed);
+    for (const auto& [typed, shown, weight, charged] : cases) {
+        SCOPED_TRACE(typed);
         Pick(row, "W8x10");
-        Length(row, c.Typed);
-        EXPECT_EQ(Feet(row, 2), c.Shown);
-        EXPECT_EQ(Feet(row, 3), c.Weight);
-        EXPECT_EQ(Remark(row), *c.Charged ? std::string{"Charged for "} + c.Charged + chargedTail
-                                          : std::string{});
+        Length(row, typed);
+        EXPECT_EQ(Feet(row, 2), shown);
+        EXPECT_EQ(Feet(row, 3), weight);
+        EXPECT_EQ(Remark(row),
+                  *charged ? std::string{"Charged for "} + charged + chargedTail : std::string{});
         ++row;
     }
     form.ImperialFlex.Move_To(1, 2);
@@ -390,9 +384,8 @@ TEST_F(Type2, RowsArePastedWithTheirSizes) {
     EXPECT_NE(Remark(4), "");
     machine.Clip.Held = "W8x10a\t10'";
     form.ImperialFlex.OnPaste();
-    EXPECT_EQ(
-        machine.Boxes.Shown,
-        (std::vector<std::string>{"Warning|Invalid input for row 3. Nothing was pasted.|stop"}));
+    EXPECT_EQ(machine.Boxes.Shown,
+              (Texts{"Warning|Invalid input for row 3. Nothing was pasted.|stop"}));
 }
 
 TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {

@@ -101,12 +101,8 @@ TEST_F(EditedGrid, TypingReplacesEnterGoesDownTabGoesOn) {
 }
 
 TEST_F(EditedGrid, TheEditorLiesOverItsCellAtAnyFontAndAlignsAsItDoes) {
-    struct {
-        int Points;
-        Alignment Align;
-        Qt::AlignmentFlag Shown;
-    } const cases[] = {{9, Alignment::Centre, Qt::AlignHCenter},
-                       {18, Alignment::Right, Qt::AlignRight}};
+    const std::tuple<int, Alignment, Qt::AlignmentFlag> cases[] = {
+        {9, Alignment::Centre, Qt::AlignHCenter}, {18, Alignment::Right, Qt::AlignRight}};
     for (const auto& [points, align, flag] : cases) {
         grid.Set_Style(1, 2, {.Align = align});
         QFont font = window.font();

@@ -13,11 +13,6 @@ namespace {
 class FindWindowTest : public WindowTest {
   protected:
     FindPage& Page() { return program->Form().Find; }
-    void Open(const char* mode) {
-        QTest::mouseClick(&Find<QPushButton>(mode), Qt::LeftButton);
-        Settle();
-        Settle();
-    }
     QString Text(const char* name) {
         Settle();
         return Find<QLabel>(name).text();
@@ -27,7 +22,7 @@ class FindWindowTest : public WindowTest {
 } // namespace
 
 TEST_F(FindWindowTest, ASearchByKeysAlone) {
-    Open("OptButton1");
+    To(Mode::Find);
     auto& property = Find<QComboBox>("fPoperty");
     property.setFocus();
     QTest::keyClicks(&property, "zx");
@@ -55,7 +50,7 @@ TEST_F(FindWindowTest, ASearchByKeysAlone) {
 }
 
 TEST_F(FindWindowTest, AValueIsChosenFromTheListAndSearchedByTheButton) {
-    Open("OptButton1");
+    To(Mode::Find);
     auto& value = Find<QComboBox>("fValue");
     value.setFocus();
     QTest::keyClick(&value, Qt::Key_Down);
@@ -75,7 +70,7 @@ TEST_F(FindWindowTest, AValueIsChosenFromTheListAndSearchedByTheButton) {
 
 // The longest family to the painted grid; the designations stay while the rest scrolls.
 TEST_F(FindWindowTest, ViewAllOfTheLongestFamily) {
-    Open("OptButton2");
+    To(Mode::ViewAll);
     auto& type = Find<QComboBox>("xShapeType");
     type.setFocus();
     QTest::keyClick(&type, Qt::Key_End);

@@ -16,10 +16,6 @@ namespace {
 class TravelWindowTest : public WindowTest {
   protected:
     MainFrm& Form() { return program->Form(); }
-    static void Key(Qt::Key key, Qt::KeyboardModifiers with = {}) {
-        Tests::Key(key, with);
-        Settle();
-    }
     void Open(Mode mode) {
         Key(static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(mode)), Qt::ControlModifier);
         // A button's key presses it, and lets it go a little later.
