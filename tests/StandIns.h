@@ -16,7 +16,7 @@
 
 namespace Tensarix::Tests {
 
-using Texts = std::vector<std::string>;
+using Strings = std::vector<std::string>;
 
 class MapSettings final : public SettingsStore {
   public:

@@ -66,7 +66,7 @@ TEST_F(BeamPageTest, AFirstStart) {
               "Span below the boundary: results are those at 17'-1 5/16\"");
     EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   W44x335");
     // What the program itself sets is not saved, but for what a click saves.
-    EXPECT_EQ(machine.Store.Written, (Texts{"zShapeSize0=0", "AppliedCode=1", "YieldIndex1=0"}));
+    EXPECT_EQ(machine.Store.Written, (Strings{"zShapeSize0=0", "AppliedCode=1", "YieldIndex1=0"}));
 }
 
 TEST_F(BeamPageTest, ResultsFallOnTies) {
@@ -86,11 +86,11 @@ TEST_F(BeamPageTest, EachPairOfCodeAndMethodKeepsItsOwnSpanAndFactor) {
     BeamPage& p = Start();
     p.BeamSpanBox.Set_Text("30'");
     p.CFactor.Set_Text("10");
-    EXPECT_EQ(machine.Store.Written, (Texts{"BeamSpan10=30", "CFactor10=10"}));
+    EXPECT_EQ(machine.Store.Written, (Strings{"BeamSpan10=30", "CFactor10=10"}));
     machine.Store.Written.clear();
 
     p.AppliedCode.Select(code13thEdition);
-    EXPECT_EQ(machine.Store.Written, (Texts{"AppliedCode=2"})); // the yield strength stays
+    EXPECT_EQ(machine.Store.Written, (Strings{"AppliedCode=2"})); // the yield strength stays
     EXPECT_TRUE(p.CodeFrame.Enabled() && p.CodeOpt[1].Enabled());
     EXPECT_EQ(p.BeamSpanBox.Text(), "0\"");
     p.BeamSpanBox.Set_Text("20'-6\"");
@@ -100,8 +100,8 @@ TEST_F(BeamPageTest, EachPairOfCodeAndMethodKeepsItsOwnSpanAndFactor) {
     p.CFactor.Set_Text("2.5");
     p.AppliedCode.Select(code9thEdition);
     EXPECT_EQ(machine.Store.Written,
-              (Texts{"AppliedCode=2", "BeamSpan20=20.5", "YieldIndex2=1", "CodeOpt=1",
-                     "CFactor21=2.5", "AppliedCode=1", "YieldIndex1=0"}));
+              (Strings{"AppliedCode=2", "BeamSpan20=20.5", "YieldIndex2=1", "CodeOpt=1",
+                       "CFactor21=2.5", "AppliedCode=1", "YieldIndex1=0"}));
     EXPECT_TRUE(p.CodeOpt[0].Value());
     EXPECT_EQ(p.BeamSpanBox.Text() + ", " + p.CFactor.Text() + ", " + p.FyBox.Text(),
               "30'-0\", 10.00,   50 Ksi");
@@ -127,9 +127,9 @@ TEST_F(BeamPageTest, TypingASpan) {
         EXPECT_EQ(p.BeamSpanBox.Text(), text);
     }
     EXPECT_EQ(machine.Store.Written,
-              (Texts{"BeamSpan10=0.166666666666667", "BeamSpan10=2.08333333333333", "BeamSpan10=25",
-                     "BeamSpan10=25.5", "BeamSpan10=25.5", "BeamSpan10=25.5",
-                     "BeamSpan10=25.5208333333333"}));
+              (Strings{"BeamSpan10=0.166666666666667", "BeamSpan10=2.08333333333333",
+                       "BeamSpan10=25", "BeamSpan10=25.5", "BeamSpan10=25.5", "BeamSpan10=25.5",
+                       "BeamSpan10=25.5208333333333"}));
     EXPECT_TRUE(machine.Boxes.Shown.empty());
     p.BeamSpanBox.Focus.Release();
     EXPECT_EQ(p.BeamSpanBox.Text(), "25'-6 1/4\"");
@@ -142,7 +142,7 @@ TEST_F(BeamPageTest, NormalisingTheSameTextDoesNotSwallowTheNextChange) {
     BeamPage& p = Start();
     p.BeamSpanBox.Focus.Set();
     p.BeamSpanBox.Set_Text("30'-0\"");
-    EXPECT_EQ(machine.Store.Written, (Texts{"BeamSpan10=30"}));
+    EXPECT_EQ(machine.Store.Written, (Strings{"BeamSpan10=30"}));
     p.AppliedCode_Click();
     p.CFactor.Set_Text("7");
     EXPECT_EQ(machine.Store.Get("CFactor10"), "7");
@@ -162,7 +162,7 @@ TEST_F(BeamPageTest, AnInvalidSpan) {
     // The earlier span holds for the new yield strength as well: 30 ft at 36 ksi.
     p.FyBox.Select(1);
     EXPECT_EQ(p.BeamReactionLab.Caption(), "372.24 Kips"); // 23.76 x 1410 / 90
-    EXPECT_EQ(machine.Store.Written, (Texts{"YieldIndex1=1"}));
+    EXPECT_EQ(machine.Store.Written, (Strings{"YieldIndex1=1"}));
 
     // While the message is open the focus wanders; the message comes once.
     machine.Boxes.Meanwhile = [&] {
@@ -170,7 +170,7 @@ TEST_F(BeamPageTest, AnInvalidSpan) {
         p.CFactor.Focus.Release();
     };
     p.CFactor.Focus.Set();
-    EXPECT_EQ(machine.Boxes.Shown, (Texts{"Warning|Invalid Distance Input! |stop"}));
+    EXPECT_EQ(machine.Boxes.Shown, (Strings{"Warning|Invalid Distance Input! |stop"}));
     EXPECT_EQ(p.BeamSpanBox.Text() + p.SpanRemark.Caption(), "30'-0\"");
 
     // By Tab: the key is as leaving, and the leaving that follows has nothing to say.
@@ -216,7 +216,7 @@ TEST_F(BeamPageTest, SizesAndFamilies) {
     BeamPage& p = Start();
     p.zShapeSizeSI.Select(3);
     EXPECT_EQ(p.zShapeSizeUS.ListIndex(), 3);
-    EXPECT_EQ(machine.Store.Written, (Texts{"zShapeSize0=3"}));
+    EXPECT_EQ(machine.Store.Written, (Strings{"zShapeSize0=3"}));
     p.zShapeType.Select(3);
     EXPECT_EQ(p.zShapeLab.Caption(), "S-Shape Profile");
     p.zShapeSizeUS.Select(2);

@@ -128,7 +128,7 @@ TEST_F(BoltFileTest, WhatIsNoFileIsToldAndLeftAlone) {
     EXPECT_FALSE(Failed());
     WriteBoltFile(Two_Rows(), path, boxes);
     EXPECT_EQ(boxes.Shown,
-              (Texts(2, "Warning:|Error No. 75:  Path/File access error|exclamation")));
+              (Strings(2, "Warning:|Error No. 75:  Path/File access error|exclamation")));
     EXPECT_TRUE(std::filesystem::is_directory(path));
 }
 
@@ -143,7 +143,7 @@ TEST_F(BoltFileTest, AFileThatCannotBeReadIsLeftWhereItIs) {
     ASSERT_TRUE(!super || seteuid(65534) == 0);
     EXPECT_FALSE(Failed());
     ASSERT_TRUE(!super || seteuid(0) == 0);
-    EXPECT_EQ(boxes.Shown, (Texts{"Warning:|Error No. 75:  Path/File access error|exclamation"}));
+    EXPECT_EQ(boxes.Shown, (Strings{"Warning:|Error No. 75:  Path/File access error|exclamation"}));
     EXPECT_TRUE(std::filesystem::exists(path));
     EXPECT_FALSE(std::filesystem::exists(aside));
 }
@@ -154,6 +154,6 @@ TEST_F(BoltFileTest, AFailedWriteLeavesTheOldFile) {
     WriteBoltFile(Two_Rows(), path, boxes);
     const auto before = Read_Whole_File(path);
     WriteBoltFile({{1, {std::string(70'000, '1')}}}, path, boxes);
-    EXPECT_EQ(boxes.Shown, (Texts{"Warning:|Error No. 6:  Overflow|exclamation"}));
+    EXPECT_EQ(boxes.Shown, (Strings{"Warning:|Error No. 6:  Overflow|exclamation"}));
     EXPECT_EQ(Read_Whole_File(path), before);
 }

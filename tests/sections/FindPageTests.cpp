@@ -35,7 +35,7 @@ class FindTest : public testing::Test {
         return page.fPoperty.Text() + "|" + page.fCriterion.Text() + "|" + page.fValue.Text();
     }
     std::string First() { return page.fShapeFlex.Text(1, 0); }
-    Texts Written() { return std::exchange(machine.Store.Written, {}); }
+    Strings Written() { return std::exchange(machine.Store.Written, {}); }
 };
 
 class ViewTest : public testing::Test {
@@ -68,16 +68,16 @@ TEST_F(FindTest, EachChangeIsSavedUnderItsFamily) {
     page.fPoperty.Select(13);
     page.fCriterion.Select(4);
     page.fValue.Set_Text("12.50 in");
-    EXPECT_EQ(Written(), (Texts{"fPoperty0=13", "fCriterion0=4", "fValue0=12.5"}));
+    EXPECT_EQ(Written(), (Strings{"fPoperty0=13", "fCriterion0=4", "fValue0=12.5"}));
     page.fShapeType.Select(9);
     EXPECT_EQ(Asked(), "Wt|At least|");
     Written();
     page.fShapeType.Select(0);
     EXPECT_EQ(Asked(), "Zx|>=|12.5");
     // Criterion first, then the property, whose own change brings the value; then the value.
-    EXPECT_EQ(Written(), (Texts{"fCriterion0=4", "fPoperty0=13", "fValue0=12.5"}));
+    EXPECT_EQ(Written(), (Strings{"fCriterion0=4", "fPoperty0=13", "fValue0=12.5"}));
     page.Save_Search();
-    EXPECT_EQ(Written(), (Texts{"fCriterion0=4", "fPoperty0=13", "fValue0=12.5"}));
+    EXPECT_EQ(Written(), (Strings{"fCriterion0=4", "fPoperty0=13", "fValue0=12.5"}));
 }
 
 TEST_F(FindTest, SavedSearchesThatCanNotBeReadLeaveTheControls) {
@@ -99,7 +99,7 @@ TEST_F(FindTest, GoSearchesAndEmptyBoxesAreRefused) {
     Start();
     Ask("Zx", ">=", " ");
     page.FindButton.Click();
-    EXPECT_EQ(machine.Boxes.Shown, Texts{"Warning:|Incomplete search parameter!  \n\n|stop"});
+    EXPECT_EQ(machine.Boxes.Shown, Strings{"Warning:|Incomplete search parameter!  \n\n|stop"});
     EXPECT_EQ(First(), "");
     page.fValue.Set_Text("500abc");
     page.FindButton.Click();

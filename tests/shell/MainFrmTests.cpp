@@ -47,8 +47,8 @@ TEST_F(MainFrmTest, ASecondInstanceRaisesTheFirstAndDoesNothingElse) {
     machine.Guard.Answers = false;
     EXPECT_FALSE(second.Load());
     EXPECT_EQ(machine.Boxes.Shown,
-              (Texts{"Warning|Tensarix is running already but does not answer. "
-                     "End it, then start it again.|exclamation"}));
+              (Strings{"Warning|Tensarix is running already but does not answer. "
+                       "End it, then start it again.|exclamation"}));
 }
 
 // What the user has to know of the desktop stands beside the selection, once.
@@ -96,7 +96,7 @@ TEST_F(MainFrmTest, ChoicesComeBackAtTheNextStart) {
     for (int i = 0; i < 3; ++i)
         first.mnuReadOut.Click();
     EXPECT_EQ(machine.Store.Written,
-              (Texts{"AlwaysOnTop=1", "ReadOutLoud=1", "ReadOutLoud=0", "ReadOutLoud=1"}));
+              (Strings{"AlwaysOnTop=1", "ReadOutLoud=1", "ReadOutLoud=0", "ReadOutLoud=1"}));
     first.Query_Unload();
 
     MainFrm& second = Start();
@@ -137,7 +137,7 @@ TEST_F(MainFrmTest, ADialogStandsAboveATopMostWindow) {
     f.mnuCalc.Click();
     f.mnuWtCalc.Click();
     f.mnuAbout.Click();
-    EXPECT_EQ(dialogs.Shown, (Texts{"WtCalcsFrmA", "CalcMainFrm", "WtCalcsFrm", "AboutFrm"}));
+    EXPECT_EQ(dialogs.Shown, (Strings{"WtCalcsFrmA", "CalcMainFrm", "WtCalcsFrm", "AboutFrm"}));
     f.mnuTerminate.Click();
     EXPECT_EQ(machine.Window.Closes, 1);
 }
@@ -180,8 +180,8 @@ TEST_F(MainFrmTest, ConnectionDesignIsSavedLastAtExit) {
     const std::vector<std::string>& written = machine.Store.Written;
     ASSERT_GE(written.size(), 4u);
     EXPECT_TRUE(written[written.size() - 4].starts_with("BeamSpan="));
-    EXPECT_EQ(Texts(written.end() - 3, written.end()),
-              (Texts{"cFlexRows=17", "WeldStrip=1", "WeldView=9"}));
+    EXPECT_EQ(Strings(written.end() - 3, written.end()),
+              (Strings{"cFlexRows=17", "WeldStrip=1", "WeldView=9"}));
     MainFrm& next = Start();
     EXPECT_EQ(next.Design.Bolts.cFlex.Rows(), 17);
     EXPECT_EQ(next.Design.Welds.WeldView.Selected_Item(), 9);

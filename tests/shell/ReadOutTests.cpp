@@ -108,7 +108,7 @@ class ReadOutTest : public testing::Test {
 TEST_F(ReadOutTest, EveryEventSaysItsTextAndNothingWhenOff) {
     for (const SpokenEvent& event : spokenEvents) {
         EXPECT_EQ(Said_At(event, true), event.Said) << event.Name;
-        EXPECT_EQ(Said_At(event, false), Texts{}) << event.Name;
+        EXPECT_EQ(Said_At(event, false), Strings{}) << event.Name;
     }
 }
 
@@ -118,9 +118,9 @@ TEST_F(ReadOutTest, TheSwitchItselfSilences) {
     form.Load();
     machine.Speech.Spoken.clear();
     form.mnuReadOut.Click();
-    EXPECT_EQ(machine.Speech.Spoken, (Texts{""}));
+    EXPECT_EQ(machine.Speech.Spoken, (Strings{""}));
     form.mnuReadOut.Click();
-    EXPECT_EQ(machine.Speech.Spoken, (Texts{"", ""}));
+    EXPECT_EQ(machine.Speech.Spoken, (Strings{"", ""}));
 }
 
 // With the read-out on, the mode comes first, before the families of the pages.
@@ -147,8 +147,8 @@ TEST_F(ReadOutTest, TheAboutBoxReadsItsLabels) {
     desk.ReadOut = true;
     about.Load();
     EXPECT_EQ(machine.Speech.Spoken,
-              (Texts{"Tensarix", "Version 1.0", about.lblDescription.Caption(),
-                     about.lblDisclaimer.Caption()}));
+              (Strings{"Tensarix", "Version 1.0", about.lblDescription.Caption(),
+                       about.lblDisclaimer.Caption()}));
     about.Unload();
     EXPECT_EQ(machine.Speech.Spoken.back(), "");
 }

@@ -156,7 +156,7 @@ TEST_F(Type1, AnInvalidLengthIsReportedOnceAndTheLastValidOneReturns) {
     EXPECT_EQ(Feet(5, 1), "0\"     ");
     EXPECT_EQ(std::exchange(machine.Boxes.Shown, {}).size(), 1u);
     Length(1, "5'6\""); // valid up to 5'6
-    EXPECT_EQ(machine.Boxes.Shown, Texts{warning});
+    EXPECT_EQ(machine.Boxes.Shown, Strings{warning});
     EXPECT_EQ(Feet(1), "5'-0\"|50.00");
     EXPECT_EQ(form.LastLength, 5);
 
@@ -260,7 +260,7 @@ TEST_F(Type1, APasteThatIsRefusedWritesNothing) {
     form.ImperialFlex.Move_To(2, 1);
     form.ImperialFlex.OnPaste();
     EXPECT_EQ(machine.Boxes.Shown,
-              Texts{"Warning|Invalid input for row 4, 5. Nothing was pasted.|stop"});
+              Strings{"Warning|Invalid input for row 4, 5. Nothing was pasted.|stop"});
     EXPECT_EQ(Feet(2) + Feet(3), "|9'-0\"|90.00");
     machine.Clip.Held = "1,5\n2";
     form.MetricFlex.Move_To(1, 1);
@@ -385,7 +385,7 @@ TEST_F(Type2, RowsArePastedWithTheirSizes) {
     machine.Clip.Held = "W8x10a\t10'";
     form.ImperialFlex.OnPaste();
     EXPECT_EQ(machine.Boxes.Shown,
-              (Texts{"Warning|Invalid input for row 3. Nothing was pasted.|stop"}));
+              (Strings{"Warning|Invalid input for row 3. Nothing was pasted.|stop"}));
 }
 
 TEST_F(Type2, TheFormComesBackAsItWasWithoutComputing) {
