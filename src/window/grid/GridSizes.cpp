@@ -20,7 +20,7 @@ namespace {
 // Heights and widths are measured for a font of this height at 96 dots per inch.
 constexpr double designFontHeight = 13;
 constexpr double twipsToPixel = 1.0 / 15;
-constexpr int cellMargin = 12;
+constexpr int cellMargin = 12, wordMargin = 10; // the latter of a word of a head that wraps
 constexpr int leastRows = 3;
 constexpr int leastRowMargin = 2; // above and below the text
 
@@ -177,11 +177,12 @@ int GridView::Fitting_Width(int col) const {
             !measured.emplace(Pattern(text), style.Bold).second)
             continue;
         const QFontMetrics metrics(Cell_Font(font(), style));
-        for (const QString& line :
-             To_Qt(Pattern(text)).split(head && grid_->Word_Wrap() ? words : lines))
-            width = std::max(width, metrics.horizontalAdvance(line));
+        const bool wraps = head && grid_->Word_Wrap();
+        const int margin = wraps ? wordMargin : cellMargin;
+        for (const QString& line : To_Qt(Pattern(text)).split(wraps ? words : lines))
+            width = std::max(width, metrics.horizontalAdvance(line) + margin);
     }
-    return width == 0 ? 0 : width + cellMargin;
+    return width;
 }
 
 // The part of its height that a row keeps so that all show, if they can still be read then.

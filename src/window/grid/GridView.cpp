@@ -155,7 +155,20 @@ void GridView::Pull_Scroll() {
     };
     scroll(verticalScrollBar(), grid_->Top_Row() - grid_->FixedRows());
     scroll(horizontalScrollBar(), grid_->Left_Col() - grid_->FixedCols());
+    Align_Left_Column();
     frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value());
+}
+
+// A column on the left that has become wider has moved the first one that shows.
+void GridView::Align_Left_Column() {
+    QHeaderView* head = horizontalHeader();
+    const int offset = head->offset();
+    if (const QScrollBar* bar = horizontalScrollBar(); bar->value() < bar->maximum())
+        head->setOffsetToSectionPosition(bar->value());
+    else
+        head->setOffsetToLastSection();
+    if (head->offset() != offset)
+        viewport()->update();
 }
 
 void GridView::Pull_Selection() {

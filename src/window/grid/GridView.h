@@ -81,6 +81,7 @@ class GridView : public QTableView {
     void Widen_Columns();
     void Place_Frozen();
     void Pull_Scroll();
+    void Align_Left_Column();
     void Pull_Selection();
     void Scrolled();
     void Reveal_Current();

@@ -19,7 +19,7 @@ constexpr double resultSize = 1.25; // of the font of its label
 constexpr int remarkLines = 4;
 const QString widestResult = QStringLiteral("** 000.00000   ");
 constexpr int remarkWidth = 30; // average characters
-constexpr int drawingWidth = 34, drawingLines = 14, weldLines = 12, plotLines = 10;
+constexpr int drawingWidth = 34, drawingLines = 14, weldLines = 10, plotLines = 10;
 constexpr int tableLines = 17; // seven rows
 constexpr int reportWidth = 40, reportLines = 8;
 
