@@ -12,6 +12,7 @@ constexpr double headLength = 0.55;
 constexpr double leastBetweenHeads = 2.4; // of a line whose heads stand between its ends
 constexpr double offCentre = 4;           // of a label's width: a line that can have it off centre
 constexpr double firstGap = 0.95, laneStep = 0.3, leastBetweenLines = 0.55;
+constexpr double lineToText = 0.9, lineUnderText = 0.3; // of a label that is not its own
 constexpr double tailLength = 1.1, tailStep = 0.5, longestTail = 7;
 constexpr double extensionGap = 0.15, extensionEnd = 0.25, textGap = 0.3;
 constexpr int lanes = 60;
@@ -179,7 +180,7 @@ Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
 }
 
 bool Sheet::Is_Free(const Proposal& proposal, bool upright, Care care) const {
-    if (!Is_Free(proposal.Label, care))
+    if (!Is_Free(proposal.Label, care) || Touches_Another_Line(proposal))
         return false;
     const Box apart = proposal.Label.Grown(1);
     for (const Segment& line : proposal.Lines) {
@@ -202,6 +203,23 @@ bool Sheet::Is_Free(const Proposal& proposal, bool upright, Care care) const {
                            return care > Care::Everything ||
                                   (Misses_Texts(line) && !apart.Meets(line.From, line.To));
                        });
+}
+
+// Whether a label would stand right before or over the line of another dimension, and be taken for
+// the label of that.
+bool Sheet::Touches_Another_Line(const Proposal& proposal) const {
+    const auto before = [this](const Box& label, const std::vector<Segment>& lines) {
+        const Box near = label.Grown(lineUnderText * em_);
+        const Box room{label.Left - lineToText * em_, near.Top, label.Right + lineToText * em_,
+                       near.Bottom};
+        return std::any_of(lines.begin(), lines.end(), [&](const Segment& line) {
+            return line.From.Y == line.To.Y && room.Meets(line.From, line.To);
+        });
+    };
+    return before(proposal.Label, dimensionLines_) ||
+           std::any_of(layout_.Texts.begin(), layout_.Texts.end(), [&](const Text& text) {
+               return text.In == Ink::Measure && before(text.Place, proposal.Lines);
+           });
 }
 
 void Sheet::Accept(const Run& run, const Proposal& proposal, double across) {

@@ -14,7 +14,8 @@ constexpr double headLength = 0.55, headHalfWidth = 0.17;
 constexpr double markSize = 0.38, dotSize = 0.22;
 constexpr double overhang = 0.7;
 constexpr double labelDistances[] = {0.35, 0.8, 1.4, 2.2, 3.2};
-constexpr double besideMark = 1;                      // a label is taken for that of a mark so near
+constexpr double besideMark = 1;    // a label farther from its own mark has a leader
+constexpr double nearAnother = 1.6; // one so near to another mark is taken for the label of that
 constexpr double textMargin = 0.2, beforeText = 0.35; // the latter side by side
 constexpr double pointerLength = 2, pointerStep = 0.5, farthestPointer = 16, pointerBeside = 1.1;
 constexpr int pointersBeside = 3;
@@ -319,26 +320,32 @@ void Sheet::Draw_Leader(const Part& part, Point mark) {
     const Point end = label.Nearest(mark);
     const Segment line{Along(mark, end, (markSize + textMargin) * em_), end};
     const double length = std::hypot(end.X - mark.X, end.Y - mark.Y);
-    const bool unclear = length > besideMark * em_ || Is_Taken_For_Another(part, label);
+    const bool unclear =
+        length > besideMark * em_ || Is_Taken_For_Another(part, label, Care::LinesToCome);
     if (unclear && Misses_Texts({line.From, Along(end, mark, 1)}))
         Add_Stroke(part, {line.From, line.To}, Weight::Thin, Pattern::Solid);
 }
 
-// Where a label would be taken for that of another one of its kind: too near to that, or behind it.
-bool Sheet::Is_Taken_For_Another(const Part& part, const Box& place) const {
+// Where a label would be taken for that of another one of its kind: too near to that or behind it,
+// or where its leader would run through a text.
+bool Sheet::Is_Taken_For_Another(const Part& part, const Box& place, Care care) const {
     const auto own = std::find_if(named_.begin(), named_.end(),
                                   [&part](const auto& named) { return named.first == &part; });
-    if (own == named_.end())
+    if (own == named_.end() || care == Care::DimensionLines)
         return false;
     const Point from = own->second, to = place.Nearest(from);
-    const double near = std::min(std::hypot(to.X - from.X, to.Y - from.Y), besideMark * em_);
+    const double away = std::hypot(to.X - from.X, to.Y - from.Y);
+    const bool mark = std::holds_alternative<Mark>(part.What);
+    if (mark && away > besideMark * em_ && !Misses_Texts({from, to}))
+        return true;
+    const double near = care == Care::AllLines && mark ? 0 : std::min(away, nearAnother * em_);
     return std::any_of(named_.begin(), named_.end(), [&](const auto& named) {
         const Point at = named.second, end = place.Nearest(at);
         if (named.first->What.index() != part.What.index() || at == from)
             return false;
-        const Box mark = Box{at.X, at.Y, at.X, at.Y}.Grown(markSize * em_);
+        const Box other = Box{at.X, at.Y, at.X, at.Y}.Grown(markSize * em_);
         return std::hypot(end.X - at.X, end.Y - at.Y) < near ||
-               (mark.Meets(from, to) && !mark.Contains({from.X, from.Y, from.X, from.Y}));
+               (other.Meets(from, to) && !other.Contains({from.X, from.Y, from.X, from.Y}));
     });
 }
 
@@ -354,7 +361,7 @@ bool Sheet::Place_Near(const Part& part, const std::vector<Point>& anchors,
                                        anchor.Y + towards.Y * (size.Height / 2 + distance * em_)};
                     const Box place = Text_Box(centre, words);
                     if ((layout_.Plot && !layout_.Plot->Contains(place)) || !Is_Free(place, care) ||
-                        (care < Care::AllLines && Is_Taken_For_Another(part, place)))
+                        Is_Taken_For_Another(part, place, care))
                         continue;
                     Add_Text(part, place, words);
                     return true;

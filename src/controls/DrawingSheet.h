@@ -79,7 +79,7 @@ class Sheet {
     void Place_Label(const Part& part);
     bool Place_Near(const Part& part, const std::vector<Point>& anchors, const std::string& words,
                     bool above = false);
-    bool Is_Taken_For_Another(const Part& part, const Box& place) const;
+    bool Is_Taken_For_Another(const Part& part, const Box& place, Care care) const;
     void Draw_Leader(const Part& part, Point mark);
     void Place_Pointer(const Part& part, const Pointer& pointer);
     bool Try_Pointer(const Part& part, const std::string& words, Point tail, Point way, Care care);
@@ -95,6 +95,7 @@ class Sheet {
     std::vector<Point> Label_Centres(const Run& run, double across, double tail) const;
     Proposal Proposal_Of(const Run& run, double across, double tail, Point labelCentre) const;
     bool Is_Free(const Proposal& proposal, bool upright, Care care) const;
+    bool Touches_Another_Line(const Proposal& proposal) const;
     void Accept(const Run& run, const Proposal& proposal, double across);
 
     // The plot.
