@@ -9,8 +9,7 @@
 namespace Tensarix::Tests {
 
 // Gone with the object, whatever became of its permissions. Its name is not of ASCII alone.
-class FreshFolder {
-  public:
+struct FreshFolder {
     FreshFolder() {
         std::random_device random;
         do

@@ -18,8 +18,7 @@ namespace Tensarix::Tests {
 
 using Strings = std::vector<std::string>;
 
-class MapSettings final : public SettingsStore {
-  public:
+struct MapSettings final : SettingsStore {
     std::map<std::pair<std::string, std::string>, std::string> Kept;
     std::vector<std::string> Written; // "key=text", in order
     std::string Doubt;
@@ -43,8 +42,7 @@ class MapSettings final : public SettingsStore {
     }
 };
 
-class KeptClipboard final : public Clipboard {
-  public:
+struct KeptClipboard final : Clipboard {
     std::string Held;
     int Clears = 0;
 
@@ -56,8 +54,7 @@ class KeptClipboard final : public Clipboard {
     std::string Text() override { return Held; }
 };
 
-class RecordedVoice final : public Voice {
-  public:
+struct RecordedVoice final : Voice {
     std::vector<std::string> Spoken;
     int Reaches = 0;
     void Speak(std::string_view text) override { Spoken.emplace_back(text); }
@@ -87,14 +84,12 @@ class ScriptedMessages final : public Messages {
     }
 };
 
-class HandClock final : public Clock {
-  public:
+struct HandClock final : Clock {
     double Now = 0;
     double Seconds() override { return Now; }
 };
 
-class CountedEvents final : public EventLoop {
-  public:
+struct CountedEvents final : EventLoop {
     long Turns = 0;
     std::function<bool()> OnYield; // false: closing
 
@@ -112,8 +107,7 @@ class CountedEvents final : public EventLoop {
     }
 };
 
-class RecordedWindow final : public MainWindow {
-  public:
+struct RecordedWindow final : MainWindow {
     std::vector<bool> OnTop;
     int Closes = 0;
     bool Obeys = true; // the desktop lets programs decide
@@ -124,8 +118,7 @@ class RecordedWindow final : public MainWindow {
     void Close() override { ++Closes; }
 };
 
-class TestInstance final : public Instance {
-  public:
+struct TestInstance final : Instance {
     bool Other = false;
     bool Answers = true;
     int Raises = 0;

@@ -12,8 +12,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class BeamPageTest : public testing::Test {
-  protected:
+struct BeamPageTest : testing::Test {
     TestMachine machine;
     std::unique_ptr<Desk> desk;
     std::unique_ptr<BeamPage> page;

@@ -21,15 +21,6 @@ constexpr BeamSection mc12x10p6{11.6, 9.22, 12, 0.19, 57.3};
 
 enum Edition { Ninth, ASD, LRFD };
 
-struct Case {
-    const char* Name;
-    Edition By;
-    BeamSection Section;
-    float Yield;
-    double Span;                     // ft, typed
-    double Boundary, Reaction, Load; // ft, kips, kips/ft, worked by hand to the digits given
-};
-
 BeamLoad Load_Of(Edition edition, const BeamInput& input) {
     return edition == Ninth
                ? Beam_Load_9th(input)
@@ -197,6 +188,10 @@ TEST(BeamRules, BracingAndDeflection) {
 // 9th: V = 0.4 Fy d tw, M = 0.66 Fy Sx; the boundary is 4 M / V, R = 4 M / L, w = 2 R / L.
 // 13th: at 50 ksi Mn falls from Fy Zx at bf/2tf 9.1516 to 0.7 Fy Sx at 24.083. Vn = 0.6 Fy d tw.
 TEST(BeamRules, WorkedByHand) {
+    // Yield in ksi, the typed span in ft; by hand to the digits given: the boundary in ft, the end
+    // reaction in kips, the load in kips/ft.
+    using Case =
+        std::tuple<const char*, Edition, BeamSection, float, double, double, double, double>;
     const Case cases[] = {
         // V = 144.90, M = 33 x 81.6 / 12 = 224.40
         {"9th, above", Ninth, w21x44, 50, 20, 6.1946, 44.880, 4.4880},
@@ -212,12 +207,13 @@ TEST(BeamRules, WorkedByHand) {
         // a channel counts as an I-shape
         {"channel", LRFD, mc12x10p6, 36, 20, 2.54386, 6.26400, 0.626400},
     };
-    for (const Case& c : cases) {
+    for (const auto& [name, edition, section, yield, span, boundary, reaction, kipsPerFoot] :
+         cases) {
         const BeamLoad load =
-            Load_Of(c.By, {.Section = c.Section, .YieldKsi = c.Yield, .TypedSpanFeet = c.Span});
-        EXPECT_NEAR(load.BoundaryFeet / c.Boundary, 1, 1e-4) << c.Name;
-        EXPECT_NEAR(load.EndReactionKips / c.Reaction, 1, 1e-4) << c.Name;
-        EXPECT_NEAR(load.LoadKipsPerFoot / c.Load, 1, 1e-4) << c.Name;
+            Load_Of(edition, {.Section = section, .YieldKsi = yield, .TypedSpanFeet = span});
+        EXPECT_NEAR(load.BoundaryFeet / boundary, 1, 1e-4) << name;
+        EXPECT_NEAR(load.EndReactionKips / reaction, 1, 1e-4) << name;
+        EXPECT_NEAR(load.LoadKipsPerFoot / kipsPerFoot, 1, 1e-4) << name;
     }
 }
 

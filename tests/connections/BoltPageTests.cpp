@@ -9,8 +9,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class BoltPageTest : public testing::Test {
-  protected:
+struct BoltPageTest : testing::Test {
     TestMachine machine;
     Desk desk{machine.Host};
     std::unique_ptr<BoltPage> page;

@@ -15,8 +15,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class BoltFileTest : public testing::Test {
-  protected:
+struct BoltFileTest : testing::Test {
     FreshFolder folder;
     ScriptedMessages boxes;
     std::filesystem::path path = folder.Path / boltFileName;

@@ -8,8 +8,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class WeldPageTest : public testing::Test {
-  protected:
+struct WeldPageTest : testing::Test {
     TestMachine machine;
     Desk desk{machine.Host};
     std::unique_ptr<DesignPage> design;

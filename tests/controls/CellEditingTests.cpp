@@ -12,8 +12,7 @@ namespace {
 constexpr int enterKey = Keys::Enter;
 
 // A grid of three columns: a list in 1, a text box in 2. It notes what the page is told.
-class Sheet {
-  public:
+struct Sheet {
     FlexGrid Grid;
     TextBox Box;
     ComboBox List;

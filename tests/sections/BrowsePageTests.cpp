@@ -8,8 +8,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class BrowseTest : public testing::Test {
-  protected:
+struct BrowseTest : testing::Test {
     TestMachine machine;
     Desk desk{machine.Host};
     BrowsePage page{desk};

@@ -14,8 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class BuildSectionStoreTest : public testing::Test {
-  protected:
+struct BuildSectionStoreTest : testing::Test {
     void SetUp() override { fs::copy(TENSARIX_SOURCE_DIR "/data/sections", folder / "data"); }
 
     // What the program says; "" if the store was built.

@@ -19,8 +19,7 @@ namespace {
 const fs::path program = TENSARIX_PROGRAM_DIR;
 
 // A program folder of its own, with a name that has to be escaped in a URI.
-class SectionStoreTest : public testing::Test {
-  protected:
+struct SectionStoreTest : testing::Test {
     SectionStoreTest() {
         fs::create_directories(folder);
         fs::copy_file(program / sectionStoreFile, store);

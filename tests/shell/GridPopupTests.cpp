@@ -17,8 +17,7 @@ std::string Name(int row, int col) {
 }
 
 // Five grids of the same cells: r0c0 and so on, with a line break in the head of column 2.
-class GridPopupTest : public testing::Test {
-  protected:
+struct GridPopupTest : testing::Test {
     TestMachine machine;
     Desk desk{machine.Host};
     TabControl tab;

@@ -22,8 +22,7 @@ struct RecordedDialogs final : NoDialogs {
     }
 };
 
-class MainFrmTest : public testing::Test {
-  protected:
+struct MainFrmTest : testing::Test {
     TestMachine machine;
     RecordedDialogs dialogs;
     std::unique_ptr<MainFrm> form;

@@ -12,8 +12,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class PageSettingsTest : public testing::Test {
-  protected:
+struct PageSettingsTest : testing::Test {
     TestMachine machine;
     NoDialogs dialogs;
     MainFrm form{machine.Host, dialogs};

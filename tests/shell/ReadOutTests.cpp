@@ -87,8 +87,7 @@ const SpokenEvent spokenEvents[] = {
 };
 // clang-format on
 
-class ReadOutTest : public testing::Test {
-  protected:
+struct ReadOutTest : testing::Test {
     TestMachine machine;
     NoDialogs dialogs;
 

@@ -42,16 +42,14 @@ std::string All(const FlexGrid& grid) {
     return grid.Clip_Of(1, 1, grid.Rows() - 1, grid.Cols() - 1);
 }
 
-class WtCalcs : public testing::Test {
-  protected:
+struct WtCalcs : testing::Test {
     TestMachine machine;
     Desk desk{machine.Host};
     SavedLengths lengths;
     SavedRows rows;
 };
 
-class Type1 : public WtCalcs {
-  protected:
+struct Type1 : WtCalcs {
     WtCalcsFrm form{desk, lengths};
 
     void SetUp() override {
@@ -70,8 +68,7 @@ class Type1 : public WtCalcs {
     std::string Metric(int row) { return Row_Of(form.MetricFlex, row); }
 };
 
-class Type2 : public WtCalcs {
-  protected:
+struct Type2 : WtCalcs {
     WtCalcsFrmA form{desk, rows};
 
     void SetUp() override { form.Load(); }

@@ -10,8 +10,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class BrowseWindowTest : public WindowTest {
-  protected:
+struct BrowseWindowTest : WindowTest {
     BrowsePage& Page() { return program->Form().Browse; }
 };
 

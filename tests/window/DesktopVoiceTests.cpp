@@ -25,8 +25,7 @@ std::string Long_Text(int words = 3000) {
     return text;
 }
 
-class DesktopVoiceTest : public testing::Test {
-  protected:
+struct DesktopVoiceTest : testing::Test {
     static inline std::unique_ptr<QTemporaryDir> home; // of all tests: the service is slow to end
     QByteArray locale = qgetenv("LC_ALL");
     std::unique_ptr<DesktopVoice> voice;

@@ -21,14 +21,12 @@ const QByteArray boltsSaved = "Warning:|Entries succesfully Saved ! |information
 using Images = std::map<std::string, QByteArray>;
 using Names = std::vector<std::string>;
 
-class FaultTest : public testing::Test {
-  protected:
-    QTemporaryDir home;
+struct FaultTest : HomeTest {
     Images stateA, stateB;
 
     // A copy of its own: the data files lie beside the program.
     void SetUp() override {
-        Use_Home(home.path());
+        HomeTest::SetUp();
         ASSERT_TRUE(Copy_Program(home.path()));
         Save("BA"); // both states have been there: the settings have all their keys
         stateA = Files();

@@ -10,8 +10,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class FindWindowTest : public WindowTest {
-  protected:
+struct FindWindowTest : WindowTest {
     FindPage& Page() { return program->Form().Find; }
     QString Text(const char* name) {
         Settle();

@@ -10,8 +10,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class GuideTest : public WindowTest {
-  protected:
+struct GuideTest : WindowTest {
     GuideWindow& Guide() { return Find<GuideWindow>("GuideWindow"); }
     QTextBrowser& Text() { return *Guide().findChild<QTextBrowser*>(); }
     // What stands at the top of what shows.

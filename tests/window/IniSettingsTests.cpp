@@ -15,12 +15,8 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class IniSettingsTest : public testing::Test {
-  protected:
-    QTemporaryDir home;
+struct IniSettingsTest : HomeTest {
     QString path = home.filePath("Tensarix/Tensarix.ini");
-
-    void SetUp() override { Use_Home(home.path()); }
 
     QByteArray Text() const {
         QFile file(path);

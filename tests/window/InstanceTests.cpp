@@ -27,12 +27,7 @@ bool Ended_Well(const Process& process) {
     return process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
 }
 
-class InstanceTest : public testing::Test {
-  protected:
-    QTemporaryDir home;
-
-    void SetUp() override { Use_Home(home.path()); }
-
+struct InstanceTest : HomeTest {
 #ifndef _WIN32
     // The one that listens, and one for each connection to it.
     qsizetype Sockets() const {

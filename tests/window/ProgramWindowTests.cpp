@@ -11,8 +11,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class ProgramWindowTest : public WindowTest {
-  protected:
+struct ProgramWindowTest : WindowTest {
     // A browse grid with a column scrolled away.
     FlexGrid& Scrolled() {
         program->Window().resize(700, 500);

@@ -13,8 +13,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class TravelWindowTest : public WindowTest {
-  protected:
+struct TravelWindowTest : WindowTest {
     MainFrm& Form() { return program->Form(); }
     void Open(Mode mode) {
         Key(static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(mode)), Qt::ControlModifier);

@@ -60,13 +60,16 @@ inline void Key(Qt::Key key, Qt::KeyboardModifiers with = {}) {
     QCoreApplication::processEvents();
 }
 
-class WindowTest : public testing::Test {
-  protected:
+struct HomeTest : testing::Test {
     QTemporaryDir home;
+    void SetUp() override { Use_Home(home.path()); }
+};
+
+struct WindowTest : HomeTest {
     std::unique_ptr<Program> program;
 
     void SetUp() override {
-        Use_Home(home.path());
+        HomeTest::SetUp();
         Start();
     }
     void TearDown() override { Stop(); }

@@ -12,8 +12,7 @@ using namespace Tensarix::Tests;
 
 namespace {
 
-class WtCalcsWindowTest : public WindowTest {
-  protected:
+struct WtCalcsWindowTest : WindowTest {
     QDialog* dialog = nullptr;
     int messages = 0;
 
