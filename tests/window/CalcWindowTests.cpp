@@ -1,4 +1,6 @@
 // The scientific calculator with real keys and clicks.
+#include "Kept.h"
+#include "Looks.h"
 #include "StandIns.h"
 #include "WindowTest.h"
 #include "calculator/CalcConstants.h"
@@ -146,6 +148,32 @@ TEST_F(CalcWindowTest, TheNumberPadsSeparatorIsAPoint) {
         QTest::keyClick(&calculator, Qt::Key_Enter, Qt::KeypadModifier);
         EXPECT_EQ(Display(calculator), "2.5");
     });
+}
+
+TEST_F(CalcWindowTest, KeysLookAsTheyAre) {
+    std::string text;
+    Calculate([&text](QWidget& calculator) {
+        for (const QRgb window : {0xEFEFEFU, 0x2B2F33U})
+            for (const char* name :
+                 {"key_7", "key_plus", "key_equal", "key_AC", "key_Sin", "key_Mr", "HelpButton"}) {
+                auto& key = Of<CalcKeyButton>(calculator, name);
+                key.setPalette({QColor(window), QColor(window)});
+                const auto look = [&](const char* state) {
+                    text += std::string(name) + " " + state +
+                            Main_Colours(key.grab().toImage(), key.rect()).toStdString() + "\n";
+                };
+                look("at rest");
+                key.setAttribute(Qt::WA_UnderMouse);
+                look("pointed at");
+                key.setDown(true);
+                look("pressed");
+                key.setDown(false);
+                key.setEnabled(false);
+                look("disabled");
+                key.setEnabled(true);
+            }
+    });
+    Expect_As_Kept("keys.txt", text);
 }
 
 TEST_F(CalcWindowTest, TabAndSpacePressKeysAndEnterStaysEquals) {

@@ -10,7 +10,7 @@
 namespace Tensarix::Tests {
 
 // The colours that take a twentieth of its area or more: grounds, borders, fills, and no letters.
-inline QString Colours(const QImage& image, const QRect& area) {
+inline QString Main_Colours(const QImage& image, const QRect& area) {
     constexpr int grain = 2, share = 20;
     std::map<QRgb, int> counts;
     int all = 0;
@@ -45,10 +45,18 @@ inline QString Look_Of(const QWidget& widget, const QImage& screen) {
         text += QStringLiteral(" disabled");
     if (widget.focusPolicy() != Qt::NoFocus)
         text += QStringLiteral(" focus %1").arg(widget.focusPolicy());
+    for (const auto& [word, size] :
+         {std::pair{" least", widget.minimumSize()}, {" most", widget.maximumSize()}})
+        if (size != QSize() && size != QSize(0, 0) &&
+            size != QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX))
+            text += QStringLiteral("%1 %2x%3")
+                        .arg(QLatin1String(word))
+                        .arg(size.width())
+                        .arg(size.height());
     if (const auto* heads = qobject_cast<const QHeaderView*>(&widget))
         return text + Sizes(*heads);
     // What lies on it has colours of its own.
-    return widget.findChild<QWidget*>() ? text : text + Colours(screen, place);
+    return widget.findChild<QWidget*>() ? text : text + Main_Colours(screen, place);
 }
 
 } // namespace Tensarix::Tests
