@@ -82,8 +82,10 @@ TEST(Drawings, AreAsTheyWereLookedAt) {
         text += "== " + title + "\n" + Written(drawing);
     };
     const std::pair<int, const char*> sections[] = {
-        {0, "W18x50"},      {4, "C10x20"},    {6, "WT9x25"},        {9, "HSS8x4x1/4"},
-        {12, "Pipe150STD"}, {14, "L6x4x1/2"}, {16, "2L6x4x1/2LLBB"}};
+        {0, "W18x50"},          {3, "S12x35"},      {4, "C10x20"},    {5, "MC18x58"},
+        {5, "MC13x40"},         {6, "WT9x25"},      {8, "ST6x25"},    {9, "HSS8x4x1/4"},
+        {11, "HSS6.000x0.250"}, {12, "Pipe150STD"}, {14, "L6x4x1/2"}, {15, "2L4x4x1/2x3/8"},
+        {16, "2L6x4x1/2LLBB"}};
     for (const auto& [family, name] : sections)
         add(name, Read_Section_Drawing(family, name, {TENSARIX_PROGRAM_DIR}, DrawingDetail::Full));
     add("W18x50, SI, small", Read_Section_Drawing(0, "W18x50", {TENSARIX_PROGRAM_DIR, Profile::SI},
