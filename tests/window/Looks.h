@@ -43,6 +43,8 @@ inline QString Look_Of(const QWidget& widget, const QImage& screen) {
                        .arg(widget.height());
     if (!widget.isEnabled())
         text += QStringLiteral(" disabled");
+    if (widget.hasFocus())
+        text += QStringLiteral(" focused");
     if (widget.focusPolicy() != Qt::NoFocus)
         text += QStringLiteral(" focus %1").arg(widget.focusPolicy());
     for (const auto& [word, size] :
