@@ -224,7 +224,7 @@ double Distance(Point at, Point from, Point to) {
 
 } // namespace
 
-bool Box::Meets(Point from, Point to) const {
+bool Box::Is_Cut_By(Point from, Point to) const {
     double start = 0, end = 1;
     const auto cut = [&](double at, double way, double low, double high) {
         if (way == 0)

@@ -37,7 +37,13 @@ struct Box {
         return {std::clamp(to.X, Left, Right), std::clamp(to.Y, Top, Bottom)};
     }
     // Whether the line between two points comes into it.
-    bool Meets(Point from, Point to) const;
+    bool Meets(Point from, Point to) const {
+        return std::max(from.X, to.X) >= Left && std::min(from.X, to.X) <= Right &&
+               std::max(from.Y, to.Y) >= Top && std::min(from.Y, to.Y) <= Bottom &&
+               Is_Cut_By(from, to);
+    }
+    // The same of a line that is not wholly on one side of it.
+    bool Is_Cut_By(Point from, Point to) const;
     Box Grown(double by) const { return {Left - by, Top - by, Right + by, Bottom + by}; }
     // Becomes the least box that also holds the other one.
     void Take_In(const Box& other);
