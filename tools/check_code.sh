@@ -47,7 +47,8 @@ check_tidy() {
     say "Checking with clang-tidy"
     mkdir -p build/tidy/clean
     export -f key_of tidy
-    sources -name '*.cpp' | xargs -P "$cores" -I{} bash -c 'tidy {}' || fail "clang-tidy has found faults"
+    # The Windows voice has headers that are not here.
+    sources -name '*.cpp' ! -name 'SapiVoice.cpp' | xargs -P "$cores" -I{} bash -c 'tidy {}' || fail "clang-tidy has found faults"
 }
 
 install_missing "$LIGHT_CHECK_PACKAGES"

@@ -126,6 +126,7 @@ Drawing Outlines_Of(const Drawing& drawing, const std::string& name, Drawn::Poin
 void Fill_CompareFlex(FlexGrid& grid, const std::vector<ComparedSection>& sections,
                       const SectionView& view) {
     std::vector<std::vector<BrowseRow>> columns;
+    columns.reserve(sections.size());
     for (const ComparedSection& section : sections)
         columns.push_back(Browse_Rows(section, view));
     const std::vector<BrowseRow> rows = All_Rows(columns);

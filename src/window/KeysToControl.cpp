@@ -39,7 +39,7 @@ bool Filter_Key(const KeyFilter& filter, const QKeyEvent& event, QLineEdit& box)
 // A filter looks at the text as it is: each character is sent alone, once the ones before it stand
 // there.
 bool Filter_Input_Method(QWidget* widget, const KeyFilter& filter, QInputMethodEvent& event) {
-    const QString text = event.commitString();
+    const QString& text = event.commitString();
     if (!filter || text.isEmpty() || (text.size() == 1 && filter(text.at(0).unicode()) != 0))
         return false;
     int start = event.replacementStart(), length = event.replacementLength();

@@ -79,7 +79,7 @@ Folders Program_Folders() {
 // Where the desktop has made none, or one that others can write, the toolkit names one in the
 // common temporary folder.
 QString Runtime_Folder() {
-    const QString own = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    QString own = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (!own.isEmpty() &&
         QDir(own) == QDir(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation)))
         return own;
