@@ -35,7 +35,7 @@ build_qt() {
     local off=() feature
     # wintab.h, which tablets need, is not in the archive.
     for feature in tabletevent sql dbus printsupport concurrent testlib_selfcover icu ssl vulkan \
-        openssl schannel direct2d; do
+        openssl schannel direct2d directwrite3; do
         off+=("-DFEATURE_$feature=OFF")
     done
     for feature in system_zlib system_png system_pcre2 system_freetype system_harfbuzz system_jpeg; do
