@@ -2,11 +2,11 @@
 # What the scripts share: the packages, and one build of a preset.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev libgl-dev \
-libsqlite3-dev libgtest-dev libbenchmark-dev fonts-dejavu-core"
+libsqlite3-dev libgtest-dev fonts-dejavu-core"
 SPEECH_PACKAGES="speech-dispatcher speech-dispatcher-espeak-ng"
 TEST_PACKAGES="xvfb xauth dpkg-dev file desktop-file-utils appstream xdotool xclip"
 LIGHT_CHECK_PACKAGES="clang-format cppcheck shellcheck"
-TIDY_PACKAGES="clang-tidy"
+TIDY_PACKAGES="clang-tidy libbenchmark-dev"
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix dpkg-dev tcl nsis"
 WINDOWS_TEST_PACKAGES="wine64 wine fonts-wine xvfb googletest"
 
