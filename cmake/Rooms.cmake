@@ -30,6 +30,15 @@ function(tensarix_room_includes room target scope)
   target_include_directories(${target} ${scope} ${floor})
 endfunction()
 
+# What most sources include of the standard library, prepared once for all rooms.
+function(tensarix_rooms_header)
+  file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/rooms_header.cpp CONTENT "")
+  add_library(tensarix_rooms_header OBJECT ${CMAKE_BINARY_DIR}/rooms_header.cpp)
+  target_link_libraries(tensarix_rooms_header PRIVATE tensarix_flags)
+  target_precompile_headers(tensarix_rooms_header PRIVATE <algorithm> <cmath> <filesystem>
+    <functional> <map> <memory> <optional> <string> <string_view> <vector>)
+endfunction()
+
 # tensarix_room(name [USES rooms...] [LIBRARIES targets...])
 # builds src/name/*.cpp into the library tensarix_name, and tests/name/*.cpp into the program
 # name_tests.
@@ -42,6 +51,7 @@ function(tensarix_room name)
     add_library(${room} STATIC ${sources})
     tensarix_room_includes(${name} ${room} PUBLIC)
     target_link_libraries(${room} PUBLIC ${ROOM_USES} PRIVATE ${ROOM_LIBRARIES} tensarix_flags)
+    target_precompile_headers(${room} REUSE_FROM tensarix_rooms_header)
   else()
     add_library(${room} INTERFACE)
     tensarix_room_includes(${name} ${room} INTERFACE)
