@@ -48,7 +48,8 @@ check_tidy() {
     mkdir -p build/tidy/clean
     export -f key_of tidy
     # The Windows voice has headers that are not here.
-    sources -name '*.cpp' ! -name 'SapiVoice.cpp' | xargs -P "$cores" -I{} bash -c 'tidy {}' || fail "clang-tidy has found faults"
+    sources -name '*.cpp' ! -name 'SapiVoice.cpp' | xargs -P "$cores" -I{} bash -c 'tidy {}' ||
+        fail "clang-tidy has found faults"
 }
 
 install_missing "$LIGHT_CHECK_PACKAGES"
