@@ -94,6 +94,7 @@ struct Dimension {
     Side At = Side::Inside;
     std::string Symbol;     // "tf"
     std::string Value = {}; // "1.77"; left away where there is no room
+    bool Main = false;      // of the last ones to be left away
 };
 
 // A place, in the size of a text.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace Tensarix::Drawn {
 
@@ -18,7 +19,35 @@ constexpr double extensionGap = 0.15, extensionEnd = 0.25, textGap = 0.3;
 constexpr int lanes = 60;
 constexpr double farthestLine = 100;
 
+double Length_Of(const Dimension& dimension) {
+    const double x = std::abs(dimension.To.X - dimension.From.X);
+    const double y = std::abs(dimension.To.Y - dimension.From.Y);
+    switch (dimension.At) {
+    case Side::Left:
+    case Side::Right:
+        return y;
+    case Side::Inside:
+        return std::max(x, y);
+    default:
+        return x;
+    }
+}
+
 } // namespace
+
+std::vector<const Part*> First_To_Go(const Drawing& drawing, std::size_t count) {
+    std::vector<std::tuple<bool, double, const Part*>> all;
+    for (const Part& part : drawing.Parts)
+        if (const auto* dimension = std::get_if<Dimension>(&part.What))
+            all.emplace_back(dimension->Main || dimension->At == Side::Inside,
+                             Length_Of(*dimension), &part);
+    std::sort(all.begin(), all.end());
+    all.resize(std::min(count, all.size()));
+    std::vector<const Part*> parts;
+    for (const auto& [main, length, part] : all)
+        parts.push_back(part);
+    return parts;
+}
 
 // A dimension in its own direction: U along it, V across; Out leads away from the drawing.
 struct Sheet::Run {
@@ -180,7 +209,7 @@ Sheet::Proposal Sheet::Proposal_Of(const Run& run, double across, double tail,
 }
 
 bool Sheet::Is_Free(const Proposal& proposal, bool upright, Care care) const {
-    if (!Is_Free(proposal.Label, care) || Touches_Another_Line(proposal))
+    if (!Is_Free(proposal.Label, care) || Touches_Another_Line(proposal, care))
         return false;
     const Box apart = proposal.Label.Grown(1);
     for (const Segment& line : proposal.Lines) {
@@ -207,13 +236,17 @@ bool Sheet::Is_Free(const Proposal& proposal, bool upright, Care care) const {
 
 // Whether a label would stand right before or over the line of another dimension, and be taken for
 // the label of that.
-bool Sheet::Touches_Another_Line(const Proposal& proposal) const {
-    const auto before = [this](const Box& label, const std::vector<Segment>& lines) {
+bool Sheet::Touches_Another_Line(const Proposal& proposal, Care care) const {
+    const auto before = [this, care](const Box& label, const std::vector<Segment>& lines) {
         const Box near = label.Grown(lineUnderText * em_);
         const Box room{label.Left - lineToText * em_, near.Top, label.Right + lineToText * em_,
                        near.Bottom};
         return std::any_of(lines.begin(), lines.end(), [&](const Segment& line) {
-            return line.From.Y == line.To.Y && room.Meets(line.From, line.To);
+            // An upright line would have to end beside the label.
+            const auto ends = [&room](Point at) { return room.Meets(at, at); };
+            return line.From.Y == line.To.Y
+                       ? room.Meets(line.From, line.To)
+                       : care < Care::AllLines && (ends(line.From) || ends(line.To));
         });
     };
     return before(proposal.Label, dimensionLines_) ||

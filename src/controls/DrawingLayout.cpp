@@ -15,8 +15,8 @@ namespace {
 constexpr double edgeRoom = 3; // pixels between the drawing and the edge of the view
 constexpr int mostTries = 12;  // to find the scale at which all fits
 constexpr double scaleStep = 0.92, largePart = 0.6, muchLarger = 1.25;
-constexpr double leastPart = 0.2;     // of the scale without texts; below it, the values go
-constexpr double leastPartBare = 0.2; // below it, dimensions go
+constexpr double leastPart = 0.2;       // of the scale without texts; below it, something goes
+constexpr std::size_t valuesBefore = 2; // a part of the dimensions that goes before the values
 constexpr double barRoom = 2.1, barPart = 0.25, barTick = 0.25, barGap = 0.4; // lines; of the view
 
 Point Between(Point from, Point to, double length) {
@@ -185,10 +185,21 @@ Layout Fit_What_Fits(const Drawing& drawing, Size room, const TextMeasure& measu
         Fit(drawing, room, measure, {true, 0, Care::AllLines}, leastPart, layout) > 0)
         return layout;
     const std::size_t all = Dimensions_Of(drawing);
+    const auto fits = [&](bool values, std::size_t without, Care care, double least) {
+        const double part = Fit(drawing, room, measure, {values, without, care}, least, layout);
+        for (const Part* gone : First_To_Go(drawing, without))
+            layout.LeftOut.push_back(gone->Name);
+        return part > 0;
+    };
+    for (const auto& [care, least] :
+         {std::pair{Care::LinesToCome, 1.5 * leastPart}, {Care::AllLines, leastPart}})
+        for (std::size_t without = 1; without <= all / valuesBefore; ++without)
+            if (fits(true, without, care, least))
+                return layout;
     for (std::size_t without = 0; without < all; ++without)
-        if (Fit(drawing, room, measure, {false, without}, leastPartBare, layout) > 0)
+        if (fits(false, without, Care::AllLines, leastPart))
             return layout;
-    Fit(drawing, room, measure, {false, all}, 0, layout);
+    fits(false, all, Care::AllLines, 0);
     return layout;
 }
 
@@ -214,6 +225,8 @@ void Add_Scale_Bar(Layout& layout, const Drawing& drawing, Size view, const Text
          {}});
 }
 
+} // namespace
+
 double Distance(Point at, Point from, Point to) {
     const double dx = to.X - from.X, dy = to.Y - from.Y, square = dx * dx + dy * dy;
     const double part =
@@ -221,8 +234,6 @@ double Distance(Point at, Point from, Point to) {
                    : 0;
     return std::hypot(at.X - from.X - part * dx, at.Y - from.Y - part * dy);
 }
-
-} // namespace
 
 bool Box::Is_Cut_By(Point from, Point to) const {
     double start = 0, end = 1;

@@ -3,7 +3,8 @@
 //
 // Texts keep the size of the font, and what belongs to them (arrowheads, the distance of a
 // dimension) follows it. No text lies on another one, and all lie inside the view. Where there is
-// no room for all, the values go first, then the dimensions from the last one on; LeftOut tells.
+// no room for all, the shorter half of the dimensions goes first, then the values, then the other
+// dimensions; LeftOut tells.
 #pragma once
 
 #include "controls/Drawing.h"
@@ -100,6 +101,9 @@ Layout Lay_Out(const Drawing& drawing, Size view, const TextMeasure& measure);
 // The name of the part whose text lies at a place, or whose line passes within reach of it; empty:
 // none.
 std::string Name_At(const Layout& layout, Point pixel, double reach);
+
+// From a point to the line between two others.
+double Distance(Point at, Point from, Point to);
 
 // The closed polygon of a ring in the drawing's own units, its corners rounded by so many pieces.
 std::vector<Point> Polygon_Of(const Ring& ring, int pieces = 12);

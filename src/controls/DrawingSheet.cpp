@@ -12,9 +12,10 @@ namespace {
 // In heights of a line of text.
 constexpr double headLength = 0.55, headHalfWidth = 0.17;
 constexpr double markSize = 0.38, dotSize = 0.22;
-constexpr double overhang = 0.7;
+constexpr double overhang = 0.7, reachStep = 0.5, longestReach = 8;
 constexpr double labelDistances[] = {0.35, 0.8, 1.4, 2.2, 3.2};
 constexpr double besideMark = 1;    // a label farther from its own mark has a leader
+constexpr double besideLine = 0.3;  // a leader so near to a line can't be told from it
 constexpr double nearAnother = 1.6; // one so near to another mark is taken for the label of that
 constexpr double textMargin = 0.2, beforeText = 0.35; // the latter side by side
 constexpr double pointerLength = 2, pointerStep = 0.5, farthestPointer = 16, pointerBeside = 1.1;
@@ -70,10 +71,11 @@ void Sheet::Draw() {
         }
     things_ = extent_;
     std::vector<const Part*> dimensions;
+    const std::vector<const Part*> leftAway = First_To_Go(drawing_, detail_.Dimensions);
     for (const Part& part : drawing_.Parts)
-        if (std::holds_alternative<Dimension>(part.What))
+        if (std::holds_alternative<Dimension>(part.What) &&
+            std::find(leftAway.begin(), leftAway.end(), &part) == leftAway.end())
             dimensions.push_back(&part);
-    dimensions.resize(dimensions.size() - std::min(detail_.Dimensions, dimensions.size()));
     for (const Part* part : dimensions)
         Expect_Dimension(*part, std::get<Dimension>(part->What));
     for (const Part& part : drawing_.Parts) {
@@ -84,9 +86,14 @@ void Sheet::Draw() {
         if (line && !line->Label.empty() && !drawing_.Frame)
             named_.emplace_back(&part, layout_.In_View(line->To));
     }
+    std::vector<const Part*> axes; // whose labels come last
     for (const Part& part : drawing_.Parts)
         if (const auto* line = std::get_if<CentreLine>(&part.What))
             Draw_CentreLine(part, *line);
+    for (const auto& [part, at] : named_)
+        if (std::holds_alternative<CentreLine>(part->What) &&
+            (detail_.First == Care::AllLines || !Place_Behind(*part, detail_.First)))
+            axes.push_back(part);
     // Those inside have the least choice of places, those beside the drawing the most.
     for (const Part* part : dimensions)
         if (const auto& dimension = std::get<Dimension>(part->What); dimension.At == Side::Inside)
@@ -96,6 +103,14 @@ void Sheet::Draw() {
     for (const Part* part : dimensions)
         if (const auto& dimension = std::get<Dimension>(part->What); dimension.At != Side::Inside)
             Place_Dimension(*part, dimension);
+    for (const Part* part : axes) {
+        const auto& line = std::get<CentreLine>(part->What);
+        if (!Place_Behind(*part, Care::AllLines) && !Place_Behind(*part, Care::DimensionLines) &&
+            (detail_.First < Care::AllLines ||
+             !Place_Near(*part, {layout_.In_View(line.To), layout_.In_View(line.From)},
+                         line.Label)))
+            Leave_Out(*part, line.Label);
+    }
     for (const Part& part : drawing_.Parts)
         if (const auto* pointer = std::get_if<Pointer>(&part.What))
             Place_Pointer(part, *pointer);
@@ -191,21 +206,36 @@ void Sheet::Draw_Weld(const Part& part, const Weld& weld) {
 
 void Sheet::Draw_CentreLine(const Part& part, const CentreLine& line) {
     const Point from = layout_.In_View(line.From), to = layout_.In_View(line.To);
-    const Point end = Along(to, from, -overhang * em_);
-    Add_Stroke(part, {Along(from, to, -overhang * em_), end}, Weight::Thin, line.Dash);
-    if (line.Label.empty())
-        return;
-    if (drawing_.Frame)
-        return Place_Below_Axis(part, line.Label, to.X);
+    Add_Stroke(part, {Along(from, to, -overhang * em_), Along(to, from, -overhang * em_)},
+               Weight::Thin, line.Dash);
+    if (drawing_.Frame && !line.Label.empty())
+        Place_Below_Axis(part, line.Label, to.X);
+}
+
+// Behind one of its ends, which reaches as far as the label has to go.
+bool Sheet::Place_Behind(const Part& part, Care care) {
+    const auto& line = std::get<CentreLine>(part.What);
+    const Point from = layout_.In_View(line.From), to = layout_.In_View(line.To);
+    for (double reach = overhang; reach < longestReach; reach += reachStep)
+        if (Try_Behind(part, from, to, reach, care) || Try_Behind(part, to, from, reach, care))
+            return true;
+    return false;
+}
+
+bool Sheet::Try_Behind(const Part& part, Point from, Point to, double reach, Care care) {
+    const auto& line = std::get<CentreLine>(part.What);
     const Size size = measure_(line.Label);
+    const Point usual = Along(to, from, -overhang * em_), end = Along(to, from, -reach * em_);
     const Point onward = Along({0, 0}, {end.X - from.X, end.Y - from.Y}, 1);
     const Point centre{end.X + onward.X * (size.Width / 2 + 2 * textMargin * em_),
                        end.Y + onward.Y * (size.Height / 2 + 1.5 * textMargin * em_)};
     const Box place = Text_Box(centre, line.Label);
-    if (Is_Free(place, Cares(false).front()))
-        Add_Text(part, place, line.Label);
-    else if (!Place_Near(part, {end}, line.Label))
-        Leave_Out(part, line.Label);
+    if (!Is_Free(place, care) || !Misses_Texts({usual, end}))
+        return false;
+    if (reach > overhang)
+        Add_Stroke(part, {usual, end}, Weight::Thin, line.Dash);
+    Add_Text(part, place, line.Label);
+    return true;
 }
 
 void Sheet::Add_Stroke(const Part& part, std::vector<Point> points, Weight width, Pattern dash) {
@@ -310,11 +340,11 @@ void Sheet::Place_Label(const Part& part) {
         return;
     if (!Place_Near(part, anchors, words, label != nullptr))
         Leave_Out(part, words);
-    else if (std::holds_alternative<Mark>(part.What))
+    else if (anchors.size() == 1)
         Draw_Leader(part, anchors.front());
 }
 
-// From a mark to its label, the last one, where that found no place beside it.
+// From a mark or a point to its label, the last one, where that found no place beside it.
 void Sheet::Draw_Leader(const Part& part, Point mark) {
     const Box label = layout_.Texts.back().Place.Grown(textMargin * em_);
     const Point end = label.Nearest(mark);
@@ -336,7 +366,7 @@ bool Sheet::Is_Taken_For_Another(const Part& part, const Box& place, Care care) 
     const Point from = own->second, to = place.Nearest(from);
     const double away = std::hypot(to.X - from.X, to.Y - from.Y);
     const bool mark = std::holds_alternative<Mark>(part.What);
-    if (mark && away > besideMark * em_ && !Misses_Texts({from, to}))
+    if (mark && away > besideMark * em_ && (!Misses_Texts({from, to}) || Lies_On_A_Line(from, to)))
         return true;
     const double near = care == Care::AllLines && mark ? 0 : std::min(away, nearAnother * em_);
     return std::any_of(named_.begin(), named_.end(), [&](const auto& named) {
@@ -346,6 +376,15 @@ bool Sheet::Is_Taken_For_Another(const Part& part, const Box& place, Care care) 
         const Box other = Box{at.X, at.Y, at.X, at.Y}.Grown(markSize * em_);
         return std::hypot(end.X - at.X, end.Y - at.Y) < near ||
                (other.Meets(from, to) && !other.Contains({from.X, from.Y, from.X, from.Y}));
+    });
+}
+
+// Where a leader would be lost in a line that runs the same way.
+bool Sheet::Lies_On_A_Line(Point from, Point to) const {
+    const Point middle{(from.X + to.X) / 2, (from.Y + to.Y) / 2};
+    return std::any_of(segments_.begin(), segments_.end(), [&](const Segment& line) {
+        return Distance(middle, line.From, line.To) < besideLine * em_ &&
+               Distance(to, line.From, line.To) < besideLine * em_;
     });
 }
 

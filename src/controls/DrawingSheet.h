@@ -28,11 +28,15 @@ inline constexpr double betweenTexts = 0.9;
 // What may be left away for want of room.
 struct Detail {
     bool Values = true;
-    std::size_t Dimensions = 0; // so many from the last one on are left away
+    std::size_t Dimensions = 0; // so many are left away
     // Of the labels. Less takes less room: with Everything, those of dimensions beside the drawing
     // don't look ahead, and may stand off their middle; with AllLines, no label looks ahead.
     Care First = Care::LinesToCome;
 };
+
+// So many dimensions, in the order in which they go for want of room: the shortest beside the
+// drawing, at last the main ones and those inside it.
+std::vector<const Part*> First_To_Go(const Drawing& drawing, std::size_t count);
 
 class Sheet {
   public:
@@ -62,6 +66,8 @@ class Sheet {
     void Draw_Mark(const Part& part, const Mark& mark);
     void Draw_Weld(const Part& part, const Weld& weld);
     void Draw_CentreLine(const Part& part, const CentreLine& line);
+    bool Place_Behind(const Part& part, Care care);
+    bool Try_Behind(const Part& part, Point from, Point to, double reach, Care care);
     void Add_Stroke(const Part& part, std::vector<Point> points, Weight width, Pattern dash);
     void Add_Head(const Part& part, Point tip, Point from);
     static std::vector<Point> Circle_Points(Point centre, double radius);
@@ -80,6 +86,7 @@ class Sheet {
     bool Place_Near(const Part& part, const std::vector<Point>& anchors, const std::string& words,
                     bool above = false);
     bool Is_Taken_For_Another(const Part& part, const Box& place, Care care) const;
+    bool Lies_On_A_Line(Point from, Point to) const;
     void Draw_Leader(const Part& part, Point mark);
     void Place_Pointer(const Part& part, const Pointer& pointer);
     bool Try_Pointer(const Part& part, const std::string& words, Point tail, Point way, Care care);
@@ -95,7 +102,7 @@ class Sheet {
     std::vector<Point> Label_Centres(const Run& run, double across, double tail) const;
     Proposal Proposal_Of(const Run& run, double across, double tail, Point labelCentre) const;
     bool Is_Free(const Proposal& proposal, bool upright, Care care) const;
-    bool Touches_Another_Line(const Proposal& proposal) const;
+    bool Touches_Another_Line(const Proposal& proposal, Care care) const;
     void Accept(const Run& run, const Proposal& proposal, double across);
 
     // The plot.

@@ -354,14 +354,16 @@ void SectionPen::Draw_Pair() {
 
 void SectionPen::Measure(std::string_view symbol, Side side, Point from, Point to) {
     constexpr std::string_view overall[] = {"d", "bf", "Ht", "b", "OD"};
-    if (small_ && std::find(std::begin(overall), std::end(overall), symbol) == std::end(overall))
+    const bool isOverall =
+        std::find(std::begin(overall), std::end(overall), symbol) != std::end(overall);
+    if (small_ && !isOverall)
         return;
     Attempt([&] {
         const Property* row = Row_Of(symbol);
         if (!row)
             return;
         drawing_.Add(Dimension{from, to, side, std::string{symbol},
-                               Trim(Value_Text(record_, *row, units_, style_))},
+                               Trim(Value_Text(record_, *row, units_, style_)), isOverall},
                      Ink::Measure, std::string{symbol});
     });
 }

@@ -24,9 +24,10 @@ Drawing Plate() {
     return plate;
 }
 
-void Expect_In_Order(const Layout& layout, Size view) {
+void Expect_In_Order(const Layout& layout, Size view,
+                     const std::vector<std::string>& leftOut = {}) {
     const Box whole{0, 0, view.Width, view.Height};
-    EXPECT_TRUE(layout.LeftOut.empty());
+    EXPECT_EQ(layout.LeftOut, leftOut);
     Expect_Texts_Apart(layout, view);
     for (const Stroke& stroke : layout.Strokes)
         for (const Point& point : stroke.Points)
@@ -43,7 +44,7 @@ const Text* Text_Of(const Layout& layout, const std::string& name) {
 } // namespace
 
 TEST(DrawingTest, FitsAndStaysToScaleInViewsOfAnyShape) {
-    for (const Size view : {Size{330, 330}, Size{800, 300}, Size{260, 700}, Size{1600, 900}}) {
+    for (const Size view : {Size{330, 330}, Size{800, 300}, Size{340, 700}, Size{1600, 900}}) {
         const Layout layout = Laid_Out(Plate(), view);
         Expect_In_Order(layout, view);
         EXPECT_EQ(layout.XScale, layout.YScale);
@@ -56,8 +57,11 @@ TEST(DrawingTest, FitsAndStaysToScaleInViewsOfAnyShape) {
     }
 }
 
-TEST(DrawingTest, WhereRoomIsShortTheValuesGoAndThenTheLastDimensions) {
+TEST(DrawingTest, WhereRoomIsShortTheShortestDimensionsGoAndThenTheValues) {
     EXPECT_EQ(Text_Of(Laid_Out(Plate(), {400, 400}), "d")->Words, "d = 20.00");
+    const Layout narrow = Laid_Out(Plate(), {290, 700});
+    Expect_In_Order(narrow, {290, 700}, {"k1", "k"});
+    EXPECT_EQ(Text_Of(narrow, "d")->Words, "d = 20.00");
     const Layout small = Laid_Out(Plate(), {150, 190});
     Expect_In_Order(small, {150, 190});
     EXPECT_EQ(Text_Of(small, "d")->Words, "d");
