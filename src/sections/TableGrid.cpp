@@ -59,10 +59,12 @@ void Mark_Shifted_Columns(FlexGrid& grid, const Layout& layout, TableVariant var
         return;
     for (int col = nameColumns; col < grid.Cols(); ++col) {
         const Property* values = Last_In(layout, variant, layout.ValueColumns, col);
-        if (values != Last_In(layout, variant, layout.HeadColumns, col))
+        const Property* named = Last_In(layout, variant, layout.HeadColumns, col);
+        if (values != named)
             grid.Set_Remark(0, col,
-                            "The values in this column are those of " +
-                                Replace_All(Head_Text(*values, profile), "\n", " "),
+                            "These are values of " +
+                                Replace_All(Head_Text(*values, profile), "\n", " ") + "; for " +
+                                std::string{Trim(named->Symbol)} + " see Browse Sections",
                             RemarkWeight::Caution);
     }
 }

@@ -285,8 +285,10 @@ TEST(Catalogue, EveryColumnOfViewAllAndFind) {
                         EXPECT_EQ(grid.Col_Width(col), 1268);
                         const std::string told =
                             shifted != std::string::npos
-                                ? "The values in this column are those of " +
-                                      Replace_All(Head(Of_Catalogue(values), view), "\n", " ")
+                                ? "These are values of " +
+                                      Replace_All(Head(Of_Catalogue(values), view), "\n", " ") +
+                                      "; for " + Split(grid.Text(0, col), '\n').at(0) +
+                                      " see Browse Sections"
                             : key == "kKDET" ? std::string{detailingRemark}
                                              : std::string{};
                         EXPECT_EQ(grid.Remark(0, col), told);

@@ -168,6 +168,16 @@ TEST_F(GridWindowTest, RemarksLookAndSoundAsTheyWeigh) {
     EXPECT_EQ(cell(4, 0, Qt::AccessibleDescriptionRole), "Unsafe: a number in this row");
     EXPECT_TRUE(cell(4, 0, GridModel::UnsafeRowRole).toBool());
     EXPECT_FALSE(cell(3, 0, GridModel::UnsafeRowRole).toBool());
+    // A column that isn't what its head says: each of its values, and not the cells without.
+    grid.Set_Remark(0, 5, "of another column", RemarkWeight::Caution);
+    grid.Set_Remark(0, 4, "in inches");
+    grid.Set_Text(2, 5, "4.000");
+    grid.Set_Text(2, 4, "3.000");
+    Settle();
+    EXPECT_EQ(ground(2, 5), ground(3, 7));
+    EXPECT_EQ(cell(2, 5, Qt::ToolTipRole), "Caution: of another column");
+    EXPECT_FALSE(cell(3, 5, Qt::BackgroundRole).isValid());
+    EXPECT_EQ(cell(2, 4, Qt::ToolTipRole).toString(), "");
     // Not by colour alone: without any, the signs still differ.
     const auto marks = [&](int row) {
         QImage image(60, 24, QImage::Format_RGB32);

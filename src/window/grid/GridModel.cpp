@@ -134,11 +134,11 @@ QVariant GridModel::Cell(int row, int col, int role) const {
     case Qt::AccessibleDescriptionRole:
         return Description(row, col);
     case RemarkRole:
-        if (const std::string& remark = grid_.Remark(row, col); !remark.empty())
+        if (const std::string& remark = grid_.Told_Of(row, col).Text; !remark.empty())
             return To_Qt(remark);
         return {};
     case WeightRole:
-        return static_cast<int>(grid_.Remark_Weight(row, col));
+        return static_cast<int>(grid_.Told_Of(row, col).Weight);
     case UnsafeRowRole:
         return col < grid_.FixedCols() && Has_Unsafe(row);
     default:
@@ -149,7 +149,7 @@ QVariant GridModel::Cell(int row, int col, int role) const {
 QVariant GridModel::Ground(int row, int col) const {
     const CellStyle& style = grid_.Style(row, col);
     const bool head = row < grid_.FixedRows();
-    if (const RemarkWeight weight = grid_.Remark_Weight(row, col);
+    if (const RemarkWeight weight = grid_.Told_Of(row, col).Weight;
         weight != RemarkWeight::Note && !head)
         return QBrush(Remark_Ground(weight, view_->palette()));
     if (style.Back != Colours::Standard)
@@ -163,10 +163,10 @@ QVariant GridModel::Ground(int row, int col) const {
 
 // The cell with the row's name tells what its sign shows.
 QString GridModel::Description(int row, int col) const {
-    const std::string& remark = grid_.Remark(row, col);
-    if (remark.empty() && col < grid_.FixedCols() && Has_Unsafe(row))
+    const Advice& told = grid_.Told_Of(row, col);
+    if (told.Text.empty() && col < grid_.FixedCols() && Has_Unsafe(row))
         return QStringLiteral("Unsafe: a number in this row");
-    return Remark_In_Words(remark, grid_.Remark_Weight(row, col));
+    return Remark_In_Words(told.Text, told.Weight);
 }
 
 bool GridModel::Has_Unsafe(int row) const {
