@@ -3,6 +3,7 @@
 #include "common/Failure.h"
 #include "sections/Assoc_Property.h"
 #include "sections/FamilyTable.h"
+#include "sections/TableGrid.h"
 
 namespace Tensarix {
 
@@ -38,6 +39,19 @@ ColumnFacts Facts_Of(SectionRecordset& records, const Layout& layout, const Prop
     return facts;
 }
 
+// Where the values of a property aren't in the results, or not under its head.
+Advice Place_Note(const Layout& layout, const std::string& name) {
+    const int col = Value_Column(layout, TableVariant::Find, name);
+    if (col < 0)
+        return {"The results do not show " + name + ": see Browse Sections.",
+                RemarkWeight::Caution};
+    const Property* head = Head_Over(layout, TableVariant::Find, col);
+    if (!head || head->Symbol == name)
+        return {};
+    return {"The results show " + name + " under the head " + std::string{head->Symbol} + ".",
+            RemarkWeight::Caution};
+}
+
 } // namespace
 
 Advice Find_Property_Note(std::string_view type, std::string_view property, Profile profile,
@@ -59,6 +73,8 @@ Advice Find_Property_Note(std::string_view type, std::string_view property, Prof
         return {"The search goes by " + column + "; the column " + name +
                     " of the results shows another figure.",
                 RemarkWeight::Caution};
+    if (Advice note = shown ? Place_Note(layout, name) : Advice{}; !note.Text.empty())
+        return note;
     if (shown && profile == Profile::SI && FindUnitLabel(property, profile) != shown->SIUnit &&
         shown->Kind == PropertyKind::SecondMoment)
         return {"The list and the search take " + name + " in full " + std::string{shown->SIUnit} +

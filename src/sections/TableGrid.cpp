@@ -93,6 +93,10 @@ int Value_Column(const Layout& layout, TableVariant variant, std::string_view sy
     return -1;
 }
 
+const Property* Head_Over(const Layout& layout, TableVariant variant, int col) {
+    return Last_In(layout, variant, layout.HeadColumns, col);
+}
+
 SectionRecordset Family_Records(std::string_view familyCode, const SectionView& view) {
     SectionRecordset records;
     Attempt(
