@@ -118,12 +118,14 @@ RemarkWeight FlexGrid::Remark_Weight(int row, int col) const {
     return Remark_Of(row, col).Weight;
 }
 
-const Advice& FlexGrid::Told_Of(int row, int col) const {
+Advice FlexGrid::Told_Of(int row, int col) const {
     const Advice& own = Remark_Of(row, col);
     if (row < fixedRows_ || fixedRows_ == 0 || Text(row, col).empty())
         return own;
     const Advice& column = Remark_Of(0, col);
-    return column.Weight > own.Weight ? column : own;
+    if (column.Weight <= own.Weight)
+        return own;
+    return {own.Text.empty() ? column.Text : own.Text, column.Weight};
 }
 
 void FlexGrid::Set_Remark(int row, int col, std::string remark, RemarkWeight weight) {

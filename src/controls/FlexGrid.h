@@ -88,9 +88,9 @@ class FlexGrid {
     const std::string& Remark(int row, int col) const;
     RemarkWeight Remark_Weight(int row, int col) const; // Note where there is no remark
     void Set_Remark(int row, int col, std::string remark, RemarkWeight weight = RemarkWeight::Note);
-    // What is to be known of a cell: its remark, or that of its head where it holds a text and the
-    // head's weighs more, as one about a column is one about all of its values.
-    const Advice& Told_Of(int row, int col) const;
+    // What is to be known of a cell. More than a note about a column is one about all of its
+    // values: a text has the weight of its head's remark and, without one of its own, its words.
+    Advice Told_Of(int row, int col) const;
 
     // The row at a place below the head takes what the one at order[place] held: texts, styles and
     // remarks. order: every place once, from 0; rows behind them stay.

@@ -51,8 +51,8 @@ void Show_Table_Selection(Desk& desk, const FlexGrid& grid) {
     const std::string text = Table_Selection_Text(grid, row, col);
     desk.StatBar.Set_Panel1(text);
     const bool selected = text != Desk::noSelection;
-    const Advice& own = grid.Told_Of(row, col);
-    const Advice& told = selected && own.Text.empty() ? grid.Told_Of(0, col) : own; // or the head's
+    const Advice own = grid.Told_Of(row, col);
+    const Advice told = selected && own.Text.empty() ? grid.Told_Of(0, col) : own; // or the head's
     desk.StatBar.Set_Remark(told.Text, told.Weight);
     if (desk.ReadOut && selected)
         desk.Say(Spoken_Table_Selection(grid, row, col));

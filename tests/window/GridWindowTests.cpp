@@ -178,6 +178,8 @@ TEST_F(GridWindowTest, RemarksLookAndSoundAsTheyWeigh) {
     EXPECT_EQ(cell(2, 5, Qt::ToolTipRole), "Caution: of another column");
     EXPECT_FALSE(cell(3, 5, Qt::BackgroundRole).isValid());
     EXPECT_EQ(cell(2, 4, Qt::ToolTipRole).toString(), "");
+    grid.Set_Remark(2, 5, "of a third one"); // knows better than the head
+    EXPECT_EQ(cell(2, 5, Qt::AccessibleDescriptionRole), "Caution: of a third one");
     // Not by colour alone: without any, the signs still differ.
     const auto marks = [&](int row) {
         QImage image(60, 24, QImage::Format_RGB32);

@@ -134,7 +134,7 @@ QVariant GridModel::Cell(int row, int col, int role) const {
     case Qt::AccessibleDescriptionRole:
         return Description(row, col);
     case RemarkRole:
-        if (const std::string& remark = grid_.Told_Of(row, col).Text; !remark.empty())
+        if (const std::string remark = grid_.Told_Of(row, col).Text; !remark.empty())
             return To_Qt(remark);
         return {};
     case WeightRole:
@@ -163,7 +163,7 @@ QVariant GridModel::Ground(int row, int col) const {
 
 // The cell with the row's name tells what its sign shows.
 QString GridModel::Description(int row, int col) const {
-    const Advice& told = grid_.Told_Of(row, col);
+    const Advice told = grid_.Told_Of(row, col);
     if (told.Text.empty() && col < grid_.FixedCols() && Has_Unsafe(row))
         return QStringLiteral("Unsafe: a number in this row");
     return Remark_In_Words(told.Text, told.Weight);
