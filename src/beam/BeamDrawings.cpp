@@ -167,7 +167,7 @@ Drawing Beam_Under_Load(const BeamLoad& load, double magnification,
     Drawing drawing;
     drawing.Sentence = "A simply supported beam under a uniform load";
     if (known)
-        drawing.Sentence += ": span " + Length_Text(span) + ", " + w + ", end reaction " + R +
+        drawing.Sentence += ": span " + Full_Length_Text(span) + ", " + w + ", end reaction " + R +
                             ", shear at the ends " + V + ", moment in the middle " + M;
     Add_Load(drawing, span, w);
     Add_Beam(drawing, span);
@@ -176,7 +176,7 @@ Drawing Beam_Under_Load(const BeamLoad& load, double magnification,
                           {span, spanLine * span},
                           Side::Inside,
                           "Span",
-                          known ? Length_Text(span) : ""},
+                          known ? Full_Length_Text(span) : ""},
                 Ink::Measure, "Span");
     Add_Shear(drawing, span, V);
     Add_Moment(drawing, span, M);
@@ -206,11 +206,11 @@ Drawing Load_Against_Span(BeamMethod method, const BeamInput& input, const BeamL
                               (toUse ? Use(toUse->LoadKipsPerFoot) : "");
     drawing.Add(Mark{{present.SpanFeet, present.LoadKipsPerFoot}, MarkKind::Dot, point},
                 Ink::Result, "Present");
-    drawing.Add(CentreLine{{Lv, highest}, {Lv, 0}, "Boundary " + Length_Text(Lv)}, Ink::Axis,
+    drawing.Add(CentreLine{{Lv, highest}, {Lv, 0}, "Boundary " + Full_Length_Text(Lv)}, Ink::Axis,
                 "Boundary");
     drawing.Sentence = "Allowable load against span by the " + std::string{Method_Name(method)} +
-                       ": shear governs up to " + Length_Text(Lv) + ", bending beyond; at " +
-                       Length_Text(present.SpanFeet) + ": " + point + " Kip/ft";
+                       ": shear governs up to " + Full_Length_Text(Lv) + ", bending beyond; at " +
+                       Full_Length_Text(present.SpanFeet) + ": " + point + " Kip/ft";
     return drawing;
 }
 
@@ -218,7 +218,7 @@ std::string Load_At_Span(BeamMethod method, const BeamInput& input, double span)
     const BeamLoad load = Beam_Load(method, At_Span(input, span));
     if (!(span > 0) || !Has_Load(load))
         return {};
-    return Length_Text(span) + ": w = " + Format_Number(load.LoadKipsPerFoot, twoDecimals) +
+    return Full_Length_Text(span) + ": w = " + Format_Number(load.LoadKipsPerFoot, twoDecimals) +
            " Kip/ft by the " + std::string{Method_Name(method)} +
            (span < load.BoundaryFeet ? ", shear governs" : "");
 }

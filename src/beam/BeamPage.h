@@ -83,7 +83,7 @@ class BeamPage {
     void Restore_Factor_And_Span();
     void Load_Span(const std::string& text);
     void Load_Factor(const std::string& text);
-    void Show_Results(const BeamLoad& load);
+    void Show_Results(const BeamLoad& load, RemarkWeight weight);
     void Show_Span_Remark();
     void Show_Drawings(const BeamInput& input, const BeamLoad& load,
                        const std::optional<BeamLoad>& toUse);

@@ -56,10 +56,10 @@ void BeamPage::CalculateValues() {
     const BeamLoad load = Tensarix::Beam_Load(Rules(), input);
     span_ = load.SpanFeet;
     boundary_ = load.BoundaryFeet;
-    Show_Results(load);
-    Show_Span_Remark();
     const std::optional<BeamLoad> toUse = Load_To_Use(input, load);
     Advice remark = Rule_Remark(input, toUse);
+    Show_Results(load, remark.Weight);
+    Show_Span_Remark();
     RuleRemark.Set_Caption(std::move(remark.Text), remark.Weight);
     LoadNotes.Set_Caption(Unsaid(input, load));
     Show_Drawings(input, load, toUse);
@@ -87,23 +87,25 @@ BeamMethod BeamPage::Rules() const {
     return Method() == DesignMethod::ASD ? BeamMethod::ASD13th : BeamMethod::LRFD13th;
 }
 
-void BeamPage::Show_Results(const BeamLoad& load) {
+void BeamPage::Show_Results(const BeamLoad& load, RemarkWeight weight) {
     UniWTLab.Set_Caption("Maximum Allowable Uniform Load,  w = " +
-                         Format_Number(load.LoadKipsPerFoot, loadPattern) + " Kip/ft");
+                             Format_Number(load.LoadKipsPerFoot, loadPattern) + " Kip/ft",
+                         weight);
     LimSpanLab.Set_Caption(Length_Text(load.BoundaryFeet));
     Attempt([&] {
         BeamReactionLab.Set_Caption(
-            Format_Number((1.0 + Magnification()) * load.EndReactionKips, loadPattern) + " Kips");
+            Format_Number((1.0 + Magnification()) * load.EndReactionKips, loadPattern) + " Kips",
+            weight);
     });
 }
 
 void BeamPage::Show_Span_Remark() {
     std::string text;
-    const std::string boundary = Length_Text(boundary_);
+    const std::string boundary = Full_Length_Text(boundary_);
     const std::optional<double> typed = Typed_Span();
     if (!typed)
-        text = "No valid span: results are those at " + Length_Text(span_);
-    else if (*typed < boundary_ && Length_Text(*typed) != boundary)
+        text = "No valid span: results are those at " + Full_Length_Text(span_);
+    else if (*typed < boundary_ && Full_Length_Text(*typed) != boundary)
         text = "Span below the boundary: results are those at " + boundary;
     SpanRemark.Set_Caption(text, typed ? RemarkWeight::Note : RemarkWeight::Caution);
 }
@@ -167,7 +169,7 @@ std::string BeamPage::Unsaid(const BeamInput& input, const BeamLoad& load) const
     if (braced == 0)
         return {};
     std::string text =
-        "Holds where the compression flange is braced at least every " + Length_Text(braced);
+        "Holds where the compression flange is braced at least every " + Full_Length_Text(braced);
     const double deflection = Deflection_Inches(load.LoadKipsPerFoot, load.SpanFeet, section.Ix);
     if ((Is_9th_Edition() || Method() == DesignMethod::ASD) && deflection > 0)
         Attempt([&] {

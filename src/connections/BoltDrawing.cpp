@@ -65,6 +65,11 @@ void Add_Bolts(Drawing& drawing, const Group& group) {
             drawing.Add(Circle{{group.X(column), group.Y(row)}, radius, true}, Ink::Body, "Bolts");
 }
 
+// Of what is counted along a line that looks like a length.
+std::string Count_Text(const std::optional<double>& bolts) {
+    return bolts ? Known_Text(bolts) + " bolts" : std::string{};
+}
+
 void Add_Sizes(Drawing& drawing, const Group& group, const BoltPicture& picture) {
     const double left = group.Left(), top = group.Top();
     if (group.m > 1) {
@@ -72,7 +77,7 @@ void Add_Sizes(Drawing& drawing, const Group& group, const BoltPicture& picture)
             Dimension{
                 {left, top}, {left, top - group.sv}, Side::Left, "sv", Known_Text(picture.sv)},
             Ink::Measure, "sv");
-        drawing.Add(Dimension{{left, -top}, {left, top}, Side::Left, "m", Known_Text(picture.m)},
+        drawing.Add(Dimension{{left, -top}, {left, top}, Side::Left, "m", Count_Text(picture.m)},
                     Ink::Measure, "m");
     } else {
         drawing.Add(Label{{left, top}, "m = 1"}, Ink::Measure, "m");
@@ -82,7 +87,7 @@ void Add_Sizes(Drawing& drawing, const Group& group, const BoltPicture& picture)
             Dimension{
                 {left, top}, {left + group.sh, top}, Side::Above, "sh", Known_Text(picture.sh)},
             Ink::Measure, "sh");
-        drawing.Add(Dimension{{left, top}, {-left, top}, Side::Above, "n", Known_Text(picture.n)},
+        drawing.Add(Dimension{{left, top}, {-left, top}, Side::Above, "n", Count_Text(picture.n)},
                     Ink::Measure, "n");
     } else {
         drawing.Add(Label{{left, top}, "n = 1"}, Ink::Measure, "n");

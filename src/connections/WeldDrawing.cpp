@@ -102,7 +102,7 @@ void Add_Welds(Drawing& drawing, const Group& group) {
         drawing.Add(Weld{{line.x1, line.y1}, {line.x2, line.y2}}, Ink::Body, "Weld");
     }
     if (doubled)
-        drawing.Add(Label{{group.Left, group.Bottom}, "2 lines"}, Ink::Body, "Weld");
+        drawing.Add(Label{{group.Left, group.Bottom}, "2 lines in one place"}, Ink::Body, "Weld");
 }
 
 std::string Sentence(const WeldPicture& picture) {

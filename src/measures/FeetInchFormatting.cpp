@@ -204,6 +204,15 @@ std::string Length_Text(double feet) {
     return Format_FeetInch(feet, lengthDenominator, 0, 0);
 }
 
+std::string Full_Length_Text(double feet) {
+    std::string text = Length_Text(feet);
+    const std::size_t inches = text.find("'-");
+    if (inches != std::string::npos && text.find('/') != std::string::npos &&
+        text.find(' ', inches) == std::string::npos)
+        text.insert(inches + 2, "0 ");
+    return text;
+}
+
 std::string FeetInch_Text_To_Words(std::string_view text) {
     const bool negative = text.starts_with(dashMark);
     std::string words;

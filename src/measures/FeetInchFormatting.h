@@ -23,6 +23,9 @@ std::string Format_FeetInch(double value, int denominator, int inchesOnly, int i
 
 // The same as it stands in the grids: 12'-6 3/8".
 std::string Length_Text(double feet);
+// The same with all whole inches, 3'-0 11/16", where that has 3'-11/16", which is soon read as
+// 3'-11".
+std::string Full_Length_Text(double feet);
 
 // feet, inches and the numerator are whole numbers; g is the greatest common divisor of numerator
 // and denominator, and fails if it is 0. Every text ends in the inch mark.

@@ -43,7 +43,8 @@ ColumnFacts Facts_Of(SectionRecordset& records, const Layout& layout, const Prop
 Advice Place_Note(const Layout& layout, const std::string& name) {
     const int col = Value_Column(layout, TableVariant::Find, name);
     if (col < 0)
-        return {"The results do not show " + name + ": see Browse Sections.",
+        return {"The search goes by " + name + ", which the results do not show: for " + name +
+                    " see Browse Sections.",
                 RemarkWeight::Caution};
     const Property* head = Head_Over(layout, TableVariant::Find, col);
     if (!head || head->Symbol == name)

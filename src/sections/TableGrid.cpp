@@ -62,7 +62,7 @@ void Mark_Shifted_Columns(FlexGrid& grid, const Layout& layout, TableVariant var
         const Property* named = Last_In(layout, variant, layout.HeadColumns, col);
         if (values != named)
             grid.Set_Remark(0, col,
-                            "These are values of " +
+                            "Column " + std::string{Trim(named->Symbol)} + " holds " +
                                 Replace_All(Head_Text(*values, profile), "\n", " ") + "; for " +
                                 std::string{Trim(named->Symbol)} + " see Browse Sections",
                             RemarkWeight::Caution);

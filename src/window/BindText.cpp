@@ -101,7 +101,9 @@ void Bind(QLabel* widget, Label& control) {
         widget->setToolTip(Tip_Text(Remark_In_Words(control.Remark(), control.Remark_Weight())));
         Show_Weight(*widget, control.Caption_Weight());
         widget->setAccessibleDescription(
-            Remark_In_Words(described.toStdString(), control.Caption_Weight()));
+            described.isEmpty()
+                ? Heavy_Word(control.Caption_Weight())
+                : Remark_In_Words(described.toStdString(), control.Caption_Weight()));
         if (stop) // there is nothing to be seen in an empty one
             widget->setFocusPolicy(control.Caption().empty() ? Qt::ClickFocus : Qt::StrongFocus);
     });

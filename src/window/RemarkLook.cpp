@@ -71,7 +71,12 @@ void Paint_Remark_Mark(QPainter& painter, const QRect& cell, RemarkWeight weight
     mark.closeSubpath();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(mark, Mark_Colour(weight, palette, selected));
+    const QColor colour = Mark_Colour(weight, palette, selected);
+    painter.fillPath(mark, colour);
+    if (selected && !note) { // what hides the tinted ground
+        painter.setPen(QPen(colour, lineWidth));
+        painter.drawRect(QRectF(cell).adjusted(1, 1, -1, -1));
+    }
     painter.restore();
 }
 
@@ -101,6 +106,11 @@ QString Remark_In_Words(const std::string& remark, RemarkWeight weight) {
     return remark.empty() || weight == RemarkWeight::Note
                ? text
                : To_Qt(word) + QStringLiteral(": ") + text;
+}
+
+QString Heavy_Word(RemarkWeight weight) {
+    const std::string_view word = Weight_Word(weight);
+    return weight == RemarkWeight::Note ? QString() : To_Qt(word);
 }
 
 QString Tip_Text(const QString& text) {

@@ -29,6 +29,8 @@ void Paint_Unsafe_Sign(QPainter& painter, const QRect& cell, const QPalette& pal
 
 // The remark as a screen reader is told it: with its weight, if it is more than a note.
 QString Remark_In_Words(const std::string& remark, RemarkWeight weight);
+// The weight alone; of a note nothing.
+QString Heavy_Word(RemarkWeight weight);
 // Its tool tip: no line is longer than 60 characters, but for a longer word.
 QString Tip_Text(const QString& text);
 

@@ -346,9 +346,10 @@ TEST_F(BeamPageTest, RemarksOnTheRules) {
             EXPECT_EQ(caption.find(told.empty() ? "that of I-shaped" : told) != std::string::npos,
                       !told.empty())
                 << size << caption;
-            EXPECT_EQ(page->RuleRemark.Caption_Weight(),
-                      weighs ? RemarkWeight::Unsafe : RemarkWeight::Note)
-                << size << span;
+            for (const Label* label : {&page->RuleRemark, &page->UniWTLab, &page->BeamReactionLab})
+                EXPECT_EQ(label->Caption_Weight(),
+                          weighs ? RemarkWeight::Unsafe : RemarkWeight::Note)
+                    << size << span;
             EXPECT_EQ(caption.starts_with("Use w = "), weighs) << size << span;
         }
     };

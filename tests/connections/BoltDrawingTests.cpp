@@ -41,7 +41,7 @@ TEST(BoltDrawing, IsToScale) {
             length, 1e-12)
             << name;
     }
-    EXPECT_EQ(Parts_Of<Dimension>(drawing, "m").at(0).Value, "6"); // counted, not measured
+    EXPECT_EQ(Parts_Of<Dimension>(drawing, "m").at(0).Value, "6 bolts"); // not inches
     EXPECT_EQ(drawing.Sentence.substr(0, 41), "A bolt group, m = 6 bolts high, n = 2 bol");
 }
 

@@ -65,6 +65,15 @@ TEST(FeetInchFormatting, BothFormsOfALength) {
     }
 }
 
+TEST(FeetInchFormatting, NoWholeInchIsLeftAwayInAFullText) {
+    const auto full = [](double inches) { return Full_Length_Text(inches / 12); };
+    EXPECT_EQ(full(36.6875), "3'-0 11/16\"");
+    EXPECT_EQ(full(36), "3'-0\"");
+    EXPECT_EQ(full(42.5), "3'-6 1/2\"");
+    EXPECT_EQ(full(0.375), "3/8\"");
+    EXPECT_EQ(full(INFINITY), "");
+}
+
 TEST(FeetInchFormatting, LimitsLeaveTheTextEmpty) {
     EXPECT_EQ(Digits(123456789012345), "123456789012345'-0\"");
     EXPECT_EQ(Words(32767), "Thirty Two Thousand Seven Hundred Sixty Seven Feet");

@@ -285,7 +285,7 @@ TEST(Catalogue, EveryColumnOfViewAllAndFind) {
                         EXPECT_EQ(grid.Col_Width(col), 1268);
                         const std::string told =
                             shifted != std::string::npos
-                                ? "These are values of " +
+                                ? "Column " + Split(grid.Text(0, col), '\n').at(0) + " holds " +
                                       Replace_All(Head(Of_Catalogue(values), view), "\n", " ") +
                                       "; for " + Split(grid.Text(0, col), '\n').at(0) +
                                       " see Browse Sections"

@@ -274,5 +274,5 @@ TEST_F(ViewTest, TheRemarkOfACellStandsBesideItsText) {
     EXPECT_EQ(desk.StatBar.Remark(), "");
     page.xShapeType.Select(5);
     page.xShapeFlex.Move_To(2, 14);
-    EXPECT_EQ(desk.StatBar.Remark(), "These are values of Zx [mm^3]; for xp see Browse Sections");
+    EXPECT_EQ(desk.StatBar.Remark(), "Column xp holds Zx [mm^3]; for xp see Browse Sections");
 }
