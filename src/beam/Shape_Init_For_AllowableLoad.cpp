@@ -1,6 +1,7 @@
 #include "beam/Shape_Init_For_AllowableLoad.h"
 
 #include "common/Failure.h"
+#include "common/NumberText.h"
 
 namespace Tensarix {
 
@@ -54,7 +55,12 @@ void Write_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Pr
         grid.Set_Text(row, valueColumn,
                       Value_Text(record, property, Profile::US, DimensionStyle::Decimal));
         if (property.USColumn == property.SIColumn && property.Kind == PropertyKind::Length)
-            grid.Set_Remark(row, valueColumn, std::string{siColumnRemark}, RemarkWeight::Caution);
+            grid.Set_Remark(
+                row, valueColumn,
+                std::string{siColumnRemark} +
+                    Format_Number(record.Number(property.USColumn.substr(1)), "0.00##") + " " +
+                    std::string{property.USUnit},
+                RemarkWeight::Caution); // the SI columns have an x before the name
     });
     grid.Set_Text(row, unitColumn, std::string{property.USUnit});
 }

@@ -290,7 +290,10 @@ TEST_F(BeamPageTest, TheGridOfEachFamily) {
             EXPECT_EQ(grid.Text(++row, 0), Replace_All(label, "_", " "));
             EXPECT_EQ(grid.Text(row, 1), Format_Number(store.Number(column), "0.00##  "));
             EXPECT_EQ(grid.Text(row, 2), unit);
-            EXPECT_EQ(grid.Remark(row, 1), column == "xRX" ? siColumnRemark : "");
+            EXPECT_EQ(grid.Remark(row, 1),
+                      column == "xRX" ? std::string{siColumnRemark} +
+                                            Format_Number(store.Number("RX"), "0.00##") + " in"
+                                      : "");
             EXPECT_EQ(grid.Row_Height(row), 345);
         }
         EXPECT_EQ(grid.Rows(), row + 1);
@@ -312,7 +315,8 @@ TEST_F(BeamPageTest, TheSelectionOfTheGrid) {
     EXPECT_EQ(Cell("k1", 1), "") << "not of the section before";
     page->zShapeFlex.Move_To(17, 0);
     EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   rx = 133.00 in");
-    EXPECT_EQ(desk->StatBar.Remark(), siColumnRemark);
+    EXPECT_EQ(desk->StatBar.Remark(),
+              "This row reads the SI figure of the section, in mm: use 5.24 in");
     page->zShapeFlex.Move_To(25, 1);
     EXPECT_EQ(desk->StatBar.Panel1(), " SELECTION:   H = 0.937 ");
 }
