@@ -170,8 +170,11 @@ std::string BeamPage::Unsaid(const BeamInput& input, const BeamLoad& load) const
         return {};
     std::string text =
         "Holds where the compression flange is braced at least every " + Full_Length_Text(braced);
+    const bool factored = !Is_9th_Edition() && Method() == DesignMethod::LRFD;
+    if (factored)
+        Add_Line(text, "LRFD: w is factored, own weight included");
     const double deflection = Deflection_Inches(load.LoadKipsPerFoot, load.SpanFeet, section.Ix);
-    if ((Is_9th_Edition() || Method() == DesignMethod::ASD) && deflection > 0)
+    if (!factored && deflection > 0)
         Attempt([&] {
             const double ratio = load.SpanFeet * inchesPerFoot / deflection;
             Add_Line(text, "Deflection under this load: " + Format_Number(deflection, loadPattern) +

@@ -206,7 +206,7 @@ std::string Length_Text(double feet) {
 
 std::string Full_Length_Text(double feet) {
     std::string text = Length_Text(feet);
-    const std::size_t inches = text.find("'-");
+    const std::size_t inches = text.find('\'');
     if (inches != std::string::npos && text.find('/') != std::string::npos &&
         text.find(' ', inches) == std::string::npos)
         text.insert(inches + 2, "0 ");

@@ -389,7 +389,8 @@ TEST_F(BeamPageTest, WhatToUseAndWhatIsLeftUnsaid) {
               "Deflection under this load: 2.40 in., L/175");
     page->CodeOpt[1].Select();
     EXPECT_EQ(page->LoadNotes.Caption(),
-              "Holds where the compression flange is braced at least every 5'-9 15/16\"");
+              "Holds where the compression flange is braced at least every 5'-9 15/16\"\n"
+              "LRFD: w is factored, own weight included");
     page->AppliedCode.Select(code9thEdition); // 76 x 7.5 / sqrt(50) = 80.6 in.
     EXPECT_TRUE(page->LoadNotes.Caption().starts_with(
         "Holds where the compression flange is braced at least every 6'-8 5/8\"\nDeflection"));
