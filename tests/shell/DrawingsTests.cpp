@@ -49,8 +49,10 @@ std::string Look(Ink ink, const std::string& name) {
     return inks[static_cast<std::size_t>(ink)] + (name.empty() ? "" : " [" + name + "]");
 }
 
-std::string Written(const Drawing& drawing) {
-    const Drawn::Layout layout = Laid_Out(drawing, {496, 440});
+constexpr Drawn::Size usualView{496, 440}, lowView{525, 164};
+
+std::string Written(const Drawing& drawing, Drawn::Size view) {
+    const Drawn::Layout layout = Laid_Out(drawing, view);
     std::string text = drawing.Sentence + "\n";
     for (const Fill& fill : layout.Fills) {
         if (fill.In == Ink::Measure) // the heads of dimensions, where their lines end
@@ -78,8 +80,9 @@ std::string Written(const Drawing& drawing) {
 
 TEST(Drawings, AreAsTheyWereLookedAt) {
     std::string text;
-    const auto add = [&text](const std::string& title, const Drawing& drawing) {
-        text += "== " + title + "\n" + Written(drawing);
+    const auto add = [&text](const std::string& title, const Drawing& drawing,
+                             Drawn::Size view = usualView) {
+        text += "== " + title + "\n" + Written(drawing, view);
     };
     const std::pair<int, const char*> sections[] = {
         {0, "W18x50"},          {3, "S12x35"},      {4, "C10x20"},    {5, "MC18x58"},
@@ -88,6 +91,11 @@ TEST(Drawings, AreAsTheyWereLookedAt) {
         {16, "2L6x4x1/2LLBB"}};
     for (const auto& [family, name] : sections)
         add(name, Read_Section_Drawing(family, name, {TENSARIX_PROGRAM_DIR}, DrawingDetail::Full));
+    for (const auto& [family, name] :
+         {std::pair{0, "W44x335"}, {4, "C15x50"}, {13, "L8x8x1-1/8"}, {14, "L2-1/2x1-1/2x3/16"}})
+        add(name + std::string{" in little room"},
+            Read_Section_Drawing(family, name, {TENSARIX_PROGRAM_DIR}, DrawingDetail::Full),
+            lowView);
     add("W18x50, SI, small", Read_Section_Drawing(0, "W18x50", {TENSARIX_PROGRAM_DIR, Profile::SI},
                                                   DrawingDetail::Small));
 
@@ -102,6 +110,7 @@ TEST(Drawings, AreAsTheyWereLookedAt) {
     add("bolts 3 x 1, search outside",
         Bolt_Group_Drawing({3, 1, 3, 3, 8, 0, Balanced_Bolts({3, 1, 3, 3}, 8, 0), 1e6}));
     add("welds 6", Weld_Group_Drawing({6, 10, 5, 8, 30, Balanced_Welds(6, 10, 5, 8, 30), 3.0}));
+    add("welds 8, loaded in the centroid", Weld_Group_Drawing({8, 8, 8, 0, 75, {}, {}}), lowView);
     WeldPasses passes;
     for (int i = 0; i < 60; ++i)
         passes.Add({i / 10.0, 30 - 20 / (1.0 + i), 30 + 90 / (1.0 + i)});
