@@ -357,7 +357,9 @@ class Walk {
 
     void Menu(const std::string& name, QMenu& menu) {
         Show(name, menu);
-        menu.close();
+        // Not close(), which does nothing to a menu that its window has left already: it would stay
+        // the active popup, and the next dialog wait for it for ever.
+        menu.hide();
         Settle();
     }
 
