@@ -305,8 +305,9 @@ bool Sheet::Is_Free(const Box& place, Care care) const {
         std::any_of(toCome_.begin(), toCome_.end(),
                     [&](const auto& line) { return room.Meets(line.second.From, line.second.To); }))
         return false;
-    room.Left = place.Left - betweenTexts * em_;
-    room.Right = place.Right + betweenTexts * em_;
+    const double between = care == Care::LinesToCome ? wellBetweenTexts : betweenTexts;
+    room.Left = place.Left - between * em_;
+    room.Right = place.Right + between * em_;
     return std::none_of(layout_.Texts.begin(), layout_.Texts.end(),
                         [&](const Text& text) { return text.Place.Overlaps(room); });
 }

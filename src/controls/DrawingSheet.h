@@ -23,7 +23,7 @@ inline constexpr Care cares[] = {Care::LinesToCome, Care::Everything, Care::AllL
                                  Care::DimensionLines};
 
 // Side by side, in heights of a line of text.
-inline constexpr double betweenTexts = 0.9;
+inline constexpr double betweenTexts = 0.9, wellBetweenTexts = 1.6;
 
 // What may be left away for want of room.
 struct Detail {
