@@ -171,9 +171,11 @@ TEST_F(GridWindowTest, RemarksLookAndSoundAsTheyWeigh) {
     // A column that isn't what its head says: each of its values, and not the cells without.
     grid.Set_Remark(0, 5, "of another column", RemarkWeight::Caution);
     grid.Set_Remark(0, 4, "in inches");
+    grid.Set_Text(1, 5, "6.000");
     grid.Set_Text(2, 5, "4.000");
     grid.Set_Text(2, 4, "3.000");
     Settle();
+    EXPECT_EQ(ground(1, 5), ground(3, 7));
     EXPECT_EQ(ground(2, 5), ground(3, 7));
     EXPECT_EQ(cell(2, 5, Qt::ToolTipRole), "Caution: of another column");
     EXPECT_FALSE(cell(3, 5, Qt::BackgroundRole).isValid());
@@ -192,6 +194,16 @@ TEST_F(GridWindowTest, RemarksLookAndSoundAsTheyWeigh) {
     };
     EXPECT_NE(marks(2), marks(3));
     EXPECT_NE(marks(3), marks(4));
+    // Where the choice hides the ground, a frame all around shows it.
+    for (const RemarkWeight weight : {RemarkWeight::Note, RemarkWeight::Caution}) {
+        QImage chosen(60, 24, QImage::Format_RGB32);
+        chosen.fill(Qt::black);
+        QPainter painter(&chosen);
+        Paint_Remark_Mark(painter, chosen.rect(), weight, view.palette(), true);
+        for (const QPoint& edge : {QPoint(1, 12), QPoint(30, 1), QPoint(58, 18), QPoint(30, 22)})
+            EXPECT_EQ(chosen.pixelColor(edge) == QColor(Qt::black), weight == RemarkWeight::Note);
+        EXPECT_EQ(chosen.pixelColor(30, 12), QColor(Qt::black));
+    }
 
     auto& label = Find<QLabel>("RowRemark");
     program->Form().Design.Bolts.RowRemark.Set_Caption("use 0.732, 75 % less",

@@ -92,7 +92,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return role == Qt::DisplayRole ? QVariant(Unseen_Head(col < grid_.FixedCols()))
                                        : QVariant();
     if (head && col == grid_.Sort_Col())
-        if (const QVariant sorted = Sorted_Head(col, role); sorted.isValid())
+        if (QVariant sorted = Sorted_Head(col, role); sorted.isValid())
             return sorted;
     return Cell(row, col, role);
 }
