@@ -44,6 +44,7 @@ std::vector<const Part*> First_To_Go(const Drawing& drawing, std::size_t count) 
     std::sort(all.begin(), all.end());
     all.resize(std::min(count, all.size()));
     std::vector<const Part*> parts;
+    parts.reserve(all.size());
     for (const auto& [main, length, part] : all)
         parts.push_back(part);
     return parts;

@@ -147,7 +147,7 @@ class FlexGrid {
     // The selected cells, a tab between cells and a carriage return between rows.
     std::string Clip() const { return Clip_Of(row_, col_, rowSel_, colSel_); }
     // The same of the cells between these two.
-    std::string Clip_Of(int row, int col, int rowSel, int colSel) const;
+    std::string Clip_Of(int row1, int col1, int row2, int col2) const;
 
     // What the user does, for the view and for tests.
     void Press(int row, int col); // left button down on a cell
