@@ -35,7 +35,7 @@ run() { # NAME COMMAND...
     local name=$1 log=build/windows/$1.log
     shift
     say "Testing ($name)"
-    wine "$@" >"$log" 2>&1 || failed+=("$log")
+    timeout 900 wine "$@" >"$log" 2>&1 || failed+=("$log")
     tail -n 3 "$log"
 }
 for tests in "$program"/*_tests.exe; do
