@@ -99,8 +99,8 @@ void Find_Critical(const std::vector<WeldLine>& lines, double Ro, const WeldStat
                    WeldPass& pass, SearchYield& yield) {
     double leastDegrees = std::numeric_limits<double>::infinity();
     double leastRatio = leastDegrees;
-    std::array<double, blockSize>
-        powers; // NOLINT(cppcoreguidelines-pro-type-member-init): for speed
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): for speed
+    std::array<double, blockSize> powers;
     const auto use = [&](const LineSweep& line, const ElementBlock& block) {
         Degrees(line, block, powers.data());
         for (std::size_t k = 0; k < block.count; ++k) {

@@ -41,16 +41,23 @@ ColumnFacts Facts_Of(SectionRecordset& records, const Layout& layout, const Prop
 
 // Where the values of a property aren't in the results, or not under its head.
 Advice Place_Note(const Layout& layout, const std::string& name) {
-    const int col = Value_Column(layout, TableVariant::Find, name);
-    if (col < 0)
-        return {"The search goes by " + name + ", which the results do not show: for " + name +
-                    " see Browse Sections.",
-                RemarkWeight::Caution};
-    const Property* head = Head_Over(layout, TableVariant::Find, col);
-    if (!head || head->Symbol == name)
-        return {};
-    return {"The results show " + name + " under the head " + std::string{head->Symbol} + ".",
-            RemarkWeight::Caution};
+    constexpr TableVariant find = TableVariant::Find;
+    const int at = Value_Column(layout, find, name);
+    for (int col = 0; col < layout.TableColumns; ++col) {
+        const Property *head = Head_Over(layout, find, col), *values = Values_In(layout, find, col);
+        if (!head || !values || head->Symbol == values->Symbol)
+            continue;
+        if (col == at)
+            return {"The results show " + name + " under the head " + std::string{head->Symbol} +
+                        ".",
+                    RemarkWeight::Caution};
+        if (at < 0 && head->Symbol == name)
+            return {"The search goes by " + name + ", but the column " + name +
+                        " of the results holds " + std::string{values->Symbol} + ": for " + name +
+                        " see Browse Sections.",
+                    RemarkWeight::Caution};
+    }
+    return {};
 }
 
 } // namespace

@@ -97,6 +97,10 @@ const Property* Head_Over(const Layout& layout, TableVariant variant, int col) {
     return Last_In(layout, variant, layout.HeadColumns, col);
 }
 
+const Property* Values_In(const Layout& layout, TableVariant variant, int col) {
+    return Last_In(layout, variant, layout.ValueColumns, col);
+}
+
 SectionRecordset Family_Records(std::string_view familyCode, const SectionView& view) {
     SectionRecordset records;
     Attempt(

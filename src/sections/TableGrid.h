@@ -36,8 +36,9 @@ void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, co
 
 // The column where the values of a property stand; -1: none, as where others are written over them.
 int Value_Column(const Layout& layout, TableVariant variant, std::string_view symbol);
-// The property whose head stands over a column; none over an empty one.
+// The property whose head stands over a column, and the one whose values stand in it, or none.
 const Property* Head_Over(const Layout& layout, TableVariant variant, int col);
+const Property* Values_In(const Layout& layout, TableVariant variant, int col);
 // The number in the store behind the value that Write_Table_Row writes into a column; of several
 // that share it, the last that there is. Fails where there is none.
 double Table_Number(const SectionRecordset& record, const Layout& layout, TableVariant variant,

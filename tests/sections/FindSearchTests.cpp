@@ -288,7 +288,7 @@ TEST(FindSearch, NotesTellWhatASearchCanNotSee) {
         {"L-Eq", "Tan Alpha", Profile::US, "no column"}, {"ST", "d / tw", Profile::US, "no column"},
         {"ST", "d / tw", Profile::SI, "no column"},      {"C", "k1", Profile::US, "not tabulated"},
         {"HSS-Rec", "Cw", Profile::SI, "not tabulated"}, {"WT", "k", Profile::US, "another figure"},
-        {"MC", "x", Profile::US, "do not show: for x see"}, {"C", "Ix", Profile::SI, "under the head eo"},
+        {"MC", "x", Profile::US, "column x of the results holds xp"}, {"C", "Ix", Profile::SI, "under the head eo"},
         {"C", "Sx", Profile::US, ""}, {"ST", "k", Profile::US, ""}, {"HSS-Sqr", "b", Profile::US, ""},
         {"HSS-Rnd", "D / t", Profile::US, ""}, {"W", "T", Profile::US, ""},
         {"W", "Ix", Profile::SI, "full mm^4"}, {"W", "Ix", Profile::US, ""},
