@@ -6,7 +6,6 @@
 #include <thread>
 
 using namespace Tensarix;
-namespace fs = std::filesystem;
 
 TEST_F(ReplaceFileTest, WhatIsWrittenIsReadBack) {
     ByteWriter writer;
