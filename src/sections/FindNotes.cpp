@@ -42,22 +42,28 @@ ColumnFacts Facts_Of(SectionRecordset& records, const Layout& layout, const Prop
 // Where the values of a property aren't in the results, or not under its head.
 Advice Place_Note(const Layout& layout, const std::string& name) {
     constexpr TableVariant find = TableVariant::Find;
-    const int at = Value_Column(layout, find, name);
-    for (int col = 0; col < layout.TableColumns; ++col) {
-        const Property *head = Head_Over(layout, find, col), *values = Values_In(layout, find, col);
-        if (!head || !values || head->Symbol == values->Symbol)
-            continue;
-        if (col == at)
-            return {"The results show " + name + " under the head " + std::string{head->Symbol} +
-                        ".",
-                    RemarkWeight::Caution};
-        if (at < 0 && head->Symbol == name)
-            return {"The search goes by " + name + ", but the column " + name +
-                        " of the results holds " + std::string{values->Symbol} + ": for " + name +
-                        " see Browse Sections.",
-                    RemarkWeight::Caution};
+    const auto headed = [&](int col, std::string_view symbol) {
+        const Property* head = Head_Over(layout, find, col);
+        return head && head->Symbol == symbol;
+    };
+    int at = Value_Column(layout, find, name);
+    if (headed(at, name))
+        return {};
+    std::string text;
+    if (const Property* head = Head_Over(layout, find, at)) {
+        text.append("The results show ").append(name).append(" under the head ");
+        text.append(head->Symbol).append(".");
+        return {text, RemarkWeight::Caution};
     }
-    return {};
+    for (at = 0; at < layout.TableColumns && !headed(at, name);)
+        ++at;
+    const Property* values = Values_In(layout, find, at);
+    if (!values)
+        return {};
+    text.append("The search goes by ").append(name).append(", but the column ").append(name);
+    text.append(" of the results holds ").append(values->Symbol).append(": for ").append(name);
+    text.append(" see Browse Sections.");
+    return {text, RemarkWeight::Caution};
 }
 
 } // namespace
