@@ -87,15 +87,19 @@ class Walk {
         dialog.close();
     }
 
-    // Tries again until the next dialog has the keyboard.
+    // Tries again until the next dialog has the keyboard; at last it acts without it, a fault.
     void When_Open(const QWidget* below, const std::shared_ptr<bool>& done, const Act& act,
                    int tries = openTries) {
         QTimer::singleShot(openWaitMs, qApp, [=, this] {
             QWidget* const dialog = QApplication::activeModalWidget();
-            if (*done || tries == 0)
+            const bool open = dialog && dialog != below;
+            if (*done || (!open && tries == 0))
                 return;
-            if (!dialog || dialog == below || !dialog->isActiveWindow())
+            if (!open || (!dialog->isActiveWindow() && tries > 0)) {
+                if (open) // where no window manager does it
+                    dialog->activateWindow();
                 return When_Open(below, done, act, tries - 1);
+            }
             *done = true;
             act(*dialog);
             Leave(*dialog);
