@@ -8,7 +8,7 @@ TEST_PACKAGES="xvfb xauth dpkg-dev file desktop-file-utils appstream xdotool xcl
 LIGHT_CHECK_PACKAGES="clang-format cppcheck shellcheck"
 TIDY_PACKAGES="clang-tidy libbenchmark-dev"
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix dpkg-dev tcl nsis"
-WINDOWS_TEST_PACKAGES="wine64 wine fonts-wine xvfb openbox googletest"
+WINDOWS_TEST_PACKAGES="wine64 wine fonts-wine xvfb googletest"
 
 say() { printf '== %s\n' "$*"; }
 

@@ -24,7 +24,6 @@ trap 'wineserver -k; kill $server' EXIT
 until [ -s build/windows/display ]; do sleep 0.1; done
 DISPLAY=:$(head -1 build/windows/display)
 export DISPLAY
-openbox >build/windows/openbox.log 2>&1 & # else no window gives the keyboard to the next one
 wine wineboot -i >build/windows/wine.log 2>&1 || fail "wine does not start; see build/windows/wine.log"
 # Debian's wine does not look where its own fonts lie; without a display the toolkit has none at all.
 cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
