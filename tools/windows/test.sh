@@ -18,6 +18,7 @@ export WINEPREFIX=$PWD/build/windows/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscor
 runtime=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")
 export WINEPATH="Z:$libraries/bin;Z:$runtime;Z:/usr/x86_64-w64-mingw32/lib"
 
+rm -f build/windows/display # an earlier run's: wine would start before there is a display
 Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp -noreset 3>build/windows/display 2>build/windows/xvfb.log &
 server=$!
 trap 'wineserver -k; kill $server' EXIT
