@@ -87,18 +87,20 @@ class Walk {
         dialog.close();
     }
 
-    // Tries again until the next dialog has the keyboard; at last it acts without it, a fault.
+    // Tries again until the next dialog has the keyboard. One that never gets it is closed: else it
+    // would stay open for ever.
     void When_Open(const QWidget* below, const std::shared_ptr<bool>& done, const Act& act,
                    int tries = openTries) {
         QTimer::singleShot(openWaitMs, qApp, [=, this] {
             QWidget* const dialog = QApplication::activeModalWidget();
-            const bool open = dialog && dialog != below;
+            const bool open = dialog && dialog != below, active = open && dialog->isActiveWindow();
             if (*done || (!open && tries == 0))
                 return;
-            if (!open || (!dialog->isActiveWindow() && tries > 0)) {
-                if (open) // where no window manager does it
-                    dialog->activateWindow();
+            if (!active && tries > 0)
                 return When_Open(below, done, act, tries - 1);
+            if (!active) {
+                dialog->close();
+                return;
             }
             *done = true;
             act(*dialog);
@@ -111,7 +113,7 @@ class Walk {
         const auto done = std::make_shared<bool>(false);
         When_Open(QApplication::activeModalWidget(), done, act);
         open();
-        Expect(std::exchange(*done, true), "no dialog has opened");
+        Expect(std::exchange(*done, true), "no dialog has opened with the keyboard in it");
         Settle();
     }
 
@@ -361,9 +363,7 @@ class Walk {
 
     void Menu(const std::string& name, QMenu& menu) {
         Show(name, menu);
-        // Not close(), which does nothing to a menu that its window has left already: it would stay
-        // the active popup, and the next dialog wait for it for ever.
-        menu.hide();
+        menu.close();
         Settle();
     }
 

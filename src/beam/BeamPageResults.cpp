@@ -170,7 +170,7 @@ std::string BeamPage::Unsaid(const BeamInput& input, const BeamLoad& load) const
         return {};
     std::string text =
         "Holds where the compression flange is braced at least every " + Full_Length_Text(braced);
-    const bool factored = !Is_9th_Edition() && Method() == DesignMethod::LRFD;
+    const bool factored = Rules() == BeamMethod::LRFD13th;
     if (factored)
         Add_Line(text, "LRFD: w is factored, own weight included");
     const double deflection = Deflection_Inches(load.LoadKipsPerFoot, load.SpanFeet, section.Ix);

@@ -49,18 +49,25 @@ void Lay_Out(FlexGrid& grid, int rows) {
     }
 }
 
+// The SI columns of the store are called like the US ones, behind an x.
+std::string SI_Column_Remark(const SectionRecordset& record, const Property& property) {
+    std::string remark{siColumnRemark};
+    Attempt([&] {
+        const double figure = record.Number(property.SIColumn.substr(1));
+        remark.append(": use ").append(Format_Number(figure, "0.00##"));
+        remark.append(" ").append(property.USUnit);
+    });
+    return remark;
+}
+
 void Write_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Property& property) {
     grid.Set_Text(row, symbolColumn, std::string{property.Symbol});
     Attempt([&] {
         grid.Set_Text(row, valueColumn,
                       Value_Text(record, property, Profile::US, DimensionStyle::Decimal));
         if (property.USColumn == property.SIColumn && property.Kind == PropertyKind::Length)
-            grid.Set_Remark(
-                row, valueColumn,
-                std::string{siColumnRemark} +
-                    Format_Number(record.Number(property.USColumn.substr(1)), "0.00##") + " " +
-                    std::string{property.USUnit},
-                RemarkWeight::Caution); // the SI columns have an x before the name
+            grid.Set_Remark(row, valueColumn, SI_Column_Remark(record, property),
+                            RemarkWeight::Caution);
     });
     grid.Set_Text(row, unitColumn, std::string{property.USUnit});
 }

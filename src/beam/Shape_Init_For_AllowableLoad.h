@@ -22,8 +22,8 @@ struct BeamRows {
 
 extern const BeamRows WShape_For_AllowableLoad, SShape_For_AllowableLoad, CShape_For_AllowableLoad;
 
-// Of the channels' row rx; the figure to use follows.
+// Of the channels' row rx; behind it the figure to use, if there is one.
 inline constexpr std::string_view siColumnRemark =
-    "This row reads the SI figure of the section, in mm: use ";
+    "This row reads the SI figure of the section, in mm";
 
 } // namespace Tensarix

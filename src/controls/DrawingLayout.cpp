@@ -15,8 +15,9 @@ namespace {
 constexpr double edgeRoom = 3; // pixels between the drawing and the edge of the view
 constexpr int mostTries = 12;  // to find the scale at which all fits
 constexpr double scaleStep = 0.92, largePart = 0.6, muchLarger = 1.25;
-constexpr double leastPart = 0.2;       // of the scale without texts; below it, something goes
-constexpr std::size_t valuesBefore = 2; // a part of the dimensions that goes before the values
+// Of the scale without texts: below these, something goes, what crosses texts at the second one.
+constexpr double easyPart = 0.3, leastPart = 0.2;
+constexpr std::size_t valuesBefore = 2; // one dimension in so many may go before the values
 constexpr double barRoom = 2.1, barPart = 0.25, barTick = 0.25, barGap = 0.4; // lines; of the view
 
 Point Between(Point from, Point to, double length) {
@@ -192,7 +193,7 @@ Layout Fit_What_Fits(const Drawing& drawing, Size room, const TextMeasure& measu
         return part > 0;
     };
     for (const auto& [care, least] :
-         {std::pair{Care::LinesToCome, 1.5 * leastPart}, {Care::AllLines, leastPart}})
+         {std::pair{Care::LinesToCome, easyPart}, {Care::AllLines, leastPart}})
         for (std::size_t without = 1; without <= all / valuesBefore; ++without)
             if (fits(true, without, care, least))
                 return layout;

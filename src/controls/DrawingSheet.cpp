@@ -103,14 +103,8 @@ void Sheet::Draw() {
     for (const Part* part : dimensions)
         if (const auto& dimension = std::get<Dimension>(part->What); dimension.At != Side::Inside)
             Place_Dimension(*part, dimension);
-    for (const Part* part : axes) {
-        const auto& line = std::get<CentreLine>(part->What);
-        if (!Place_Behind(*part, Care::AllLines) && !Place_Behind(*part, Care::DimensionLines) &&
-            (detail_.First < Care::AllLines ||
-             !Place_Near(*part, {layout_.In_View(line.To), layout_.In_View(line.From)},
-                         line.Label)))
-            Leave_Out(*part, line.Label);
-    }
+    for (const Part* part : axes)
+        Place_Axis_Label(*part);
     for (const Part& part : drawing_.Parts)
         if (const auto* pointer = std::get_if<Pointer>(&part.What))
             Place_Pointer(part, *pointer);
@@ -210,6 +204,16 @@ void Sheet::Draw_CentreLine(const Part& part, const CentreLine& line) {
                Weight::Thin, line.Dash);
     if (drawing_.Frame && !line.Label.empty())
         Place_Below_Axis(part, line.Label, to.X);
+}
+
+// Where all else has its place already.
+void Sheet::Place_Axis_Label(const Part& part) {
+    if (Place_Behind(part, Care::AllLines) || Place_Behind(part, Care::DimensionLines))
+        return;
+    const auto& line = std::get<CentreLine>(part.What);
+    const std::vector<Point> ends{layout_.In_View(line.To), layout_.In_View(line.From)};
+    if (detail_.First < Care::AllLines || !Place_Near(part, ends, line.Label))
+        Leave_Out(part, line.Label);
 }
 
 // Behind one of its ends, which reaches as far as the label has to go.

@@ -66,6 +66,7 @@ class Sheet {
     void Draw_Mark(const Part& part, const Mark& mark);
     void Draw_Weld(const Part& part, const Weld& weld);
     void Draw_CentreLine(const Part& part, const CentreLine& line);
+    void Place_Axis_Label(const Part& part);
     bool Place_Behind(const Part& part, Care care);
     bool Try_Behind(const Part& part, Point from, Point to, double reach, Care care);
     void Add_Stroke(const Part& part, std::vector<Point> points, Weight width, Pattern dash);

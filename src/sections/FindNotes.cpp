@@ -42,28 +42,17 @@ ColumnFacts Facts_Of(SectionRecordset& records, const Layout& layout, const Prop
 // Where the values of a property aren't in the results, or not under its head.
 Advice Place_Note(const Layout& layout, const std::string& name) {
     constexpr TableVariant find = TableVariant::Find;
-    const auto headed = [&](int col, std::string_view symbol) {
-        const Property* head = Head_Over(layout, find, col);
-        return head && head->Symbol == symbol;
-    };
-    int at = Value_Column(layout, find, name);
-    if (headed(at, name))
+    const int shown = Value_Column(layout, find, name), headed = Head_Column(layout, find, name);
+    if (shown == headed)
         return {};
-    std::string text;
-    if (const Property* head = Head_Over(layout, find, at)) {
-        text.append("The results show ").append(name).append(" under the head ");
-        text.append(head->Symbol).append(".");
-        return {text, RemarkWeight::Caution};
-    }
-    for (at = 0; at < layout.TableColumns && !headed(at, name);)
-        ++at;
-    const Property* values = Values_In(layout, find, at);
-    if (!values)
-        return {};
-    text.append("The search goes by ").append(name).append(", but the column ").append(name);
-    text.append(" of the results holds ").append(values->Symbol).append(": for ").append(name);
-    text.append(" see Browse Sections.");
-    return {text, RemarkWeight::Caution};
+    if (shown >= 0)
+        return {"The results show " + name + " under the head " +
+                    std::string{Head_Over(layout, find, shown)->Symbol} + ".",
+                RemarkWeight::Caution};
+    return {"The search goes by " + name + ", but the column " + name + " of the results holds " +
+                std::string{Values_In(layout, find, headed)->Symbol} + ": for " + name +
+                " see Browse Sections.",
+            RemarkWeight::Caution};
 }
 
 } // namespace

@@ -53,6 +53,18 @@ const Property* Last_In(const Layout& layout, TableVariant variant, std::span<co
     return last;
 }
 
+// The column of a property; -1 where another one is written over it, or there is none.
+int Column_Left_To(const Layout& layout, TableVariant variant, std::span<const int> numbering,
+                   std::string_view symbol) {
+    for (std::size_t i = 0; i < layout.Entries.size(); ++i)
+        if (const Property& property = Of_Variant(layout.Entries[i], variant);
+            property.Symbol == symbol) {
+            const int col = Column_Of(numbering, i);
+            return Last_In(layout, variant, numbering, col) == &property ? col : -1;
+        }
+    return -1;
+}
+
 void Mark_Shifted_Columns(FlexGrid& grid, const Layout& layout, TableVariant variant,
                           Profile profile) {
     if (layout.ValueColumns.empty())
@@ -84,13 +96,11 @@ int Count_Of(const SectionRecordset& records) {
 }
 
 int Value_Column(const Layout& layout, TableVariant variant, std::string_view symbol) {
-    for (std::size_t i = 0; i < layout.Entries.size(); ++i)
-        if (const Property& property = Of_Variant(layout.Entries[i], variant);
-            property.Symbol == symbol) {
-            const int col = Column_Of(layout.ValueColumns, i);
-            return Last_In(layout, variant, layout.ValueColumns, col) == &property ? col : -1;
-        }
-    return -1;
+    return Column_Left_To(layout, variant, layout.ValueColumns, symbol);
+}
+
+int Head_Column(const Layout& layout, TableVariant variant, std::string_view symbol) {
+    return Column_Left_To(layout, variant, layout.HeadColumns, symbol);
 }
 
 const Property* Head_Over(const Layout& layout, TableVariant variant, int col) {

@@ -36,6 +36,8 @@ void Write_Table_Row(FlexGrid& grid, int row, const SectionRecordset& record, co
 
 // The column where the values of a property stand; -1: none, as where others are written over them.
 int Value_Column(const Layout& layout, TableVariant variant, std::string_view symbol);
+// The column over which its head stands; -1: none, likewise.
+int Head_Column(const Layout& layout, TableVariant variant, std::string_view symbol);
 // The property whose head stands over a column, and the one whose values stand in it, or none.
 const Property* Head_Over(const Layout& layout, TableVariant variant, int col);
 const Property* Values_In(const Layout& layout, TableVariant variant, int col);

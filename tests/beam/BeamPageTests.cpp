@@ -291,7 +291,7 @@ TEST_F(BeamPageTest, TheGridOfEachFamily) {
             EXPECT_EQ(grid.Text(row, 1), Format_Number(store.Number(column), "0.00##  "));
             EXPECT_EQ(grid.Text(row, 2), unit);
             EXPECT_EQ(grid.Remark(row, 1),
-                      column == "xRX" ? std::string{siColumnRemark} +
+                      column == "xRX" ? std::string{siColumnRemark} + ": use " +
                                             Format_Number(store.Number("RX"), "0.00##") + " in"
                                       : "");
             EXPECT_EQ(grid.Row_Height(row), 345);
