@@ -50,7 +50,7 @@ void Lay_Out(FlexGrid& grid, int rows) {
 }
 
 // The SI columns of the store are called like the US ones, behind an x.
-std::string SI_Column_Remark(const SectionRecordset& record, const Property& property) {
+std::string Millimetre_Remark(const SectionRecordset& record, const Property& property) {
     std::string remark{siColumnRemark};
     Attempt([&] {
         const double figure = record.Number(property.SIColumn.substr(1));
@@ -66,7 +66,7 @@ void Write_Row(FlexGrid& grid, int row, const SectionRecordset& record, const Pr
         grid.Set_Text(row, valueColumn,
                       Value_Text(record, property, Profile::US, DimensionStyle::Decimal));
         if (property.USColumn == property.SIColumn && property.Kind == PropertyKind::Length)
-            grid.Set_Remark(row, valueColumn, SI_Column_Remark(record, property),
+            grid.Set_Remark(row, valueColumn, Millimetre_Remark(record, property),
                             RemarkWeight::Caution);
     });
     grid.Set_Text(row, unitColumn, std::string{property.USUnit});
